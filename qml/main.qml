@@ -1,0 +1,44 @@
+import QtQuick 2.12
+import QtQuick.Controls 2.12
+import QtQuick.Controls.Material 2.12
+import QtQuick.VirtualKeyboard 2.2
+
+// The application window. The screens of the instrument come in later; this
+// holds the window, its style and the virtual keyboard.
+ApplicationWindow {
+    id: root
+    width: 640
+    height: 480
+    visible: true
+    title: "Vantor Pro V400"
+    Material.theme: Material.Light
+    Material.accent: Material.Blue
+
+    header: ToolBar {
+        Label {
+            anchors.centerIn: parent
+            text: "Vantor Pro V400"
+            font.pixelSize: 20
+            color: "white"
+        }
+    }
+
+    Label {
+        anchors.centerIn: parent
+        text: "Ready"
+        font.pixelSize: 28
+    }
+
+    InputPanel {
+        id: inputPanel
+        z: 99
+        x: 0
+        y: root.height
+        width: root.width
+        states: State {
+            name: "visible"
+            when: inputPanel.active
+            PropertyChanges { target: inputPanel; y: root.height - inputPanel.height }
+        }
+    }
+}

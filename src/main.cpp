@@ -1,0 +1,52 @@
+// Brings the instrument application up: database first, then the splash, the
+// back-end singletons in a fixed order, the context properties of the user
+// interface, and the event loop. Each subsystem adds its own lines here in
+// the order below; nothing here holds instrument logic.
+
+#include "appconstants.h"
+#include "system/platform.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <QSqlDatabase>
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::addLibraryPath(QStringLiteral("."));
+
+    // The database, before any application object exists.
+    Platform::prepareSandbox();
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+    db.setDatabaseName(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
+    db.open();
+
+    qputenv("QT_IM_MODULE", QByteArray("qtvirtualkeyboard"));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication app(argc, argv);
+    QQuickStyle::setStyle(QStringLiteral("Material"));
+
+    // The splash, visible while the back end is built.
+    QQmlApplicationEngine engine_startup;
+    engine_startup.load(QUrl(QStringLiteral("qrc:/startup.qml")));
+    QQmlApplicationEngine engine;
+
+    // Close the splash once every context property is set, then load the UI.
+    if (!engine_startup.rootObjects().isEmpty()) {
+        if (auto *splash = qobject_cast<QQuickWindow *>(engine_startup.rootObjects().first()))
+            splash->close();
+    }
+    engine_startup.clearComponentCache();
+
+    engine.load(QUrl(QStringLiteral("qrc:/main.qml")));
+    if (engine.rootObjects().isEmpty()) {
+        qDebug() << "Kestrum: main.qml did not load";
+    } else {
+        qDebug() << "Kestrum: user interface loaded";
+    }
+
+    return app.exec();
+}

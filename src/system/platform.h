@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+// The one place that knows which profile the program runs in.
+//
+// Target profile: every fixed path and device node is used as written
+// ("/var/KestrumDB", "/dev/ttymxc2") and system commands run for real.
+// Host profile (the default build): every absolute path is rooted under a
+// sandbox directory, and only harmless commands (cp, mkdir, find, chmod, ls)
+// run; everything that changes the machine (reboot, service restart, clock,
+// mount, network, flashing the slave) is recorded and answered with a
+// simulated result, so a developer machine running as root stays safe.
+class Platform
+{
+public:
+    struct Result {
+        bool started = false;   // the program could be started (or was simulated)
+        bool simulated = false; // host profile: recorded, not run
+        int exitCode = -1;
+        QByteArray standardOutput;
+        QByteArray standardError;
+        bool ok() const { return started && exitCode == 0; }
+    };
+
+    static bool isTarget();
+
+    // Maps a fixed target path ("/var/KestrumDB") to the path used here.
+    static QString path(const QString &targetPath);
+    // The sandbox root of the host profile ("" on the target).
+    static QString sandboxRoot();
+    // Host profile only: points the layer at another sandbox (tests do this).
+    static void setSandboxRoot(const QString &root);
+    // Host profile: creates the sandbox and the target's fixed folders in it
+    // ("/var/Kestrum/log", "/dev", "/media/usb"...). Nothing on the target.
+    static void prepareSandbox();
+
+    // Runs a command with an argument list (never a shell string built from
+    // data) and waits up to timeoutMs.
+    static Result run(const QString &program, const QStringList &arguments, int timeoutMs);
+    // Starts a command without waiting for it.
+    static bool startDetached(const QString &program, const QStringList &arguments);
+
+    // Host profile: the commands recorded instead of run, one line each, in
+    // the order asked ("systemctl restart b2qt"). Also kept in the sandbox
+    // file "/var/Kestrum/platform-commands.log".
+    static QStringList recordedCommands();
+    static void clearRecordedCommands();
+    // Host profile: the answer a simulated program gives (default: exit 0, no output).
+    static void setSimulatedResult(const QString &program, const Result &result);
+
+    // Whether the host profile would run this program for real.
+    static bool runsForReal(const QString &program);
+};

@@ -1,0 +1,51 @@
+#include "testsupport.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+TempSandbox::TempSandbox()
+    : m_previous(Platform::sandboxRoot())
+{
+    Platform::setSandboxRoot(m_dir.path());
+    Platform::prepareSandbox();
+    Platform::clearRecordedCommands();
+}
+
+TempSandbox::~TempSandbox()
+{
+    Platform::setSandboxRoot(m_previous);
+}
+
+bool waitUntil(const std::function<bool()> &pred, int timeoutMs)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!pred()) {
+        if (timer.elapsed() > timeoutMs)
+            return pred();
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        QThread::msleep(1);
+    }
+    return true;
+}
+
+QString readTextFile(const QString &path)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly | QIODevice::Text))
+        return QString();
+    return QString::fromUtf8(f.readAll());
+}
+
+bool writeTextFile(const QString &path, const QString &text)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile f(path);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
+        return false;
+    return f.write(text.toUtf8()) >= 0;
+}
