@@ -1,0 +1,110 @@
+#pragma once
+
+#include "controller/enginedatainterface.h"
+
+#include <memory>
+
+// A plain-field data layer for the engine: every getter answers the field of
+// the same name, every setter stores. Tests set the fields directly.
+class EngineDataStandIn : public EngineDataInterface
+{
+public:
+    EngineDataStandIn();
+    ~EngineDataStandIn() override;
+
+    QString mode = QStringLiteral("Titration");
+    bool blank = false;
+    int noOfEndpoints = 1;
+    float endpoint[3] = {0.f, 0.f, 0.f};
+    int technique = 1;
+    int processCtrl = 0;
+    int mkaProcessCtrl = 0;
+    float deltaE = 0.f, deltaVmin = 0.f, deltaVmax = 0.f, stabilityCriteria = 0.f;
+    float tMin = 0.f, tMax = 0.f, threshold = 0.f;
+    float preDose = 0.f;
+    int preStir = 0;
+    float maxVolmL = 20.f;
+    int stirSpeedIndex = 3;
+    int electrode = 0;
+    float endPoint = 0.f;
+    int resolution = 2;
+    float buretteSizeMl = 20.f;
+    bool displayPh = false;      // getScaledVal answers pH for a pH electrode
+    float temperatureC = 25.f;
+
+    float millivolts = 0.f;
+    float rawTemperature = 25.f;
+    std::array<double, 3> results{{0, 0, 0}};
+    float ep1 = 0.f, ep2 = 0.f;
+    int completedCount = 0;
+    QString mspVersion;
+    bool dispenseInProgress = false;
+    bool cancelled = false;
+    bool stirrerOn = false;
+    int stirSpeed = 3;
+    int rinse = 3;
+    int lastStartRinse = 3;
+    QString console;
+    bool consoleNew = false;
+
+    QString deviceMode() const override { return mode; }
+    void setDeviceMode(const QString &m) override { mode = m; }
+    bool blankTitrationMode() const override { return blank; }
+    int getNoOfEndpoints() const override { return noOfEndpoints; }
+    float getEndpointValue_First() const override { return endpoint[0]; }
+    float getEndpointValue_Second() const override { return endpoint[1]; }
+    float getEndpointValue_Third() const override { return endpoint[2]; }
+    int getTitrationTechnique() const override { return technique; }
+    int getTitrationProcessCtrl() const override { return processCtrl; }
+    int getMKAProcessCtrl() const override { return mkaProcessCtrl; }
+    float getDeltaE() const override { return deltaE; }
+    float getDeltaVmin() const override { return deltaVmin; }
+    float getDeltaVmax() const override { return deltaVmax; }
+    float getStabilityCriteria() const override { return stabilityCriteria; }
+    float gettMin() const override { return tMin; }
+    float gettMax() const override { return tMax; }
+    float getThreshold() const override { return threshold; }
+    float getPreDoseTitrantVolume() const override { return preDose; }
+    int getTitratrationOrStandardardizationPreStir() const override { return preStir; }
+    float getTitratrationOrStandardardizationMaxVolmL() const override { return maxVolmL; }
+    int getIndexOfStirSpeed() const override { return stirSpeedIndex; }
+    int getElectrode() const override { return electrode; }
+    float getEndPoint() const override { return endPoint; }
+    int getResolution() const override { return resolution; }
+    float buretteSize() const override { return buretteSizeMl; }
+
+    float getScaledVal(float mv) override;
+    float millivoltsToPH(float mv) override;
+    float phToMillivolts(float ph) override;
+
+    void setMillivolts(float mv) override { millivolts = mv; }
+    void setRawTemperatureCelcius(float c) override { rawTemperature = c; }
+    void setMultipleEndPointVolumes(const std::array<double, 3> &v) override { results = v; }
+    std::array<double, 3> getResultArray() const override { return results; }
+    void setEpResult1(float v) override { ep1 = v; }
+    void setEpResult2(float v) override { ep2 = v; }
+    void titrationCompleted() override { ++completedCount; }
+    void setMspVersion(const QString &v) override { mspVersion = v; }
+    QString getMspVersion() const override { return mspVersion; }
+
+    bool getDispenseInProgress() const override { return dispenseInProgress; }
+    void setDispenseInProgress(bool on) override { dispenseInProgress = on; }
+    bool getTitrationCancelled() const override { return cancelled; }
+    void setTitrationCancelled(bool on) override { cancelled = on; }
+    bool qmlStirrerState() const override { return stirrerOn; }
+    void setQmlStirrerState(bool on) override { stirrerOn = on; }
+    int qmlStirSpeed() const override { return stirSpeed; }
+    void setQmlStirSpeed(int s) override { stirSpeed = s; }
+    int rinseCycles() const override { return rinse; }
+    void setLastStartRinseCycles(int c) override { lastStartRinse = c; }
+
+    void sendToConsole(const QString &text) override;
+    bool getConsoleMes(QString *text) override;
+
+    LogManager *titrationLogFile() override;
+    LogManager *rawTitrationLogFile() override;
+
+private:
+    std::unique_ptr<LogManager> m_titrationLog;
+    std::unique_ptr<LogManager> m_rawTitrationLog;
+};
