@@ -55,7 +55,7 @@ void TemporalDataStore::addPoint(long timeStamp, double data)
 
     StoreLogRow row;
     row.add(timeStamp).add(data).add(m_filtered.back()).end();
-    m_log.write(QString::fromLatin1(row.text(), row.length()));
+    m_log.write(row.text(), row.length());
 }
 
 bool TemporalDataStore::lastFiltered(double &value) const

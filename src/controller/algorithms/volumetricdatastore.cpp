@@ -62,7 +62,7 @@ void VolumetricDataStore::addPoint(double volume, double data)
 
     StoreLogRow row;
     row.add(volume).add(data).add(std::abs(m_slope.back())).add(m_secondDerivative.back()).end();
-    m_log.write(QString::fromLatin1(row.text(), row.length()));
+    m_log.write(row.text(), row.length());
 }
 
 bool VolumetricDataStore::lastSlopesFollow(double direction) const
