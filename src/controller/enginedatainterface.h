@@ -46,6 +46,7 @@ public:
     virtual float getEndPoint() const = 0;
     virtual int getResolution() const = 0;
     virtual float buretteSize() const = 0;           // mL
+    virtual QString displayUnits() const = 0;        // of the titration setup: "pH" or "mV"
 
     // Conversions of the run's readings.
     virtual float getScaledVal(float millivolts) = 0;

@@ -29,7 +29,7 @@ public:
     float endPoint = 0.f;
     int resolution = 2;
     float buretteSizeMl = 20.f;
-    bool displayPh = false;      // getScaledVal answers pH for a pH electrode
+    bool displayPh = false;      // display unit "pH" (else "mV"); getScaledVal answers pH for a pH electrode
     float temperatureC = 25.f;
 
     float millivolts = 0.f;
@@ -72,6 +72,7 @@ public:
     float getEndPoint() const override { return endPoint; }
     int getResolution() const override { return resolution; }
     float buretteSize() const override { return buretteSizeMl; }
+    QString displayUnits() const override { return displayPh ? QStringLiteral("pH") : QStringLiteral("mV"); }
 
     float getScaledVal(float mv) override;
     float millivoltsToPH(float mv) override;

@@ -121,6 +121,16 @@ int LogManager::write(const QString &text)
     return kOk;
 }
 
+int LogManager::write(const char *text, qint64 length)
+{
+    if (!m_file.isOpen())
+        return kNotOpen;
+    m_stream.flush();
+    m_file.write(text, length);
+    m_file.flush();
+    return kOk;
+}
+
 int LogManager::writeStamped(const QString &text)
 {
     if (!m_file.isOpen())

@@ -27,6 +27,9 @@ public:
     int setLogfileBasename(const QString &name);
     int newCyclicFile(int maxFiles);
     int write(const QString &text);
+    // Appends bytes as they are, with no text conversion and no allocation
+    // once the file is open: for the per-sample rows of the data stores.
+    int write(const char *text, qint64 length);
     int writeStamped(const QString &text);
     void listFiles(QStringList &names) const;
     void exportLogs(QString dir) const;

@@ -1,0 +1,117 @@
+// Cost per point of the run's data stores, and of the fits that end a run.
+#include "controller/algorithms/temporaldatastore.h"
+#include "controller/algorithms/volumetricdatastore.h"
+#include "controller/algorithms/maths/volumetricmath.h"
+#include "system/platform.h"
+
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+double curve(double v)
+{
+    return 100.0 * std::tanh((v - 5000.0) / 200.0) + 60.0 * std::tanh((v - 9000.0) / 200.0);
+}
+
+// The stores write their logs into a throw-away sandbox.
+struct Sandbox
+{
+    Sandbox() { Platform::setSandboxRoot(dir.path()); }
+    QTemporaryDir dir;
+};
+
+void BM_TemporalAddPoint(benchmark::State &state)
+{
+    Sandbox sandbox;
+    auto store = std::make_unique<TemporalDataStore>();
+    long t = 0;
+    for (auto _ : state) {
+        store->addPoint(t, 100.0 + std::sin(t * 0.001));
+        t += 250;
+        if (store->size() >= TemporalDataStore::kReservedPoints) {
+            state.PauseTiming();
+            store = std::make_unique<TemporalDataStore>();
+            state.ResumeTiming();
+        }
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_TemporalAddPoint);
+
+// A point of a titration curve, peak search included.
+void BM_VolumetricAddPoint(benchmark::State &state)
+{
+    Sandbox sandbox;
+    auto store = std::make_unique<VolumetricDataStore>();
+    store->setMinimumVolume(40.0);
+    double v = 0.0;
+    for (auto _ : state) {
+        store->addPoint(v, curve(v));
+        v += 10.0;
+        if (store->size() >= 1200) {
+            state.PauseTiming();
+            store = std::make_unique<VolumetricDataStore>();
+            store->setMinimumVolume(40.0);
+            v = 0.0;
+            state.ResumeTiming();
+        }
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_VolumetricAddPoint);
+
+// The end of an equivalence-point run: the fresh peak search over the whole
+// curve, and per end point the cubic's inflection.
+void BM_GetResultsFits(benchmark::State &state)
+{
+    Sandbox sandbox;
+    VolumetricDataStore store;
+    store.setMinimumVolume(40.0);
+    for (double v = 0.0; v <= 12000.0; v += 10.0)
+        store.addPoint(v, curve(v));
+    for (auto _ : state) {
+        store.finalizePeaks(3);
+        double sum = 0.0;
+        for (int i = 0; i < 2; ++i) {
+            const VolumetricMath::Cubic c = VolumetricMath::fit5(store, store.peakIndex(i) - 3);
+            const VolumetricMath::Cubic d = VolumetricMath::derivative(VolumetricMath::derivative(c));
+            const double x = -d(0) / d(1);
+            sum += VolumetricMath::polyval(c, x) + x;
+        }
+        benchmark::DoNotOptimize(sum);
+    }
+}
+BENCHMARK(BM_GetResultsFits);
+
+void BM_Fit5(benchmark::State &state)
+{
+    Sandbox sandbox;
+    DataStoreBase store;
+    for (double v = 0.0; v <= 100.0; v += 10.0)
+        store.addPoint(0, 50000.0 + v, curve(5000.0 + v));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(VolumetricMath::fit5(store, 3));
+}
+BENCHMARK(BM_Fit5);
+
+void BM_VolumeAtValue(benchmark::State &state)
+{
+    Sandbox sandbox;
+    DataStoreBase store;
+    for (double v = 0.0; v <= 10000.0; v += 100.0)
+        store.addPoint(0, v, curve(v));
+    for (auto _ : state) {
+        double volume = 0.0;
+        benchmark::DoNotOptimize(VolumetricMath::volumeAtValue(store, 20.0, volume));
+        benchmark::DoNotOptimize(volume);
+    }
+}
+BENCHMARK(BM_VolumeAtValue);
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "controller/algorithms/titrationalgorithmbase.h"
+
+// "Equivalence Pt." and "Engineering Basic pH": titrates until the curve has
+// shown its inflection points, with doses that shrink as the curve steepens,
+// and reports the volume and the reading at each, refined by a cubic.
+class TitrationAlgMillivolt : public TitrationAlgorithmBase
+{
+    Q_OBJECT
+public:
+    TitrationAlgMillivolt(TemporalDataStore *temporal, VolumetricDataStore *volumetric, QObject *parent = nullptr);
+
+    std::array<double, 3> getResults() override;
+    unsigned int nextDose() override;
+    void setProcessControlParams() override;
+
+    float deltaE() const { return m_deltaE; }
+    unsigned int deltaVmax() const { return m_deltaVmax; }
+    unsigned int deltaVmin() const { return m_deltaVmin; }
+
+private:
+    float m_deltaE = 0.f;
+};
