@@ -99,6 +99,7 @@ std::unique_ptr<Beaker> Beaker::fromJson(const QJsonObject &b, double celsius, d
         p.titrantE0 = number(t, "E0_mV", 1440);
         p.titrantN = std::max(1, int(number(t, "n", 1)));
         p.titrantConcentration = number(t, "conc_mol_L", 0.1);
+        p.initialOxidisedFraction = std::clamp(number(a, "oxidised_fraction", 1e-4), 1e-15, 0.5);
         p.celsius = celsius;
         p.e0Mv = e0Mv;
         return std::make_unique<RedoxBeaker>(p);
@@ -184,13 +185,15 @@ double RedoxBeaker::potentialMv(double titrantMl) const
     // Moles of electrons the analyte can give and the titrant has taken.
     const double analyte = m_p.analyteConcentration * m_p.volumeMl * m_p.analyteN;
     const double titrant = m_p.titrantConcentration * titrantMl * m_p.titrantN;
-    const double f0 = m_p.initialOxidisedFraction;
+    // Before the first drop a trace of the oxidised form sets the potential;
+    // it counts as a floor on the titrant so it never moves the equivalence.
+    const double titrantOrTrace = std::max(titrant, analyte * m_p.initialOxidisedFraction);
     // Oxidised fraction of the analyte and reduced fraction of the titrant at
     // a potential E: the electrons the analyte gave went to the titrant.
     auto balance = [&](double e) {
         const double fa = 1.0 / (1.0 + std::pow(10.0, -(e - m_p.analyteE0) * m_p.analyteN / s));
         const double ft = 1.0 / (1.0 + std::pow(10.0, (e - m_p.titrantE0) * m_p.titrantN / s));
-        return analyte * (fa - f0) - titrant * ft;
+        return analyte * fa - titrantOrTrace * ft;
     };
     return m_p.e0Mv + bisect(balance, -3000.0, 4000.0);
 }

@@ -64,7 +64,7 @@ public:
         double analyteE0 = 771, titrantE0 = 1440;
         int analyteN = 1, titrantN = 1;
         double analyteConcentration = 0.1, titrantConcentration = 0.1;
-        double initialOxidisedFraction = 1e-4;  // no real solution is free of it
+        double initialOxidisedFraction = 1e-4;  // sets the potential before the first drop
         double celsius = 25;
         double e0Mv = 0;
     };

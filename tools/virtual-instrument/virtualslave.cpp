@@ -55,7 +55,6 @@ void VirtualSlave::step(double dtMs)
         m_doseLeftUl -= amount;
         m_dosedUl += amount;
         if (m_doseLeftUl <= 1e-9) {
-            m_dosedUl = std::round(m_dosedUl * 1000.0) / 1000.0;
             finishMotion(QStringLiteral("dose done %1 uL").arg(m_doseOrderedUl));
         } else if (m_contentUl <= 1e-9) {
             finishMotion(QStringLiteral("dose cut at the end of the cylinder, %1 uL not delivered")
@@ -101,6 +100,10 @@ void VirtualSlave::finishMotion(const QString &what)
         m_dispenseStatus = 1;
     m_motion = Motion::None;
     m_doseLeftUl = 0;
+    // Volumes are kept to the nanolitre so sums of doses stay exact.
+    m_dosedUl = std::round(m_dosedUl * 1000.0) / 1000.0;
+    m_expelledUl = std::round(m_expelledUl * 1000.0) / 1000.0;
+    m_contentUl = std::round(m_contentUl * 1000.0) / 1000.0;
     event(QStringLiteral("%1; dosed %2 uL, expelled %3 uL, in cylinder %4 uL")
               .arg(what)
               .arg(m_dosedUl, 0, 'f', 3)
