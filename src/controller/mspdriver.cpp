@@ -24,7 +24,7 @@ float toFloatOrZero(const QString &word)
 
 void copyCut(char *dest, int size, const QString &word)
 {
-    const QByteArray bytes = word.toLocal8Bit();
+    const QByteArray bytes = word.toLatin1();
     std::memset(dest, 0, size_t(size));
     std::memcpy(dest, bytes.constData(), size_t(qMin(size, bytes.size())));
 }
@@ -54,12 +54,12 @@ mspInfoRecord::mspInfoRecord()
 
 QString mspInfoRecord::versionText() const
 {
-    return QString::fromLocal8Bit(version, int(strnlen(version, sizeof(version))));
+    return QString::fromLatin1(version, int(strnlen(version, sizeof(version))));
 }
 
 QString mspInfoRecord::serialText() const
 {
-    return QString::fromLocal8Bit(serialNumber, int(strnlen(serialNumber, sizeof(serialNumber))));
+    return QString::fromLatin1(serialNumber, int(strnlen(serialNumber, sizeof(serialNumber))));
 }
 
 QString mspInfoRecord::lastErrorText() const
@@ -105,9 +105,9 @@ int mspDriver::parsePacket(const QByteArray &bytes)
         qDebug() << "mspDriver: packet of" << bytes.size() << "bytes dropped, too long";
         return 0;
     }
-    // Up to the first NUL, as text.
+    // Up to the first NUL, as text; the slave speaks ASCII, one byte a character.
     const int nul = bytes.indexOf('\0');
-    QStringList words = QString::fromLocal8Bit(nul < 0 ? bytes : bytes.left(nul))
+    QStringList words = QString::fromLatin1(nul < 0 ? bytes : bytes.left(nul))
                             .split(wordSeparator());
     while (!words.isEmpty()) {
         const QString tag = words.takeFirst();
