@@ -85,14 +85,22 @@ void serialPort::onReadyRead()
         return;
     const QByteArray bytes = m_port->readAll();
     if (buffer.size() + bytes.size() > MaxBufferBytes) {
+        // The packet in the making is too long: it is dropped up to its CR,
+        // and what follows that CR is kept as far as it fits.
         qDebug() << "serialPort: dropped" << buffer.size() + bytes.size()
-                 << "bytes without a line end";
+                 << "bytes of an over-long packet";
         buffer.clear();
-        // Keep what follows the last CR of this read, if any: the start of
-        // the next packet.
-        const int cr = bytes.lastIndexOf('\r');
-        if (cr >= 0 && bytes.size() - cr - 1 <= MaxBufferBytes)
-            buffer = bytes.mid(cr + 1);
+        const int cr = bytes.indexOf('\r');
+        if (cr < 0)
+            return;
+        QByteArray rest = bytes.mid(cr + 1);
+        while (rest.size() > MaxBufferBytes) {
+            const int next = rest.indexOf('\r');
+            rest = next < 0 ? QByteArray() : rest.mid(next + 1);
+        }
+        buffer = rest;
+        if (buffer.contains('\r'))
+            emit packetReady();
         return;
     }
     buffer.append(bytes);

@@ -56,6 +56,9 @@ bool PseudoTerminal::open(const QString &linkPath)
     m_linkPath = linkPath;
     m_notifier = new QSocketNotifier(m_master, QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &PseudoTerminal::onReadable);
+    m_writeNotifier = new QSocketNotifier(m_master, QSocketNotifier::Write, this);
+    m_writeNotifier->setEnabled(false);
+    connect(m_writeNotifier, &QSocketNotifier::activated, this, &PseudoTerminal::flushOut);
     return true;
 }
 
@@ -63,6 +66,9 @@ void PseudoTerminal::close()
 {
     delete m_notifier;
     m_notifier = nullptr;
+    delete m_writeNotifier;
+    m_writeNotifier = nullptr;
+    m_out.clear();
     if (!m_linkPath.isEmpty() && QFileInfo(m_linkPath).symLinkTarget() == m_slaveName)
         QFile::remove(m_linkPath);
     m_linkPath.clear();
@@ -75,19 +81,25 @@ void PseudoTerminal::close()
 
 qint64 PseudoTerminal::write(const QByteArray &bytes)
 {
-    if (m_master < 0)
+    if (m_master < 0 || m_out.size() + bytes.size() > MaxPendingBytes)
         return -1;
-    qint64 done = 0;
-    while (done < bytes.size()) {
-        const ssize_t n = ::write(m_master, bytes.constData() + done, size_t(bytes.size() - done));
-        if (n < 0) {
-            if (errno == EINTR)
-                continue;
-            break;   // terminal full or gone: the rest is lost, as on a wire
-        }
-        done += n;
+    m_out.append(bytes);
+    flushOut();
+    return bytes.size();
+}
+
+void PseudoTerminal::flushOut()
+{
+    while (!m_out.isEmpty()) {
+        const ssize_t n = ::write(m_master, m_out.constData(), size_t(m_out.size()));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            break;   // the terminal is full: go on when it is writable again
+        m_out.remove(0, int(n));
     }
-    return done;
+    if (m_writeNotifier)
+        m_writeNotifier->setEnabled(!m_out.isEmpty());
 }
 
 void PseudoTerminal::onReadable()

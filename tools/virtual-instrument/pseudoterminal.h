@@ -26,13 +26,18 @@ public:
     QString linkPath() const { return m_linkPath; }
     QString errorString() const { return m_error; }
 
+    // Queues the bytes and writes them as fast as the other end takes them.
     qint64 write(const QByteArray &bytes);
+    // Bytes written but not yet taken by the terminal.
+    int pendingBytes() const { return m_out.size(); }
+    static constexpr int MaxPendingBytes = 1 << 20;
 
 signals:
     void received(const QByteArray &bytes);
 
 private:
     void onReadable();
+    void flushOut();
 
     int m_master = -1;
     int m_slaveKeepAlive = -1;  // keeps the terminal up while no one has it open
@@ -40,4 +45,6 @@ private:
     QString m_linkPath;
     QString m_error;
     QSocketNotifier *m_notifier = nullptr;
+    QSocketNotifier *m_writeNotifier = nullptr;
+    QByteArray m_out;
 };
