@@ -4,6 +4,7 @@
 // the order below; nothing here holds instrument logic.
 
 #include "appconstants.h"
+#include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
 #include "system/platform.h"
 
@@ -38,7 +39,9 @@ int main(int argc, char *argv[])
     // The back end, strictly in this order: each constructor reaches for
     // those before it.
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
+    BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
     Q_UNUSED(msp)
+    Q_UNUSED(bc)
 
     // Close the splash once every context property is set, then load the UI.
     if (!engine_startup.rootObjects().isEmpty()) {

@@ -92,6 +92,11 @@ void mspDriver::setSerialPort(QIODevice *port)
 void mspDriver::sendCommand(const QString &text)
 {
     if (m_port && m_port->isOpen()) {
+        if (text == QLatin1String("MG")) {
+            // At most one poll counts as in flight: a lost reply is not waited for.
+            m_probesAnswered = qMax(m_probesAnswered, m_probesSent ? m_probesSent - 1 : 0);
+            ++m_probesSent;
+        }
         m_port->write(text.toLocal8Bit() + "\r\n");
         m_lastCommand = text;
     } else if (m_virtual) {
@@ -205,6 +210,12 @@ void mspDriver::parseProbeData(QStringList &words)
     QString spare;
     if (takeWord(words, spare))
         r.spareStatus = spare.toInt();
+    if (m_probesAnswered < m_probesSent)
+        ++m_probesAnswered;
+    if (m_staleProbes > 0) {
+        --m_staleProbes;
+        r.dispenseStatus = 0; // asked for before the dose: the slave had not seen it
+    }
     r.valid = true;
     m_probe = r;
     emit mspProbeDataSignal();
@@ -323,6 +334,7 @@ void mspDriver::requestVersion() { sendCommand(QStringLiteral("SYSTEM")); }
 void mspDriver::dispense(int microlitres)
 {
     m_probe.dispenseStatus = 0;
+    m_staleProbes = m_probesSent - m_probesAnswered;
     sendCommand(QStringLiteral("BDS %1").arg(microlitres));
 }
 

@@ -120,6 +120,11 @@ private:
     QString m_lastCommand;
     bool m_busy = false;
     int m_position = 99;
+    // Polls sent and answered. An MG reply that was asked for before a dose
+    // went out still shows the old dispense status; it is not taken.
+    quint64 m_probesSent = 0;
+    quint64 m_probesAnswered = 0;
+    quint64 m_staleProbes = 0;
     int m_simTime = 25;
     float m_simValue = 1.0f;
     int m_simIndex = 0;

@@ -287,3 +287,29 @@ TEST(MspDriverFuzz, RandomAndHostileBytes)
     d.msp.parsePacket(QByteArray(mspDriver::MaxPacketBytes + 1, 'M') + kFullMg);
     EXPECT_EQ(d.probe.count(), before);
 }
+
+TEST(MspDriverCommands, PollAnsweredAfterADoseWentOutKeepsTheDoseRunning)
+{
+    Driver d;
+    d.msp.setSerialPort(&d.port);
+    d.msp.requestProbeData();       // asked before the dose...
+    d.msp.dispense(500);
+    d.msp.parsePacket(kFullMg);     // ...answered after it: still the old status
+    EXPECT_FALSE(d.msp.isDispenseDone());
+    EXPECT_EQ(d.probe.count(), 1);
+    d.msp.requestProbeData();
+    d.msp.parsePacket(kFullMg);     // asked after the dose: the slave's word counts
+    EXPECT_TRUE(d.msp.isDispenseDone());
+
+    // A poll that was never answered is not waited for beyond one reply.
+    d.msp.requestProbeData();
+    d.msp.requestProbeData();
+    d.msp.requestProbeData();
+    d.msp.parsePacket(kFullMg);
+    d.msp.dispense(500);
+    d.msp.parsePacket(kFullMg);
+    EXPECT_FALSE(d.msp.isDispenseDone());
+    d.msp.requestProbeData();
+    d.msp.parsePacket(kFullMg);
+    EXPECT_TRUE(d.msp.isDispenseDone());
+}

@@ -194,3 +194,15 @@ TEST(VirtualSlave, NoiseIsRepeatableFromTheSeed)
     EXPECT_NEAR(sum / 400, 0.0, 0.1);
     EXPECT_NEAR(std::sqrt(sumSq / 400), 0.5, 0.1);
 }
+
+TEST(VirtualSlave, NewSizeKeepsThePistonWhereItIs)
+{
+    auto s = makeSlave("{\"burette_mL\":10}");
+    s->handle("BSS 20");
+    EXPECT_EQ(s->positionCode(), 2);
+    EXPECT_DOUBLE_EQ(s->contentUl(), 20000.0);
+    s->handle("BDS 5000");
+    runUntilStill(*s);
+    s->handle("BSS 10");
+    EXPECT_DOUBLE_EQ(s->contentUl(), 7500.0);
+}

@@ -208,8 +208,9 @@ QByteArray VirtualSlave::handle(const QByteArray &line)
             event(QStringLiteral("size command lost (%1 of %2)").arg(m_sizeCommandsLost).arg(m_cfg.ignoreSizeCommands));
             return {};
         }
+        // The piston stays where it is: the same stroke of another cylinder.
+        m_contentUl = std::round(m_contentUl * value / m_sizeMl * 1000.0) / 1000.0;
         m_sizeMl = value;
-        m_contentUl = std::min(m_contentUl, capacityUl());
         event(QStringLiteral("burette size %1 mL").arg(value));
         return {};
     }
