@@ -206,3 +206,29 @@ TEST(VirtualSlave, NewSizeKeepsThePistonWhereItIs)
     s->handle("BSS 10");
     EXPECT_DOUBLE_EQ(s->contentUl(), 7500.0);
 }
+
+// Whatever arrives on the line, the piston stays inside its cylinder and
+// every reply is one line.
+TEST(VirtualSlave, HostileCommandLines)
+{
+    auto s = makeSlave("{\"burette_mL\":5}");
+    std::mt19937 rng(99);
+    const char *tokens[] = {"BDS", "BES", "BHS", "SH", "STP", "BSS", "SSS", "BLS", "VS", "MG",
+                            "BBG", "REBOOT", "-1", "99999999999", "0", "250", "1e3", "\xff", ""};
+    for (int i = 0; i < 5000; ++i) {
+        QByteArray line;
+        const int n = int(rng() % 4);
+        for (int k = 0; k < n; ++k) {
+            line += tokens[rng() % (sizeof tokens / sizeof tokens[0])];
+            line += (rng() % 5) ? " " : "\t";
+        }
+        if (rng() % 7 == 0)
+            line += QByteArray(int(rng() % 300), char(rng() % 256));
+        const QByteArray reply = s->handle(line);
+        ASSERT_TRUE(reply.isEmpty() || (reply.endsWith("\r\n") && reply.count('\n') == 1));
+        s->advanceTo(s->now() + qint64(rng() % 2000));
+        ASSERT_GE(s->contentUl(), -1e-6);
+        ASSERT_LE(s->contentUl(), s->buretteSizeMl() * 1000.0 + 1e-6);
+        ASSERT_GE(s->buretteSizeMl(), 1);
+    }
+}
