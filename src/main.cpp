@@ -4,6 +4,8 @@
 // the order below; nothing here holds instrument logic.
 
 #include "appconstants.h"
+#include "controller/burettecontroller.h"
+#include "controller/mspcontroller.h"
 #include "system/platform.h"
 
 #include <QApplication>
@@ -33,6 +35,13 @@ int main(int argc, char *argv[])
     QQmlApplicationEngine engine_startup;
     engine_startup.load(QUrl(QStringLiteral("qrc:/startup.qml")));
     QQmlApplicationEngine engine;
+
+    // The back end, strictly in this order: each constructor reaches for
+    // those before it.
+    mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
+    BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
+    Q_UNUSED(msp)
+    Q_UNUSED(bc)
 
     // Close the splash once every context property is set, then load the UI.
     if (!engine_startup.rootObjects().isEmpty()) {

@@ -63,6 +63,8 @@ public:
     virtual void titrationCompleted() = 0;
     virtual void setMspVersion(const QString &version) = 0;
     virtual QString getMspVersion() const = 0;
+    virtual void setMfgSerialNum(const QString &serial) = 0;
+    virtual QString getMfgSerialNum() const = 0;
 
     // Live state shared with the screens.
     virtual bool getDispenseInProgress() const = 0;

@@ -38,6 +38,7 @@ public:
     float ep1 = 0.f, ep2 = 0.f;
     int completedCount = 0;
     QString mspVersion;
+    QString mfgSerialNum;
     bool dispenseInProgress = false;
     bool cancelled = false;
     bool stirrerOn = false;
@@ -87,6 +88,8 @@ public:
     void titrationCompleted() override { ++completedCount; }
     void setMspVersion(const QString &v) override { mspVersion = v; }
     QString getMspVersion() const override { return mspVersion; }
+    void setMfgSerialNum(const QString &s) override { mfgSerialNum = s; }
+    QString getMfgSerialNum() const override { return mfgSerialNum; }
 
     bool getDispenseInProgress() const override { return dispenseInProgress; }
     void setDispenseInProgress(bool on) override { dispenseInProgress = on; }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+// Runs build/bin/virtual-instrument for a test: writes the scenario, starts
+// the program with its link in the test's sandbox, and waits until the link
+// is there. The trace file is kept for the test to read.
+class VirtualInstrumentProcess
+{
+public:
+    VirtualInstrumentProcess();
+    ~VirtualInstrumentProcess();
+
+    // Starts with a scenario given as JSON text; false if it did not come up.
+    bool start(const QString &scenarioJson, double speed, const QStringList &extra = {});
+    // Ends it (and waits); the link goes with it.
+    void stop();
+    bool isRunning() const;
+
+    // The link the application opens: the sandbox's "/dev/ttymxc2".
+    QString device() const;
+    QString traceText() const;
+    QString errorText();
+    // Trace lines of one kind: '>' commands, '<' replies, '*' events.
+    QStringList traceLines(char kind) const;
+
+private:
+    QProcess m_process;
+    QTemporaryDir m_dir;
+    QString m_errors;
+};

@@ -1,0 +1,152 @@
+// The serial transport and the slave controller on a real pseudo-terminal,
+// with the test playing the slave byte by byte.
+
+#include "controller/enginedatastandin.h"
+#include "controller/mspcontroller.h"
+#include "controller/serialport.h"
+#include "pseudoterminal.h"
+#include "testsupport.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The test's end of the line: what the application sent, and a way to answer.
+struct FakeSlave {
+    PseudoTerminal pty;
+    QByteArray received;
+    FakeSlave()
+    {
+        QObject::connect(&pty, &PseudoTerminal::received, [this](const QByteArray &b) { received += b; });
+    }
+    bool open() { return pty.open(Platform::path(QStringLiteral("/dev/ttymxc2"))); }
+    bool got(const QByteArray &line) const { return received.contains(line); }
+};
+
+struct Link {
+    EngineDataStandIn data;
+    Link() { EngineData::set(&data); }
+    ~Link() { EngineData::set(nullptr); }
+};
+
+} // namespace
+
+TEST(SerialTransport, AsksForTheVersionAndStoresIt)
+{
+    Link link;
+    FakeSlave slave;
+    ASSERT_TRUE(slave.open()) << slave.pty.errorString().toStdString();
+    mspController msp(Platform::path(QStringLiteral("/dev/ttymxc2")));
+    msp.setReadInterval(5);
+    ASSERT_TRUE(msp.portIsOpen());
+    ASSERT_TRUE(waitUntil([&] { return slave.received.count("SYSTEM\r\n") == 2; }));
+    slave.pty.write("SYSTEM VANTOR MSP430 1.09 BUILD 0 SN VP400-7\r\n");
+    ASSERT_TRUE(waitUntil([&] { return link.data.mspVersion == "1.09"; }));
+    EXPECT_EQ(link.data.mfgSerialNum, "VP400-7");
+    mspInfoRecord info;
+    msp.msp->getInfo(info);
+    EXPECT_FALSE(info.newVersion); // handed over once
+}
+
+TEST(SerialTransport, FirstPollWaitsOneTickAndCarriesTheSlaveClock)
+{
+    Link link;
+    FakeSlave slave;
+    ASSERT_TRUE(slave.open());
+    mspController msp(Platform::path(QStringLiteral("/dev/ttymxc2")));
+    msp.setReadInterval(5);
+    msp.setPollInterval(30);
+    QSignalSpy data(&msp, &mspController::mspNewDataSignal);
+    EXPECT_EQ(msp.daqState(), mspController::DaqStart);
+    ASSERT_TRUE(waitUntil([&] { return msp.daqState() == mspController::DaqRunning; }));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(slave.got("MG\r\n")); // nothing polled on the first tick
+    ASSERT_TRUE(waitUntil([&] { return slave.got("MG\r\n"); }));
+    slave.pty.write("MG 1 31.5 0.1 987654321 1 0.1 -42.5 0 0 0\r");
+    ASSERT_TRUE(waitUntil([&] { return data.count() >= 1; }));
+    EXPECT_EQ(data.first().at(0).value<long>(), 987654321L);
+    EXPECT_DOUBLE_EQ(data.first().at(1).toDouble(), -42.5);
+    EXPECT_FLOAT_EQ(link.data.rawTemperature, 31.5f);
+}
+
+TEST(SerialTransport, ReplySplitOverTwoReads)
+{
+    FakeSlave slave;
+    ASSERT_TRUE(slave.open());
+    serialPort port(Platform::path(QStringLiteral("/dev/ttymxc2")));
+    port.setReadInterval(5);
+    QSignalSpy ready(&port, &serialPort::packetReady);
+    slave.pty.write("MG 1 25 0.1 10");
+    ASSERT_TRUE(waitUntil([&] { return port.buffer.size() == 14; }));
+    EXPECT_EQ(ready.count(), 0);
+    slave.pty.write("0 1 0.1 5 0 0\rBBG");
+    ASSERT_TRUE(waitUntil([&] { return ready.count() == 1; }));
+    EXPECT_EQ(port.buffer, QByteArray("MG 1 25 0.1 100 1 0.1 5 0 0\rBBG"));
+}
+
+TEST(SerialTransport, EndlessBytesWithoutLineEndAreDropped)
+{
+    Link link;
+    FakeSlave slave;
+    ASSERT_TRUE(slave.open());
+    mspController msp(Platform::path(QStringLiteral("/dev/ttymxc2")));
+    msp.setReadInterval(5);
+    QSignalSpy data(&msp, &mspController::mspNewDataSignal);
+    QSignalSpy mirror(&msp, &mspController::mirrorFromMSP);
+    const QByteArray junk(3000, 'Z');
+    for (int i = 0; i < 4; ++i) {
+        slave.pty.write(junk);
+        QCoreApplication::processEvents();
+    }
+    slave.pty.write("\rMG 1 25 0.1 4242 1 0.1 7.5 0 0\r");
+    ASSERT_TRUE(waitUntil([&] { return data.count() == 1; }));
+    EXPECT_EQ(data.first().at(0).value<long>(), 4242L);
+    for (const QList<QVariant> &m : mirror)
+        EXPECT_LE(m.at(0).toString().size(), serialPort::MaxBufferBytes);
+}
+
+TEST(SerialTransport, PassThroughWhileTheMeasurementIsStopped)
+{
+    Link link;
+    FakeSlave slave;
+    ASSERT_TRUE(slave.open());
+    mspController msp(Platform::path(QStringLiteral("/dev/ttymxc2")));
+    msp.setReadInterval(5);
+    msp.setPollInterval(10);
+    msp.mspStopDAQ();
+    QSignalSpy mirror(&msp, &mspController::mirrorFromMSP);
+    msp.parseRmtCmdPacket(QStringLiteral("BSG\r"));
+    ASSERT_TRUE(waitUntil([&] { return slave.got("BSG\r\n"); }));
+    slave.pty.write("BSG 15\r");
+    ASSERT_TRUE(waitUntil([&] { return mirror.count() == 1; }));
+    EXPECT_EQ(mirror.first().at(0).toString(), "BSG 15\r");
+    mspInfoRecord info;
+    msp.msp->getInfo(info);
+    EXPECT_EQ(info.buretteSize, 15);
+    EXPECT_FALSE(slave.got("MG\r\n"));
+    msp.mspStartDAQ();
+    EXPECT_TRUE(waitUntil([&] { return slave.got("MG\r\n"); }));
+}
+
+TEST(SerialTransport, SurvivesTheDeviceGoingAndComingBack)
+{
+    Link link;
+    auto slave = std::make_unique<FakeSlave>();
+    ASSERT_TRUE(slave->open());
+    mspController msp(Platform::path(QStringLiteral("/dev/ttymxc2")));
+    msp.setReadInterval(2);
+    msp.setPollInterval(10);
+    ASSERT_TRUE(waitUntil([&] { return slave->got("MG\r\n"); }));
+    slave.reset(); // the slave's end vanishes with its link
+    ASSERT_TRUE(waitUntil([&] { return !msp.portIsOpen(); }));
+    msp.msp->requestProbeData(); // nothing to write to: no harm
+
+    slave = std::make_unique<FakeSlave>();
+    ASSERT_TRUE(slave->open());
+    ASSERT_TRUE(waitUntil([&] { return msp.portIsOpen(); }));
+    ASSERT_TRUE(waitUntil([&] { return slave->got("SYSTEM\r\n"); })); // who is it now?
+    slave->pty.write("SYSTEM a b 3.00 c d e SN9\r");
+    ASSERT_TRUE(waitUntil([&] { return link.data.mspVersion == "3.00"; }));
+    ASSERT_TRUE(waitUntil([&] { return slave->got("MG\r\n"); }));
+}

@@ -1,0 +1,174 @@
+// The chemistry of the virtual instrument against values worked out by hand.
+
+#include "beaker.h"
+#include "scenario.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+AcidBaseBeaker aceticAcid()
+{
+    AcidBaseBeaker::Params p; // 50 mL 0.1 mol/L acetic acid, 0.1 mol/L NaOH
+    return AcidBaseBeaker(p);
+}
+
+} // namespace
+
+TEST(AcidBase, AceticAcidAlone)
+{
+    // [H+] = sqrt(Ka * C) = sqrt(1.74e-5 * 0.1): pH 2.88.
+    EXPECT_NEAR(aceticAcid().pH(0.0), 2.88, 0.01);
+}
+
+TEST(AcidBase, AceticAcidEquivalencePoint)
+{
+    // 0.05 mol/L acetate: pOH = (pKb - log C) / 2 = (9.24 + 1.30) / 2, pH 8.73.
+    EXPECT_NEAR(aceticAcid().pH(50.0), 8.73, 0.02);
+}
+
+TEST(AcidBase, AceticAcidBufferRegion)
+{
+    // Henderson-Hasselbalch holds well inside the buffer region.
+    const AcidBaseBeaker b = aceticAcid();
+    EXPECT_NEAR(b.pH(25.0), 4.76, 0.01);
+    EXPECT_NEAR(b.pH(5.0), 4.76 + std::log10(5.0 / 45.0), 0.01);
+    // Past the equivalence point the excess hydroxide rules: 10 mL excess in
+    // 110 mL.
+    EXPECT_NEAR(b.pH(60.0), 14.0 + std::log10(0.1 * 10.0 / 110.0), 0.01);
+}
+
+TEST(AcidBase, StrongAcidAtHalfNeutralisation)
+{
+    AcidBaseBeaker::Params p;
+    p.pKa = {-6.0}; // hydrochloric acid: fully dissociated
+    const AcidBaseBeaker b(p);
+    // 2.5 mmol of 5 left in 75 mL: [H+] = 0.0333, pH 1.48.
+    EXPECT_NEAR(b.pH(25.0), -std::log10(2.5 / 75.0), 0.005);
+    EXPECT_NEAR(b.pH(0.0), 1.0, 0.005);
+    EXPECT_NEAR(b.pH(50.0), 7.0, 0.02);
+}
+
+TEST(AcidBase, WeakBaseTitratedWithStrongAcid)
+{
+    AcidBaseBeaker::Params p;
+    p.pKa = {9.25};       // ammonium / ammonia
+    p.acidCharge = 1;     // NH4+ is the protonated form
+    p.startsAsAcid = false;
+    p.titrantIsBase = false;
+    const AcidBaseBeaker b(p);
+    // 0.1 mol/L ammonia: pOH = (4.75 + 1) / 2, pH 11.12.
+    EXPECT_NEAR(b.pH(0.0), 11.12, 0.02);
+    // Half neutralised: pH = pKa.
+    EXPECT_NEAR(b.pH(25.0), 9.25, 0.01);
+    // Equivalence: 0.05 mol/L ammonium, pH = (9.25 + 1.30) / 2.
+    EXPECT_NEAR(b.pH(50.0), 5.28, 0.02);
+}
+
+TEST(AcidBase, PhosphoricAcidHasTwoVisibleSteps)
+{
+    AcidBaseBeaker::Params p;
+    p.pKa = {2.15, 7.20, 12.35};
+    p.concentration = 0.02;
+    const AcidBaseBeaker b(p);
+    // 1 mmol of acid: first equivalence at 10 mL, second at 20 mL. The
+    // amphoteric salts there: [H+]^2 = K1 K2 C / (K1 + C) and
+    // [H+]^2 = K2 (K3 C + Kw) / (K2 + C).
+    const double k1 = std::pow(10.0, -2.15), k2 = std::pow(10.0, -7.20),
+                 k3 = std::pow(10.0, -12.35), kw = std::pow(10.0, -b.pKw());
+    const double c1 = 1.0 / 60.0, c2 = 1.0 / 70.0;
+    EXPECT_NEAR(b.pH(10.0), -0.5 * std::log10(k1 * k2 * c1 / (k1 + c1)), 0.02);
+    EXPECT_NEAR(b.pH(15.0), 7.20, 0.05);
+    EXPECT_NEAR(b.pH(20.0), -0.5 * std::log10(k2 * (k3 * c2 + kw) / (k2 + c2)), 0.02);
+    // The curve never falls while base is added.
+    double last = b.pH(0.0);
+    for (double ml = 0.25; ml <= 40.0; ml += 0.25) {
+        const double now = b.pH(ml);
+        ASSERT_GE(now, last - 1e-9) << ml;
+        last = now;
+    }
+}
+
+TEST(AcidBase, ElectrodeReadsNernstAtItsTemperature)
+{
+    AcidBaseBeaker::Params p;
+    p.celsius = 35.0;
+    p.e0Mv = 10.0;
+    p.slopePct = 95.0;
+    const AcidBaseBeaker b(p);
+    const double slope = 0.95 * 0.198416 * (35.0 + 273.15); // 58.1 mV per pH
+    EXPECT_NEAR(b.potentialMv(25.0), 10.0 - slope * (b.pH(25.0) - 7.0), 0.01);
+    EXPECT_NEAR(Beaker::nernstSlope(25.0), 59.16, 0.01);
+    // Water's ion product grows with temperature: neutral is below 7 at 35 °C.
+    EXPECT_NEAR(b.pKw(), 13.68, 0.02);
+}
+
+TEST(Redox, IronWithCerium)
+{
+    RedoxBeaker::Params p; // Fe2+ 0.1 mol/L, Ce4+ 0.1 mol/L, 50 mL
+    const RedoxBeaker b(p);
+    EXPECT_NEAR(b.potentialMv(25.0), 771.0, 0.5);                 // half-way: E0 of iron
+    EXPECT_NEAR(b.potentialMv(50.0), (771.0 + 1440.0) / 2, 0.5);  // equivalence
+    EXPECT_NEAR(b.potentialMv(100.0), 1440.0, 0.5);               // twice: E0 of cerium
+    EXPECT_NEAR(b.potentialMv(5.0), 771.0 + 59.16 * std::log10(5.0 / 45.0), 0.5);
+    // Before the first drop a trace of iron(III) sets the potential.
+    EXPECT_NEAR(b.potentialMv(0.0), 771.0 + 59.16 * std::log10(1e-4), 0.5);
+}
+
+TEST(Redox, UnequalElectronNumbers)
+{
+    RedoxBeaker::Params p;
+    p.analyteN = 1;  // Fe2+
+    p.titrantN = 5;  // permanganate, 0.02 mol/L takes 0.1 mol/L of electrons
+    p.titrantE0 = 1510;
+    p.titrantConcentration = 0.02;
+    const RedoxBeaker b(p);
+    EXPECT_NEAR(b.potentialMv(25.0), 771.0, 0.5);
+    EXPECT_NEAR(b.potentialMv(50.0), (771.0 + 5 * 1510.0) / 6, 1.0);
+}
+
+TEST(Ise, DilutionAndAddition)
+{
+    IseBeaker::Params p; // 50 mL of 0.001 mol/L, standard 0.1 mol/L, charge 1
+    const IseBeaker b(p);
+    EXPECT_NEAR(b.potentialMv(0.0), -3 * 59.16, 0.05);
+    // 5 mL of standard: (0.05 + 0.5) mmol in 55 mL is 0.01 mol/L.
+    EXPECT_NEAR(b.concentration(5.0), 0.01, 1e-12);
+    EXPECT_NEAR(b.potentialMv(5.0), -2 * 59.16, 0.05);
+
+    IseBeaker::Params q = p;
+    q.charge = 2;
+    q.slopePct = 90;
+    q.e0Mv = 100;
+    EXPECT_NEAR(IseBeaker(q).potentialMv(5.0), 100 - 2 * 0.9 * 59.16 / 2, 0.05);
+}
+
+TEST(ScenarioFile, DefaultsAreAceticAcidWithSodiumHydroxide)
+{
+    Scenario s;
+    QString error;
+    ASSERT_TRUE(Scenario::parse("{}", &s, &error)) << error.toStdString();
+    EXPECT_EQ(s.config.buretteMl, 20);
+    EXPECT_NEAR(s.beaker->potentialMv(0.0), -59.16 * (2.88 - 7.0), 0.7);
+}
+
+TEST(ScenarioFile, BadFilesAreRefusedWithAReason)
+{
+    const char *bad[] = {
+        "", "[1,2]", "{\"burette_mL\":\"twenty\"}", "{\"burette_mL\":0}",
+        "{\"electrode\":{\"tau_s\":-1}}", "{\"beaker\":{\"kind\":\"soup\"}}",
+        "{\"beaker\":{\"kind\":\"acid-base\",\"analyte\":{\"pKa\":[]}}}",
+        "{\"beaker\":{\"kind\":\"acid-base\",\"analyte\":{\"form\":\"salt\"}}}",
+        "{\"beaker\":{\"kind\":\"acid-base\",\"titrant\":{\"kind\":\"weak-base\"}}}",
+        "{\"beaker\":{\"kind\":\"ise\",\"ion\":{\"charge\":0}}}",
+        "{\"beaker\":{\"volume_mL\":-5}}", "{\"slave\":{\"serial\":\"two words\"}}",
+    };
+    for (const char *json : bad) {
+        Scenario s;
+        QString error;
+        EXPECT_FALSE(Scenario::parse(json, &s, &error)) << json;
+        EXPECT_FALSE(error.isEmpty()) << json;
+    }
+}
