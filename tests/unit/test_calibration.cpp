@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <ostream>
+#include <string>
 
 namespace {
 
@@ -88,6 +90,8 @@ const ThreeBuffers kThreeBuffers[] = {
     {40.0, {4.035, 6.970, 9.889}, {4.03f, 6.97f, 9.89f}, {96.835, 96.967}, {12.003, 12.001}, 96.901},
 };
 
+void PrintTo(const ThreeBuffers &b, std::ostream *os) { *os << b.celsius << " degrees"; }
+
 class ThreePointPh : public Calibration, public ::testing::WithParamInterface<ThreeBuffers>
 {
 };
@@ -139,7 +143,10 @@ TEST_P(ThreePointPh, ReportsTheElectrodeAndThenReadsBuffersRight)
         EXPECT_NEAR(read(electrodeMv(ph, b.celsius), b.celsius), ph, 0.02) << ph;
 }
 
-INSTANTIATE_TEST_SUITE_P(AtTenTwentyFiveAndFortyDegrees, ThreePointPh, ::testing::ValuesIn(kThreeBuffers));
+INSTANTIATE_TEST_SUITE_P(Buffers, ThreePointPh, ::testing::ValuesIn(kThreeBuffers),
+                         [](const ::testing::TestParamInfo<ThreeBuffers> &info) {
+                             return "At" + std::to_string(static_cast<int>(info.param.celsius)) + "Degrees";
+                         });
 
 TEST_F(Calibration, TwoPointsAtTwentyFiveDegrees)
 {
@@ -371,6 +378,20 @@ TEST_F(IseCalibration, MixedSlopesDropTheLastAddedPoint)
     EXPECT_EQ(context.GetStatus(), CMeasurementContext::StatusIseWrongSlope);
     EXPECT_EQ(context.iseKind()->record().committedCount, 2);
     EXPECT_FLOAT_EQ(context.iseKind()->record().committed.concentration[1], 10.0f);
+}
+
+TEST_F(IseCalibration, AZeroStandardCannotBeComputed)
+{
+    startIse("Potassium (K+)");
+    takePoint(20.0, 25.0, 0.0);
+    takePoint(80.0, 25.0, 1.0);
+    takePoint(140.0, 25.0, 10.0);
+    context.FinishCalibration();
+    EXPECT_EQ(context.GetStatus(), CMeasurementContext::StatusIsePointRefused);
+    const IseCalRecord &record = context.iseKind()->record();
+    ASSERT_EQ(record.committedCount, 2) << "the last added standard is dropped";
+    EXPECT_FLOAT_EQ(record.committed.concentration[0], 0.0f);
+    EXPECT_FLOAT_EQ(record.committed.concentration[1], 1.0f);
 }
 
 TEST_F(IseCalibration, OneStandardTakesTheTheoreticalSlope)
