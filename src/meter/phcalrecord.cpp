@@ -70,9 +70,10 @@ int PhCalRecord::addPoint(float value, float mv, float celsius)
                     || std::fabs(value - working.value[j]) <= kMinSpacingPh)
                     return PointTooClose;
             }
-            // The screens stop offering points at five; a sixth has no slot.
+            // The screens stop offering points at five; a sixth has no slot
+            // and is dropped, the five stay.
             if (workingCount >= kMaxPoints)
-                return PointTooClose;
+                return InProgress;
             working.mv[workingCount] = mv;
             working.value[workingCount] = value;
             working.temperature[workingCount] = celsius;

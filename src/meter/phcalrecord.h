@@ -40,8 +40,8 @@ struct PhCalRecord
     void startCalibration();
     // Adds a point of the calibration in progress: a point repeating a stored
     // value replaces it; one within 5 mV or 0.2 pH of another is refused
-    // (PointTooClose), and so is one beyond five points. The set stays sorted
-    // by ascending value. Returns InProgress or PointTooClose.
+    // (PointTooClose); one beyond five points is dropped. The set stays
+    // sorted by ascending value. Returns InProgress or PointTooClose.
     int addPoint(float value, float mv, float celsius);
     // Computes the segments of the working set, the average slope, and
     // commits. Returns Ok, or SlopeOutOfRange when the average lies outside

@@ -200,6 +200,20 @@ TEST_F(Calibration, PhPointsTooCloseAreRefusedAndARepeatReplaces)
     EXPECT_FLOAT_EQ(context.GetPointValue(1), 4.22f);
 }
 
+TEST_F(Calibration, FivePointsAtMost)
+{
+    startPh(0.001f);
+    for (int k = 0; k < 6; ++k)
+        takePoint(120.0 - 48.0 * k, 25.0, 5.0 + 0.8 * k);
+    EXPECT_EQ(context.GetStatus(), CMeasurementContext::StatusBusy) << "a sixth point cancels nothing";
+    EXPECT_EQ(context.GetCalPointCount(), 5);
+    EXPECT_FLOAT_EQ(context.GetPointValue(4), 8.2f);
+    context.FinishCalibration();
+    EXPECT_EQ(context.GetStatus(), CMeasurementContext::StatusOk);
+    // 48 mV per 0.8 pH is 60 mV/pH
+    EXPECT_NEAR(context.GetAverageSlope(), 60.0 / 0.5916, 1e-2);
+}
+
 TEST_F(Calibration, AverageSlopeOutsideEightyToOneHundredTwentyPercentIsRefused)
 {
     struct Case
