@@ -1,5 +1,7 @@
 #pragma once
 
+#include "meter/calibrationresult.h"
+
 #include <QObject>
 #include <QString>
 
@@ -62,6 +64,57 @@ public:
     double GetAverageSlope() const;
     double GetOrpOffset() const;
 
+    // ---- Electrode calibration of the active kind ----
+    // A calibration runs: StartCalibration; for each point, once the reading
+    // is stable, GetCalibrationValue (or OverrideCalibrationPoint at once),
+    // optionally EditCalibrationValue, then AcceptCalibrationPoint and
+    // StartNextPoint; at the end FinishCalibration. Until a successful
+    // finish the pH conversions run on the ideal electrode.
+    enum Status {
+        StatusOk = 0,
+        StatusBusy = 1,              // accept in progress, or cancelled
+        StatusPhSlopeOutOfRange = 2,
+        StatusIseWrongSlope = 6,
+        StatusNoBuffer = 7,          // value taken from the electrode
+        StatusPhPointTooClose = 8,
+        StatusRedoxOffsetOutOfRange = 9,
+        StatusIsePointRefused = 10,  // too close, or the calibration cannot be computed
+        StatusBufferRecognised = 11
+    };
+    static constexpr float kRedoxMaxOffset = 2000.1f;
+    static constexpr float kRedoxLimit = 2000.0f;
+
+    void StartCalibration();
+    void CancelCalibration();
+    // The value to offer for the current reading: for pH the recognised
+    // buffer at the temperature (or the electrode's own pH), for ISE the
+    // measured concentration, for Redox the measured potential or the value
+    // the user typed. Remembered as the last value with the stable mV.
+    double GetCalibrationValue(bool stable);
+    // Takes the current reading without waiting for stability; refused
+    // (accepted false, nothing changes) while the reading is out of range.
+    void OverrideCalibrationPoint(float &value, float &mv, bool &accepted);
+    void EditCalibrationValue(double v);
+    void StartNextPoint();
+    // Adds the last value as a point; GetStatus() then tells whether it was
+    // refused (8 pH, 10 ISE, 9 Redox).
+    void AcceptCalibrationPoint(bool edited);
+    // Computes slopes and offsets and commits; GetStatus() gives 0, or 2 for
+    // a pH average slope outside 80 to 120 percent, or 6 or 10 for ISE.
+    void FinishCalibration();
+    // Points collected so far: the pH working count; ISE and Redox give 0.
+    int GetCalPointCount() const;
+    float GetLastValue() const { return m_lastValue; }
+    float GetLastMv() const { return m_lastMv; }
+    float GetRecognisedBuffer() const { return m_recognisedBuffer; }
+    float GetEditedValue() const { return m_editedValue; }
+    bool IsOverridden() const { return m_overridden; }
+
+    // The finished calibration of the active kind, row by row as it is
+    // stored; and a stored calibration loaded back into the given kind.
+    CalibrationResult GetCalibrationResult() const;
+    void LoadCalibration(const CalibrationResult &stored, const QString &ion = QString());
+
     // Results of the calibration steps and the finished points.
     int GetStatus() const { return m_status; }
     int GetPointCount() const { return m_pointCount; }
@@ -79,6 +132,13 @@ public:
     MeasurementBase *activeKind() const;
 
 private:
+    void resetCalibration();
+    void acceptPhPoint();
+    void acceptIsePoint();
+    void acceptRedoxPoint(bool edited);
+    void finishPh();
+    void finishIse();
+
     static float pointAt(const float *points, int i) { return (i >= 0 && i < kMaxPoints) ? points[i] : 0.0f; }
 
     MeasurementBase *m_kindPh;

@@ -1,5 +1,6 @@
 #include "meter/cmeasurementph.h"
 
+#include "meter/buffertable.h"
 #include "meter/cstabilityph.h"
 
 CMeasurementPH::CMeasurementPH(QObject *parent) : MeasurementBase(KindPh, new CStabilityPH, parent)
@@ -36,6 +37,11 @@ int CMeasurementPH::segmentForMv(float mv) const
 
 float CMeasurementPH::MvToPh(float mv, float celsius, int decimals, std::uint8_t &rangeFlag) const
 {
+    return convert(mv, celsius, static_cast<float>(m_isoPotentialPoint), decimals, rangeFlag);
+}
+
+float CMeasurementPH::convert(float mv, float celsius, float iso, int decimals, std::uint8_t &rangeFlag) const
+{
     float slope = PhCalRecord::kIdealSlope;
     float offset = 0.0f;
     if (m_record.committedCount > 0) {
@@ -43,7 +49,6 @@ float CMeasurementPH::MvToPh(float mv, float celsius, int decimals, std::uint8_t
         slope = m_record.committed.slope[s];
         offset = m_record.committed.offset[s];
     }
-    const float iso = static_cast<float>(m_isoPotentialPoint);
     const float factor = static_cast<float>(static_cast<double>(298.15f) / (celsius + 273.15));
     const float ph = Round(iso + ((mv - offset) / slope) * factor, decimals);
     if (ph < kMinPh)
@@ -83,4 +88,37 @@ double CMeasurementPH::Get_Mv_From_pH(double pH, double celsius)
     const float mv = m_record.committed.offset[s]
                      + m_record.committed.slope[s] * ((t + 273.15f) / 298.15f) * (ph - 7.0f);
     return Round(mv, 1);
+}
+
+float CMeasurementPH::RecogniseBuffer(PhCalRecord &record, int bufferGroup, int &status, std::uint8_t &rangeFlag,
+                                      float &nominal, int resolutionIndex, float mv, float celsius,
+                                      float iso) const
+{
+    status = 0;
+    const int slot = record.workingCount;
+    const bool slotFree = slot >= 0 && slot < PhCalRecord::kMaxPoints;
+    const int row = BufferTable::match(bufferGroup, mv);
+    if (row < 0) {
+        const float ph = convert(mv, celsius, iso, resolutionIndex, rangeFlag);
+        status = kNotRecognised;
+        if (slotFree)
+            record.working.buffer[slot] = 0.0f;
+        return ph;
+    }
+    const BufferRow &buffer = BufferTable::rows()[row];
+    const float v = BufferTable::valueAt(buffer, celsius);
+    status = kRecognised;
+    nominal = buffer.nominal;
+    if (slotFree)
+        record.working.buffer[slot] = buffer.nominal;
+    const float ph = Round(v, resolutionIndex);
+    rangeFlag = (ph < kMinPh || ph > kMaxPh) ? OverRange : InRange;
+    return ph;
+}
+
+float CMeasurementPH::RecogniseCalibrationValue(int &status, float &nominal)
+{
+    const float mv = static_cast<float>(GetStableMv());
+    return RecogniseBuffer(m_record, m_bufferGroup, status, m_rangeFlag, nominal, m_resolutionIndex, mv,
+                           static_cast<float>(m_temperature), static_cast<float>(m_isoPotentialPoint));
 }

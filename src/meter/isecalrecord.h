@@ -18,6 +18,13 @@ struct IseCalRecord
     static constexpr int kMaxPoints = 6;
     static constexpr int kNameCapacity = 64;
     static constexpr float kNernstSlope = 59.16f;   // mV per decade for one charge at 25 degrees
+    static constexpr float kMinSpacingMv = 5.0f;     // closer points are refused
+    static constexpr float kMinSpacingPercent = 20.0f;
+    static constexpr float kMaxAverage = 199.0f;     // mV per decade
+    static constexpr float kNoSlope = 9999.0f;       // slope of a segment that cannot be computed
+
+    // Results of the calibration steps, as the context reports them.
+    enum Status { Ok = 0, InProgress = 1, WrongSlope = 6, PointTooClose = 10 };
 
     IseCalRecord();
 
@@ -27,6 +34,24 @@ struct IseCalRecord
               const float *temperature, const char *ion, int count, float average);
     void commit();
     void setIonName(const char *utf8);
+
+    // Both sets back to the ion's theoretical slope and zero offsets; no
+    // working points, average 0.
+    void startCalibration();
+    // Adds a point of concentration c: refused (PointTooClose) within 5 mV or
+    // 20 percent of a stored one. Slots are used in turn; a seventh point
+    // starts again at the first. Returns InProgress or PointTooClose.
+    int addPoint(float c, float mv, float celsius, int digits);
+    // Sorts the points, computes the segments and the average slope, and
+    // removes the last added point when the slopes are of mixed sign, of the
+    // wrong sign for the ion or too large (WrongSlope), or when the lowest
+    // concentration is 0 (PointTooClose). Does not commit.
+    int finish();
+    // Slope and offset of segment i: mV = offset + slope * log10(c).
+    void computeSegment(int i);
+    void sortWorking();
+    // Removes the point whose concentration is the last one added.
+    void removeLastAdded();
 
     // The charge of an ion as the ion list names it; 0 for a name not in it.
     static int chargeOf(const char *ionName);

@@ -155,6 +155,49 @@ TEST(MeterAllocations, TenThousandSamplesThroughTheContextAllocateNothing)
     EXPECT_NE(checksum, 0.0);
 }
 
+
+TEST(MeterAllocations, CalibrationsAllocateNothing)
+{
+    CMeasurementContext context;
+    context.SetActiveKind(CMeasurementContext::KindIse);
+    context.SetIonName(QStringLiteral("Sodium (Na+)"));
+    int points = 0;
+    float averages = 0.0f;
+    const Counted c = countAllocations([&] {
+        for (int kind : {CMeasurementContext::KindPh, CMeasurementContext::KindIse, CMeasurementContext::KindRedox}) {
+            context.SetActiveKind(kind);
+            context.StartCalibration();
+            const double potentials[3] = {177.0, 0.0, -178.0};
+            for (int p = 0; p < 3; ++p) {
+                for (int i = 0; i < 60; ++i) {
+                    context.SetRawMv(potentials[p]);
+                    context.SetTemperatuteDegreC(25.0);
+                    context.UpdateMeasurement();
+                    if (context.IsStable())
+                        context.GetCalibrationValue(true);
+                }
+                float value = 0.0f;
+                float mv = 0.0f;
+                bool accepted = false;
+                context.OverrideCalibrationPoint(value, mv, accepted);
+                if (kind == CMeasurementContext::KindIse)
+                    context.EditCalibrationValue(p == 0 ? 100.0 : (p == 1 ? 10.0 : 1.0));
+                context.AcceptCalibrationPoint(false);
+                context.StartNextPoint();
+            }
+            context.FinishCalibration();
+            const CalibrationResult result = context.GetCalibrationResult();
+            points += result.count;
+            averages += result.averageSlope;
+            context.LoadCalibration(result);
+        }
+    });
+    EXPECT_EQ(c.news, 0);
+    EXPECT_EQ(c.mallocs, 0);
+    // pH three points, ISE three, redox one
+    EXPECT_EQ(points, 7);
+    EXPECT_NE(averages, 0.0f);
+}
 }
 
 int main(int argc, char **argv)
