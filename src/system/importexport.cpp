@@ -21,13 +21,17 @@ namespace {
 const QStringList kRoleSuffixes{QStringLiteral("_import"), QStringLiteral("_temp"),
                                 QStringLiteral("_migrate"), QStringLiteral("_backup")};
 
-bool isImportableTable(const QString &table)
+// A key of a document names an existing table. Staging into a suffixed twin
+// takes live names only: a twin of a twin is never made.
+bool isImportableTable(const QString &table, const QString &suffix)
 {
     if (!DbUtil::isPlainIdentifier(table) || table.startsWith(QLatin1String("sqlite_"), Qt::CaseInsensitive))
         return false;
-    for (const QString &s : kRoleSuffixes) {
-        if (table.endsWith(s))
-            return false;
+    if (!suffix.isEmpty()) {
+        for (const QString &s : kRoleSuffixes) {
+            if (table.endsWith(s))
+                return false;
+        }
     }
     return DbUtil::tableExists(table);
 }
@@ -188,7 +192,10 @@ bool ImportExport::importAll(int mode, const QString &suffix)
     for (auto table = root.constBegin(); table != root.constEnd(); ++table) {
         if (!table.value().isObject())
             continue;
-        if (!isImportableTable(table.key())) {
+        // SQLite's own tables travel in a whole-file copy but are never written.
+        if (table.key().startsWith(QLatin1String("sqlite_")))
+            continue;
+        if (!isImportableTable(table.key(), suffix)) {
             qDebug() << "ImportExport: unknown table in" << m_fileName << "skipped:" << table.key().left(80);
             result = false;
             continue;
