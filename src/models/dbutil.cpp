@@ -1,5 +1,7 @@
 #include "models/dbutil.h"
 
+#include "models/dbtransaction.h"
+
 #include <QDebug>
 #include <QRegularExpression>
 #include <QSqlError>
@@ -79,4 +81,32 @@ QVariant DbUtil::scalar(const QString &sql, bool *ok)
     if (ok)
         *ok = good;
     return good ? query.value(0) : QVariant();
+}
+
+bool DbUtil::resetSquenceIds(const QStringList &tables)
+{
+    DbTransaction unit;
+    bool ok = true;
+    for (const QString &table : tables) {
+        if (!isPlainIdentifier(table) || !tableExists(table)) {
+            qDebug() << "resetSquenceIds: no table" << table;
+            ok = false;
+            continue;
+        }
+        QSqlQuery last;
+        if (!exec(last, QStringLiteral("SELECT id FROM %1 ORDER BY id DESC LIMIT 1").arg(table))) {
+            ok = false;
+            continue;
+        }
+        QSqlQuery counter;
+        if (last.next()) {
+            counter.prepare(QStringLiteral("UPDATE sqlite_sequence SET seq = :seq WHERE name = :name"));
+            counter.bindValue(QStringLiteral(":seq"), last.value(0).toLongLong());
+        } else {
+            counter.prepare(QStringLiteral("Delete FROM sqlite_sequence WHERE name = :name"));
+        }
+        counter.bindValue(QStringLiteral(":name"), table);
+        ok = exec(counter) && ok;
+    }
+    return unit.commit() && ok;
 }

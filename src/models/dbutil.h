@@ -27,6 +27,10 @@ public:
     static bool isPlainIdentifier(const QString &name);
     // Inclusive list of one-decimal versions: ("1.1", "1.4") -> 1.1 1.2 1.3 1.4.
     static QStringList versionRange(const QString &first, const QString &last);
+    // Sets each AUTOINCREMENT counter to the highest id left in its table,
+    // or removes it when the table is empty, so that numbering carries on
+    // from what is there (from 1 in an emptied table).
+    static bool resetSquenceIds(const QStringList &tables);
     // First column of the first row of a query without bound values.
     static QVariant scalar(const QString &sql, bool *ok = nullptr);
 };

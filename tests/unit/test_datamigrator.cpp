@@ -1,4 +1,5 @@
 #include "datamigrator.h"
+#include "models/dbutil.h"
 #include "models/methodmodel.h"
 #include "models/sysinfomodel.h"
 #include "system/platform.h"
@@ -218,6 +219,25 @@ TEST_F(Migration, NewestSystemInfoRowIsTheStateAndOnlyChangesAddRows)
         second.setOsTreeHash(QString());
     }
     EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("systemInfo")), 1);
+}
+
+TEST_F(Migration, SequenceCountersFollowWhatIsLeft)
+{
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("CREATE TABLE calibrationTable (id integer primary key autoincrement, v int)")));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("CREATE TABLE titrationTable (id integer primary key autoincrement, v int)")));
+    for (int i = 0; i < 5; ++i) {
+        ASSERT_TRUE(TestDatabase::exec(QStringLiteral("INSERT INTO calibrationTable (v) VALUES (1)")));
+        ASSERT_TRUE(TestDatabase::exec(QStringLiteral("INSERT INTO titrationTable (v) VALUES (1)")));
+    }
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("DELETE FROM calibrationTable")));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("DELETE FROM titrationTable WHERE id > 2")));
+    EXPECT_TRUE(DbUtil::resetSquenceIds({QStringLiteral("calibrationTable"), QStringLiteral("titrationTable")}));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("INSERT INTO calibrationTable (v) VALUES (1)")));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("INSERT INTO titrationTable (v) VALUES (1)")));
+    EXPECT_EQ(cell(QStringLiteral("SELECT max(id) FROM calibrationTable")).toInt(), 1);
+    EXPECT_EQ(cell(QStringLiteral("SELECT max(id) FROM titrationTable")).toInt(), 3);
+    EXPECT_FALSE(DbUtil::resetSquenceIds({QStringLiteral("titrationTable; DROP TABLE titrationTable")}));
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("titrationTable")), 3);
 }
 
 } // namespace
