@@ -171,7 +171,7 @@ void MethodModel::setId(int id)
 void MethodModel::setTitrantConcentration(float value)
 {
     m_titrantConcentration = value;
-    if (!isUpdatedFromDBLog()) {
+    if (!isUpdatedFromDBLog() && !m_loading) {
         m_titrant->setTitrantConcentrationValue(value);
         m_titration->setTitrantConcentration(value);
         m_titrant->updateMethodTable(m_id, value);
@@ -183,7 +183,7 @@ void MethodModel::setTitrantConcentration(float value)
 void MethodModel::setBlankConcentration(float value)
 {
     m_blankConcentration = value;
-    if (!isUpdatedFromDBLog()) {
+    if (!isUpdatedFromDBLog() && !m_loading) {
         m_titration->setBlankConcentration(value);
         m_titration->updateMethodTable(m_id, value);
     }
@@ -261,9 +261,9 @@ bool MethodModel::loadMethod(int id, const QString &suffix, bool sanitize)
     const QSqlRecord record = query.record();
     query.finish();
     // Loading writes nothing back: the two concentrations are taken as read.
-    setIsUpdatedFromDBLog(true);
+    m_loading = true;
     columnTable().loadInto(this, record);
-    setIsUpdatedFromDBLog(false);
+    m_loading = false;
     emit valueChanged();
     const bool electrode = m_electrode->updateElectrodeSetupModel(id, suffix);
     const bool titrant = m_titrant->updateTitrantSetupModel(id, suffix);

@@ -111,6 +111,7 @@ private:
     int m_id = scratchMethodId;
     float m_titrantConcentration = 1.0f;
     float m_blankConcentration = 0.0f;
+    bool m_loading = false;
     ElectrodeSetupModel *m_electrode = nullptr;
     TitrantSetupModel *m_titrant = nullptr;
     TitrationSetupModel *m_titration = nullptr;

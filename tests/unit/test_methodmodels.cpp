@@ -159,7 +159,9 @@ TEST_F(MethodModels, SavedMethodReloadsAfterRestartCopiesAndDeletesWithItsParts)
     ASSERT_TRUE(db.reopen());
 
     MethodModel method;
+    const QString stored = db.dump();
     method.updateMethodModel(id);
+    EXPECT_EQ(db.dump(), stored); // loading writes nothing
     EXPECT_EQ(method.methodName(), QStringLiteral("Calcium"));
     EXPECT_EQ(method.methodPassword(), QStringLiteral("1234"));
     EXPECT_EQ(method.electrodeSetupModel()->electrodeType(), QStringLiteral("ISE-Titration"));
