@@ -6,6 +6,7 @@
 #include "appconstants.h"
 #include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
+#include "datamigrator.h"
 #include "system/platform.h"
 
 #include <QApplication>
@@ -25,6 +26,10 @@ int main(int argc, char *argv[])
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
     db.setDatabaseName(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
     db.open();
+    // A file of another schema version is brought forward, or saved to JSON
+    // and emptied; the latter needs a restart of the service.
+    if (!DataMigrator::dmPtr()->migrate())
+        DataMigrator::dmPtr()->restartApp();
 
     qputenv("QT_IM_MODULE", QByteArray("qtvirtualkeyboard"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);

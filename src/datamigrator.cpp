@@ -1,0 +1,119 @@
+#include "datamigrator.h"
+
+#include "models/calibrationcyclemodel.h"
+#include "models/calibrationlogmodel.h"
+#include "models/calibrationmodel.h"
+#include "models/dbtransaction.h"
+#include "models/dbutil.h"
+#include "models/electrodesetupmodel.h"
+#include "models/measurementlogmodel.h"
+#include "models/measurementmodel.h"
+#include "models/methodmodel.h"
+#include "models/reportmodel.h"
+#include "models/setupmodel.h"
+#include "models/standardisationlogmodel.h"
+#include "models/sysinfomodel.h"
+#include "models/titrantsetupmodel.h"
+#include "models/titrationcyclemodel.h"
+#include "models/titrationlogmodel.h"
+#include "models/titrationmodel.h"
+#include "models/titrationsetupmodel.h"
+#include "system/importexport.h"
+#include "system/platform.h"
+
+#include <QDebug>
+#include <QSqlQuery>
+
+#include <functional>
+#include <vector>
+
+DataMigrator::DataMigrator(QObject *parent)
+    : QObject(parent)
+{
+}
+
+DataMigrator *DataMigrator::dmPtr()
+{
+    static DataMigrator *instance = new DataMigrator;
+    return instance;
+}
+
+QString DataMigrator::backupFilePath()
+{
+    return Platform::path(QStringLiteral("/var/Kestrum/database_backup.json"));
+}
+
+bool DataMigrator::migrate()
+{
+    const QString version = SysInfoModel::readDbVersion();
+    qDebug() << "DataMigrator: database version" << version;
+    if (version == SysInfoModel::currentDatabaseVersion)
+        return true;
+
+    // All models move forward together or not at all: a power loss or a
+    // failed step leaves the file as it was found.
+    bool migrated = false;
+    {
+        DbTransaction unit;
+        migrated = unit.isOpen() && migrateModelsFrom(version) && unit.commit();
+    }
+    if (migrated)
+        return true;
+    return wipeDatabaseRebuildSysInfo();
+}
+
+bool DataMigrator::migrateModelsFrom(const QString &fromVersion)
+{
+    const std::vector<std::function<bool(const QString &)>> models{
+        &CalibrationCycleModel::migrate, &CalibrationModel::migrate, &CalibrationLogModel::migrate,
+        &ElectrodeSetupModel::migrate,   &MeasurementModel::migrate, &MeasurementLogModel::migrate,
+        &MethodModel::migrate,           &SetupModel::migrate,       &SysInfoModel::migrate,
+        &TitrantSetupModel::migrate,     &TitrationLogModel::migrate, &TitrationModel::migrate,
+        &TitrationSetupModel::migrate,   &TitrationCycleModel::migrate, &StandardisationLogModel::migrate,
+        &ReportModel::migrate,
+    };
+    bool result = true;
+    for (const auto &m : models)
+        result = m(fromVersion) && result;
+    return result;
+}
+
+bool DataMigrator::wipeDatabaseRebuildSysInfo()
+{
+    ImportExport backup(backupFilePath());
+    if (!backup.exportAll()) {
+        // Nothing is destroyed without its copy.
+        qDebug() << "DataMigrator: the JSON copy could not be written; the file is left as it is";
+        return false;
+    }
+
+    {
+        DbTransaction unit;
+        bool ok = true;
+        for (const QString &name : DbUtil::tableNames()) {
+            if (name.startsWith(QLatin1String("sqlite_")))
+                continue; // SQLite's own tables go with the tables they serve
+            const bool dropped = DbUtil::execText(QStringLiteral("DROP TABLE \"%1\"").arg(QString(name).replace(QLatin1Char('"'), QStringLiteral("\"\""))));
+            qDebug() << "DROP TABLE" << name << " Result: " << dropped;
+            ok = dropped && ok;
+        }
+        if (DbUtil::tableExists(QStringLiteral("sqlite_sequence")))
+            ok = DbUtil::execText(QStringLiteral("DELETE FROM sqlite_sequence")) && ok;
+        QSqlQuery insert;
+        ok = ok && SysInfoModel::createTables(false);
+        ok = ok && insert.prepare(QStringLiteral("INSERT INTO %1 (dbVersion) VALUES(:dbVersion)").arg(SysInfoModel::tableName));
+        insert.bindValue(QStringLiteral(":dbVersion"), SysInfoModel::currentDatabaseVersion);
+        ok = ok && DbUtil::exec(insert);
+        if (!ok || !unit.commit())
+            qDebug() << "DataMigrator: the file could not be emptied; it stays as it was";
+    }
+    DbUtil::execText(QStringLiteral("VACUUM"));
+    return false;
+}
+
+void DataMigrator::restartApp()
+{
+    const Platform::Result r = Platform::run(QStringLiteral("systemctl"), {QStringLiteral("restart"), QStringLiteral("b2qt")}, 30000);
+    if (!r.ok())
+        qDebug() << "DataMigrator: restart failed, exit" << r.exitCode << r.standardError;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+// Decides at start-up, before any model exists, whether the database file
+// can be used as it is, must be brought forward from an older schema, or
+// must be saved to JSON and emptied.
+class DataMigrator : public QObject
+{
+    Q_OBJECT
+public:
+    static DataMigrator *dmPtr();
+
+    // True: safe to continue. False: the application must restart.
+    bool migrate();
+    // Asks every model in turn; all are asked even after one has failed.
+    bool migrateModelsFrom(const QString &fromVersion);
+    // The whole-file JSON copy written before the file is emptied.
+    static QString backupFilePath();
+
+public slots:
+    // Saves the file to JSON, then empties it down to one `systemInfo` row of
+    // the current version. Always returns false.
+    bool wipeDatabaseRebuildSysInfo();
+    void restartApp();
+
+private:
+    explicit DataMigrator(QObject *parent = nullptr);
+};

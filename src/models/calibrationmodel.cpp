@@ -1,0 +1,17 @@
+#include "models/calibrationmodel.h"
+
+#include "models/dbutil.h"
+#include "models/migrationframe.h"
+
+const QString CalibrationModel::tableName = QStringLiteral("calibrationTable");
+QStringList CalibrationModel::noMigrateList = DbUtil::versionRange(QStringLiteral("1.4"), QStringLiteral("1.7"));
+
+bool CalibrationModel::migrate(const QString &fromVersion)
+{
+    MigrationFrame frame;
+    frame.modelName = QStringLiteral("CalibrationModel");
+    frame.noMigrateList = noMigrateList;
+    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.3"));
+    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
+    return frame.run(fromVersion);
+}

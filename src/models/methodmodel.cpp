@@ -1,0 +1,445 @@
+#include "models/methodmodel.h"
+
+#include "models/dbtransaction.h"
+#include "models/dbutil.h"
+#include "models/electrodesetupmodel.h"
+#include "models/migrationframe.h"
+#include "models/titrantsetupmodel.h"
+#include "models/titrationsetupmodel.h"
+
+#include <QDebug>
+#include <QRegularExpression>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+const QString MethodModel::tableName = QStringLiteral("methodSetupTable");
+QStringList MethodModel::noMigrateList;
+
+const ColumnTable &MethodModel::columnTable()
+{
+    static const ColumnTable table({
+        {"id", "integer primary key autoincrement", "id", ColumnSpec::AsIs},
+        {"methodName", "varchar(30) UNIQUE", "methodName", ColumnSpec::AsIs},
+        {"methodPassword", "varchar(30)", "methodPassword", ColumnSpec::AsIs},
+        {"lastTitration", "varchar(30)", "lastTitration", ColumnSpec::AsIs},
+        {"lastCalibration", "varchar(30)", "lastCalibration", ColumnSpec::AsIs},
+        {"lastStandardization", "varchar(30)", "lastStandardization", ColumnSpec::AsIs},
+        {"titrantConcentration", "float", "titrantConcentration", ColumnSpec::AsNumber},
+        {"blankConcentration", "float", "blankConcentration", ColumnSpec::AsNumber},
+        {"sampleConcentration", "float", "sampleConcentration", ColumnSpec::AsNumber},
+        {"mcreatedAt", "DATETIME", "mcreatedAt", ColumnSpec::AsIs},
+        {"mupdatedAt", "DATETIME", "mupdatedAt", ColumnSpec::AsIs},
+        {"isChangeFromHome", "integer DEFAULT 0", "isChangeFromHome", ColumnSpec::AsIs},
+        {"calibratedElectrodeName", "varchar(30)", "calibratedElectrodeName", ColumnSpec::AsIs},
+    });
+    return table;
+}
+
+MethodModel::MethodModel(QObject *parent, bool ensureScratch)
+    : QObject(parent)
+{
+    setSuccess(1);
+    m_electrode = new ElectrodeSetupModel(this);
+    m_titrant = new TitrantSetupModel(this);
+    m_titration = new TitrationSetupModel(this);
+    m_titrant->setTitrantConcentrationValue(m_titrantConcentration);
+    m_titration->setTitrantConcentration(m_titrantConcentration);
+    m_titration->setBlankConcentration(m_blankConcentration);
+    if (ensureScratch)
+        ensureScratchMethod();
+}
+
+MethodModel::~MethodModel()
+{
+    clearMethods();
+}
+
+bool MethodModel::createTables()
+{
+    const bool live = DbUtil::execText(columnTable().createSql(tableName, true));
+    const bool staging = DbUtil::execText(columnTable().createSql(tableName + QStringLiteral("_import"), true));
+    return live && staging;
+}
+
+bool MethodModel::ensureScratchMethod()
+{
+    createTables();
+    QSqlQuery select;
+    select.prepare(QStringLiteral("SELECT * FROM methodSetupTable WHERE id=:m_id"));
+    select.bindValue(QStringLiteral(":m_id"), scratchMethodId);
+    if (DbUtil::exec(select) && select.next())
+        return true;
+    select.finish();
+
+    const QDateTime now = QDateTime::currentDateTime();
+    setMcreatedAt(now);
+    setMupdatedAt(now);
+    setIsChangeFromHome(false);
+    const QStringList columns{QStringLiteral("id"), QStringLiteral("methodName"), QStringLiteral("methodPassword"),
+                              QStringLiteral("titrantConcentration"), QStringLiteral("blankConcentration"),
+                              QStringLiteral("sampleConcentration"), QStringLiteral("isChangeFromHome"),
+                              QStringLiteral("mcreatedAt"), QStringLiteral("mupdatedAt")};
+    QSqlQuery insert;
+    insert.prepare(columnTable().insertSql(tableName, columns));
+    columnTable().bindFrom(this, insert, columns);
+    insert.bindValue(QStringLiteral(":id"), scratchMethodId);
+    insert.bindValue(QStringLiteral(":methodName"), QString(""));
+    insert.bindValue(QStringLiteral(":methodPassword"), QString(""));
+    if (!DbUtil::exec(insert))
+        return false;
+    m_electrode->setMethodId(scratchMethodId);
+    m_titrant->setMethodId(scratchMethodId);
+    m_titration->setMethodId(scratchMethodId);
+    m_electrode->setElectrodeSetupValues();
+    m_titrant->setTitrantSetupValues(m_electrode->electrodeType(), true);
+    m_titration->setTitrationSetupValues(m_electrode->electrodeType());
+    return true;
+}
+
+bool MethodModel::migrate(const QString &fromVersion)
+{
+    MigrationFrame frame;
+    frame.modelName = QStringLiteral("MethodModel");
+    frame.noMigrateList = noMigrateList;
+    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.7"));
+    frame.step = [](const QString &) {
+        // Rebuilt with AUTOINCREMENT, so that an id that old run records
+        // still point to is never given to a new method. One unit: a power
+        // loss leaves the old table or the new one.
+        const QString columns = columnTable().names().join(QStringLiteral(", "));
+        QString backupColumns = columnTable().createSql(QStringLiteral("methodSetupTable_backup"), false);
+        backupColumns.replace(QStringLiteral("integer primary key autoincrement"), QStringLiteral("integer primary key"));
+        backupColumns.replace(QStringLiteral("CREATE TABLE"), QStringLiteral("CREATE TEMPORARY TABLE"));
+        const QStringList statements{
+            backupColumns,
+            QStringLiteral("INSERT INTO methodSetupTable_backup SELECT %1 FROM methodSetupTable;").arg(columns),
+            QStringLiteral("DROP TABLE methodSetupTable;"),
+            columnTable().createSql(tableName, false),
+            QStringLiteral("INSERT INTO methodSetupTable SELECT %1 FROM methodSetupTable_backup;").arg(columns),
+            QStringLiteral("DROP TABLE methodSetupTable_backup"),
+            QStringLiteral("INSERT INTO methodSetupTable(id, blankConcentration) VALUES((SELECT MAX(methodID) FROM titrationTable), -42.0);"),
+            QStringLiteral("DELETE FROM methodSetupTable WHERE blankConcentration=-42.0;"),
+        };
+        DbTransaction unit;
+        bool ok = true;
+        for (const QString &s : statements)
+            ok = DbUtil::execText(s) && ok;
+        return ok && unit.commit();
+    };
+    return frame.run(fromVersion);
+}
+
+int MethodModel::methodCount()
+{
+    QSqlQuery query;
+    query.prepare(QStringLiteral("SELECT count(*) FROM methodSetupTable WHERE id != :scratch"));
+    query.bindValue(QStringLiteral(":scratch"), scratchMethodId);
+    if (!DbUtil::exec(query) || !query.next())
+        return 0;
+    return query.value(0).toInt();
+}
+
+QString MethodModel::uniqueMethodName(const QString &name)
+{
+    static const QRegularExpression counter(QStringLiteral("~[0-9]+$"));
+    QString base = name;
+    base.remove(counter);
+    QString candidate = base;
+    qint64 n = 1;
+    for (;;) {
+        QSqlQuery query;
+        query.prepare(QStringLiteral("SELECT methodName FROM methodSetupTable WHERE methodName = :methodName"));
+        query.bindValue(QStringLiteral(":methodName"), candidate);
+        if (!DbUtil::exec(query) || !query.next())
+            break;
+        candidate = base + QStringLiteral("~%1").arg(n);
+        ++n;
+    }
+    qDebug() << "Unique method name: " << candidate;
+    return candidate;
+}
+
+void MethodModel::setId(int id)
+{
+    if (m_id == id)
+        return;
+    m_id = id;
+    emit valueChanged();
+}
+
+void MethodModel::setTitrantConcentration(float value)
+{
+    m_titrantConcentration = value;
+    if (!isUpdatedFromDBLog() && !m_loading) {
+        m_titrant->setTitrantConcentrationValue(value);
+        m_titration->setTitrantConcentration(value);
+        m_titrant->updateMethodTable(m_id, value);
+    }
+    setIsUpdatedFromDBLog(false);
+    emit valueChanged();
+}
+
+void MethodModel::setBlankConcentration(float value)
+{
+    m_blankConcentration = value;
+    if (!isUpdatedFromDBLog() && !m_loading) {
+        m_titration->setBlankConcentration(value);
+        m_titration->updateMethodTable(m_id, value);
+    }
+    setIsUpdatedFromDBLog(false);
+    emit valueChanged();
+}
+
+void MethodModel::saveMethodValues(const QString &name, const QString &password)
+{
+    createTables();
+    if (methodCount() >= maxMethods) {
+        qDebug() << "Method log is full, new method cannot be saved.";
+        setSuccess(0);
+        return;
+    }
+    setIsChangeFromHome(false);
+    m_titrantConcentration = m_titrant->titrantConcentrationValue();
+    const QDateTime now = QDateTime::currentDateTime();
+    const QStringList columns{QStringLiteral("methodName"), QStringLiteral("methodPassword"),
+                              QStringLiteral("titrantConcentration"), QStringLiteral("mcreatedAt"),
+                              QStringLiteral("mupdatedAt"), QStringLiteral("isChangeFromHome"),
+                              QStringLiteral("calibratedElectrodeName"), QStringLiteral("lastStandardization")};
+    QSqlQuery insert;
+    insert.prepare(columnTable().insertSql(tableName, columns));
+    columnTable().bindFrom(this, insert, columns);
+    insert.bindValue(QStringLiteral(":methodName"), name);
+    insert.bindValue(QStringLiteral(":methodPassword"), password);
+    insert.bindValue(QStringLiteral(":mcreatedAt"), now);
+    insert.bindValue(QStringLiteral(":mupdatedAt"), now);
+    const bool ok = DbUtil::exec(insert);
+    setSuccess(ok ? 1 : 0);
+    if (!ok)
+        return;
+
+    setId(insert.lastInsertId().toInt());
+    m_blankConcentration = 0.0f;
+    m_electrode->setMethodId(m_id);
+    m_titrant->setMethodId(m_id);
+    m_titration->setMethodId(m_id);
+    m_titrant->setTitrantConcentrationValue(m_titrantConcentration);
+    m_titration->setTitrantConcentration(m_titrantConcentration);
+    m_titration->setBlankConcentration(m_blankConcentration);
+    m_electrode->setElectrodeSetupValues();
+    m_titrant->setTitrantSetupValues(m_electrode->electrodeType(), true);
+    m_titration->setTitrationSetupValues(m_electrode->electrodeType());
+    updateMethodModel(m_id);
+}
+
+void MethodModel::updateMethodModel(int id, const QString &name, const QString &password)
+{
+    QSqlQuery update;
+    update.prepare(QStringLiteral("UPDATE methodSetupTable SET methodName=:newName, methodPassword=:newPassword, "
+                                  "mupdatedAt=:newmupdatedAt WHERE id=:ID"));
+    update.bindValue(QStringLiteral(":newName"), name);
+    update.bindValue(QStringLiteral(":newPassword"), password);
+    update.bindValue(QStringLiteral(":newmupdatedAt"), QDateTime::currentDateTime());
+    update.bindValue(QStringLiteral(":ID"), id);
+    setSuccess(DbUtil::exec(update) ? 1 : 0);
+}
+
+void MethodModel::updateMethodModel(int id)
+{
+    loadMethod(id, QString(), false);
+}
+
+bool MethodModel::loadMethod(int id, const QString &suffix, bool sanitize)
+{
+    QSqlQuery query;
+    query.prepare(QStringLiteral("SELECT *  FROM methodSetupTable%1 WHERE id=:ID").arg(suffix));
+    query.bindValue(QStringLiteral(":ID"), id);
+    if (!query.exec() || !query.next()) {
+        qDebug() << "MethodModel: no method" << id << query.lastError().text();
+        return false;
+    }
+    const QSqlRecord record = query.record();
+    query.finish();
+    // Loading writes nothing back: the two concentrations are taken as read.
+    m_loading = true;
+    columnTable().loadInto(this, record);
+    m_loading = false;
+    emit valueChanged();
+    const bool electrode = m_electrode->updateElectrodeSetupModel(id, suffix);
+    const bool titrant = m_titrant->updateTitrantSetupModel(id, suffix);
+    const bool titration = m_titration->updateTitrationSetupModel(id, suffix);
+    if (sanitize) {
+        setLastTitration(QString());
+        setLastCalibration(QString());
+        setLastStandardization(QString());
+        setCalibratedElectrodeName(QString());
+    }
+    return electrode && titrant && titration;
+}
+
+void MethodModel::deleteRow(int id)
+{
+    DbTransaction unit;
+    bool ok = true;
+    for (const char *child : {"electrodeSetupTable", "titrantSetupTable", "titrationSetupTable"}) {
+        QSqlQuery del;
+        del.prepare(QStringLiteral("DELETE FROM %1 WHERE methodId=:id").arg(QString::fromLatin1(child)));
+        del.bindValue(QStringLiteral(":id"), id);
+        ok = DbUtil::exec(del) && ok;
+    }
+    QSqlQuery del;
+    del.prepare(QStringLiteral("DELETE FROM methodSetupTable WHERE id=:id"));
+    del.bindValue(QStringLiteral(":id"), id);
+    ok = DbUtil::exec(del) && ok;
+    if (ok)
+        unit.commit();
+}
+
+void MethodModel::newTitration()
+{
+    const int electrodeRow = m_electrode->id();
+    const int titrantRow = m_titrant->id();
+    const int titrationRow = m_titration->id();
+    setLastCalibration(QString());
+    setLastStandardization(QString());
+    setLastTitration(QString());
+    setIsChangeFromHome(false);
+
+    QSqlQuery update;
+    update.prepare(QStringLiteral("UPDATE methodSetupTable SET lastStandardization=:lastStandardization, "
+                                  "lastTitration=:lastTitration, lastCalibration=:lastCalibration,  "
+                                  "mupdatedAt=:newmupdatedAt, isChangeFromHome=:newisChangeFromHome, "
+                                  "calibratedElectrodeName=:calibratedElectrodeName WHERE id=:ID"));
+    update.bindValue(QStringLiteral(":lastStandardization"), QString(""));
+    update.bindValue(QStringLiteral(":lastTitration"), QString(""));
+    update.bindValue(QStringLiteral(":lastCalibration"), QString(""));
+    update.bindValue(QStringLiteral(":newmupdatedAt"), QDateTime::currentDateTime());
+    update.bindValue(QStringLiteral(":newisChangeFromHome"), 0);
+    update.bindValue(QStringLiteral(":calibratedElectrodeName"), m_calibratedElectrodeName);
+    update.bindValue(QStringLiteral(":ID"), m_id);
+    DbUtil::exec(update);
+
+    ElectrodeSetupModel electrode;
+    TitrantSetupModel titrant;
+    TitrationSetupModel titration;
+    titrant.setTitrantConcentrationValue(1.0f);
+    titration.setTitrantConcentration(1.0f);
+    titration.setBlankConcentration(0.0f);
+    electrode.setId(electrodeRow);
+    titrant.setId(titrantRow);
+    titration.setId(titrationRow);
+    electrode.setMethodId(m_id);
+    titrant.setMethodId(m_id);
+    titration.setMethodId(m_id);
+    electrode.setElectrodeSetupValues();
+    titrant.setTitrantSetupValues(electrode.electrodeType(), false);
+    titration.setTitrationSetupValues(electrode.electrodeType());
+}
+
+QQmlListProperty<MethodModel> MethodModel::methods()
+{
+    return QQmlListProperty<MethodModel>(this, &m_methods);
+}
+
+void MethodModel::clearMethods()
+{
+    qDeleteAll(m_methods);
+    m_methods.clear();
+}
+
+bool MethodModel::loadMethodsFromDb(const QString &tableSuffix, bool sanitize)
+{
+    if (!tableSuffix.isEmpty() && !DbUtil::isPlainIdentifier(tableSuffix.mid(1)))
+        return false;
+    QList<MethodModel *> loaded;
+    QSqlQuery query;
+    query.prepare(QStringLiteral("SELECT * from methodSetupTable%1 WHERE id!=:scratch").arg(tableSuffix));
+    query.bindValue(QStringLiteral(":scratch"), scratchMethodId);
+    if (!DbUtil::exec(query))
+        return false;
+    QList<QPair<int, QString>> rows;
+    while (query.next())
+        rows.append({query.value(QStringLiteral("id")).toInt(), query.value(QStringLiteral("methodName")).toString()});
+    query.finish();
+    for (const auto &row : rows) {
+        qDebug() << "Adding " << row.second;
+        auto *entry = new MethodModel(nullptr, false);
+        entry->loadMethod(row.first, tableSuffix, sanitize);
+        loaded.append(entry);
+    }
+    for (MethodModel *entry : loaded) {
+        if (entry->id() == scratchMethodId)
+            delete entry;
+        else
+            m_methods.append(entry);
+    }
+    emit valueChanged();
+    return !rows.isEmpty();
+}
+
+bool MethodModel::insertStaged(const QString &suffix)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    setMcreatedAt(now);
+    setMupdatedAt(now);
+    QSqlQuery insert;
+    insert.prepare(columnTable().insertSql(tableName + suffix, columnTable().names()));
+    columnTable().bindFrom(this, insert, columnTable().names());
+    bool ok = DbUtil::exec(insert);
+    ok = m_electrode->insertStaged(suffix) && ok;
+    ok = m_titrant->insertStaged(suffix) && ok;
+    ok = m_titration->insertStaged(suffix) && ok;
+    return ok;
+}
+
+bool MethodModel::methodsToStaging(const QString &suffix)
+{
+    bool ok = true;
+    for (MethodModel *entry : qAsConst(m_methods))
+        ok = entry->insertStaged(suffix) && ok;
+    return ok;
+}
+
+bool MethodModel::installEntry(MethodModel *entry)
+{
+    if (methodCount() >= maxMethods) {
+        qDebug() << "Method log is full, new method cannot be saved." << entry->methodName();
+        return false;
+    }
+    entry->setMethodName(uniqueMethodName(entry->methodName()));
+    QStringList columns = columnTable().names();
+    columns.removeAll(QStringLiteral("id"));
+    QSqlQuery insert;
+    insert.prepare(columnTable().insertSql(tableName, columns));
+    columnTable().bindFrom(entry, insert, columns);
+    if (!DbUtil::exec(insert))
+        return false;
+    const int newId = insert.lastInsertId().toInt();
+    entry->setId(newId);
+    entry->electrodeSetupModel()->setMethodId(newId);
+    entry->electrodeSetupModel()->setElectrodeSetupValues();
+    const QString type = entry->electrodeSetupModel()->electrodeType();
+    entry->titrantSetupModel()->setMethodId(newId);
+    entry->titrantSetupModel()->setTitrantSetupValues(type, true);
+    entry->titrationSetupModel()->setMethodId(newId);
+    entry->titrationSetupModel()->setTitrationSetupValues(type);
+    return true;
+}
+
+void MethodModel::listToDb(const QVariantList &arr)
+{
+    qDebug() << "===================Methods Getting Installed======================";
+    for (const QVariant &v : arr) {
+        const int id = v.toInt();
+        if (id == 0)
+            continue;
+        for (MethodModel *entry : qAsConst(m_methods)) {
+            if (entry->id() != id)
+                continue;
+            // The entry keeps its staged id, so that the same id listed twice
+            // installs the method twice.
+            installEntry(entry);
+            entry->setId(id);
+        }
+    }
+}

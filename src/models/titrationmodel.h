@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// Owner of `titrationTable`. Its rows are snapshots that can't be reshaped, so an
+// older shape of the table is dropped and comes back empty.
+class TitrationModel
+{
+public:
+    static const QString tableName;
+    static QStringList noMigrateList;
+    static bool migrate(const QString &fromVersion);
+};
