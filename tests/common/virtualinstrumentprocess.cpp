@@ -77,3 +77,12 @@ QStringList VirtualInstrumentProcess::traceLines(char kind) const
     }
     return out;
 }
+
+QString VirtualInstrumentProcess::command(const QString &line)
+{
+    m_process.write(line.toUtf8() + '\n');
+    if (!waitUntil([this] { return m_process.canReadLine(); }, 5000))
+        return QStringLiteral("no answer");
+    const QString answer = QString::fromUtf8(m_process.readLine()).trimmed();
+    return answer == QLatin1String("ok") ? QString() : answer;
+}

@@ -20,6 +20,10 @@ public:
     void stop();
     bool isRunning() const;
 
+    // Sends one control line ("beaker {...}") and waits for its answer:
+    // "" for "ok", else the error text (or "no answer").
+    QString command(const QString &line);
+
     // The link the application opens: the sandbox's "/dev/ttymxc2".
     QString device() const;
     QString traceText() const;

@@ -135,3 +135,30 @@ TEST_F(SlaveLink, InstrumentGoneAndBack)
     ASSERT_TRUE(waitUntil([&] { return data.mspVersion == "2.00"; }, 10000));
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() > seen + 2; }));
 }
+
+// The electrode goes from one buffer into another while the link runs: the
+// millivolts settle at the new buffer's value with the electrode's lag, and
+// a bad control line is refused without disturbing the instrument.
+TEST_F(SlaveLink, ElectrodeMovesBetweenBuffers)
+{
+    const double speed = 20;
+    ASSERT_TRUE(vi.start(QStringLiteral(R"({"seed":5,"temperature_C":25,
+        "electrode":{"E0_mV":12,"slope_pct":97,"tau_s":1.0,"noise_mV":0.02},
+        "beaker":{"kind":"buffer","pH":7.00}})"), speed)) << vi.errorText().toStdString();
+    auto msp = connect(speed);
+    ASSERT_TRUE(waitUntil([&] { return samples.t.size() >= 4; }));
+    EXPECT_NEAR(samples.mv.back(), 12.0, 0.2);
+
+    EXPECT_TRUE(vi.command(QStringLiteral("beaker {\"kind\":\"buffer\",\"pH\":4.01}")).isEmpty());
+    const long movedAt = samples.t.back();
+    ASSERT_TRUE(waitUntil([&] { return samples.t.back() > movedAt + 8000; }, 20000));
+    EXPECT_NEAR(samples.mv.back(), 12.0 - 0.97 * 59.159 * (4.01 - 7.0), 0.3);
+
+    EXPECT_FALSE(vi.command(QStringLiteral("beaker {\"kind\":\"lemonade\"}")).isEmpty());
+    EXPECT_FALSE(vi.command(QStringLiteral("beaker not json")).isEmpty());
+    EXPECT_FALSE(vi.command(QStringLiteral("dance")).isEmpty());
+    const size_t before = samples.t.size();
+    ASSERT_TRUE(waitUntil([&] { return samples.t.size() > before + 2; }));
+    EXPECT_NEAR(samples.mv.back(), 12.0 - 0.97 * 59.159 * (4.01 - 7.0), 0.3);
+    EXPECT_TRUE(vi.isRunning());
+}

@@ -3,6 +3,8 @@
 #include "beaker.h"
 #include "scenario.h"
 
+#include <QJsonObject>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -171,4 +173,27 @@ TEST(ScenarioFile, BadFilesAreRefusedWithAReason)
         EXPECT_FALSE(Scenario::parse(json, &s, &error)) << json;
         EXPECT_FALSE(error.isEmpty()) << json;
     }
+}
+
+TEST(Buffer, ReadsItsPHWithTheElectrodesOffsetAndSlope)
+{
+    // 97 % of the Nernst slope at 25 °C (59.16 mV) is 57.39 mV per pH; an
+    // offset of +12 mV. pH 4.01: 12 - 57.39*(4.01-7) = 183.59 mV.
+    QString error;
+    auto b = Beaker::fromJson(QJsonObject{{QStringLiteral("kind"), QStringLiteral("buffer")},
+                                          {QStringLiteral("pH"), 4.01}},
+                              25.0, 12.0, 97.0, &error);
+    ASSERT_TRUE(b) << error.toStdString();
+    EXPECT_NEAR(b->potentialMv(0.0), 183.59, 0.02);
+    EXPECT_NEAR(b->potentialMv(5.0), 183.59, 0.02) << "titrant does not move a buffer";
+    // At 10 °C the slope is 56.18 mV per pH; pH 10.07 at 100 %: -172.47 mV.
+    auto cold = Beaker::fromJson(QJsonObject{{QStringLiteral("kind"), QStringLiteral("buffer")},
+                                             {QStringLiteral("pH"), 10.07}},
+                                 10.0, 0.0, 100.0, &error);
+    ASSERT_TRUE(cold);
+    EXPECT_NEAR(cold->potentialMv(0.0), -172.47, 0.02);
+    EXPECT_FALSE(Beaker::fromJson(QJsonObject{{QStringLiteral("kind"), QStringLiteral("buffer")},
+                                              {QStringLiteral("pH"), 99.0}},
+                                  25.0, 0.0, 100.0, &error));
+    EXPECT_FALSE(error.isEmpty());
 }

@@ -121,8 +121,25 @@ std::unique_ptr<Beaker> Beaker::fromJson(const QJsonObject &b, double celsius, d
         p.slopePct = slopePct;
         return std::make_unique<IseBeaker>(p);
     }
+    if (kind == QLatin1String("buffer")) {
+        BufferBeaker::Params p;
+        p.pH = number(b, "pH", 7.0);
+        if (p.pH < -2.0 || p.pH > 16.0) {
+            *error = QStringLiteral("buffer pH must lie between -2 and 16");
+            return nullptr;
+        }
+        p.celsius = celsius;
+        p.e0Mv = e0Mv;
+        p.slopePct = slopePct;
+        return std::make_unique<BufferBeaker>(p);
+    }
     *error = QStringLiteral("unknown beaker kind \"%1\"").arg(kind);
     return nullptr;
+}
+
+double BufferBeaker::potentialMv(double) const
+{
+    return m_p.e0Mv - (m_p.slopePct / 100.0) * nernstSlope(m_p.celsius) * (m_p.pH - 7.0);
 }
 
 // ---------------------------------------------------------------- acid-base

@@ -96,3 +96,21 @@ public:
 private:
     Params m_p;
 };
+
+// A buffer solution: the electrode reads a fixed pH at the scenario's
+// temperature, E = E0 - slope * (pH - 7); the titrant does not change it.
+class BufferBeaker : public Beaker
+{
+public:
+    struct Params {
+        double pH = 7.0;
+        double celsius = 25;
+        double e0Mv = 0;
+        double slopePct = 100;
+    };
+    explicit BufferBeaker(const Params &p) : m_p(p) {}
+    double potentialMv(double titrantMl) const override;
+
+private:
+    Params m_p;
+};

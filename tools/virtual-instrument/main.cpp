@@ -1,6 +1,7 @@
 // The virtual instrument: stands in for the slave microcontroller on a
 // pseudo-terminal, with a beaker described by a scenario file.
 
+#include "controlinput.h"
 #include "pseudoterminal.h"
 #include "scenario.h"
 #include "slavesession.h"
@@ -8,6 +9,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTextStream>
 
 #include <csignal>
@@ -42,7 +45,8 @@ int main(int argc, char *argv[])
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Stands in for the instrument's slave microcontroller on a pseudo-terminal."));
+        "Stands in for the instrument's slave microcontroller on a pseudo-terminal.\n"
+        "Standard input takes commands, one a line: beaker {JSON beaker object}."));
     parser.addHelpOption();
     const QCommandLineOption deviceOpt(QStringLiteral("device"),
         QStringLiteral("Where to put the link to the terminal (default: the sandbox's /dev/ttymxc2)."),
@@ -75,6 +79,22 @@ int main(int argc, char *argv[])
     }
 
     VirtualSlave slave(scenario.config, std::move(scenario.beaker));
+    const double celsius = scenario.config.temperatureC;
+    const double e0Mv = scenario.e0Mv;
+    const double slopePct = scenario.slopePct;
+    ControlInput control([&](const QByteArray &command, const QByteArray &argument) -> QString {
+        if (command != "beaker")
+            return QStringLiteral("unknown command \"%1\"").arg(QString::fromUtf8(command.left(32)));
+        const QJsonDocument doc = QJsonDocument::fromJson(argument);
+        if (!doc.isObject())
+            return QStringLiteral("beaker takes one JSON object");
+        QString why;
+        auto beaker = Beaker::fromJson(doc.object(), celsius, e0Mv, slopePct, &why);
+        if (!beaker)
+            return why;
+        slave.setBeaker(std::move(beaker));
+        return QString();
+    });
     PseudoTerminal pty;
     const QString link = parser.value(deviceOpt);
     if (!pty.open(link)) {

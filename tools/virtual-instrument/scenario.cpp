@@ -66,6 +66,8 @@ bool Scenario::parse(const QByteArray &json, Scenario *out, QString *error)
         return false;
     out->config = c;
     out->beaker = std::move(beaker);
+    out->e0Mv = e0;
+    out->slopePct = slope;
     return true;
 }
 

@@ -12,6 +12,8 @@
 struct Scenario {
     VirtualSlave::Config config;
     std::unique_ptr<Beaker> beaker;
+    double e0Mv = 0;
+    double slopePct = 100;
 
     static bool parse(const QByteArray &json, Scenario *out, QString *error);
     static bool load(const QString &fileName, Scenario *out, QString *error);

@@ -20,6 +20,14 @@ VirtualSlave::VirtualSlave(const Config &config, std::unique_ptr<Beaker> beaker)
     m_electrodeMv = m_targetMv;
 }
 
+void VirtualSlave::setBeaker(std::unique_ptr<Beaker> beaker)
+{
+    m_beaker = std::move(beaker);
+    m_beakerStartMl = titrantInBeakerMl();
+    m_targetAtMl = -1;
+    event(QStringLiteral("electrode moved to a new beaker"));
+}
+
 int VirtualSlave::positionCode() const
 {
     if (m_motion != Motion::None)
@@ -81,7 +89,7 @@ void VirtualSlave::step(double dtMs)
     }
 
     // The electrode follows the beaker with its first-order lag.
-    const double ml = titrantInBeakerMl();
+    const double ml = titrantInBeakerMl() - m_beakerStartMl;
     if (m_beaker && std::fabs(ml - m_targetAtMl) > 1e-9) {
         m_targetMv = m_beaker->potentialMv(ml);
         m_targetAtMl = ml;

@@ -40,6 +40,10 @@ public:
     // line end, or nothing for commands that have no reply.
     QByteArray handle(const QByteArray &line);
 
+    // The electrode goes into another beaker (a buffer, the next sample):
+    // titrant dispensed so far stays in the old one. It settles with its lag.
+    void setBeaker(std::unique_ptr<Beaker> beaker);
+
     qint64 now() const { return m_now; }
     bool busy() const { return m_motion != Motion::None; }
     int positionCode() const;
@@ -87,4 +91,5 @@ private:
     double m_electrodeMv = 0;
     double m_targetMv = 0;
     double m_targetAtMl = -1;
+    double m_beakerStartMl = 0;
 };
