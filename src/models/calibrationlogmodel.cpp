@@ -1,10 +1,37 @@
 #include "models/calibrationlogmodel.h"
 
+#include "models/dbtransaction.h"
 #include "models/dbutil.h"
+#include "models/logcapacity.h"
+#include "models/loglayout.h"
+#include "models/logsnapshot.h"
 #include "models/migrationframe.h"
+#include "system/clock.h"
+
+#include <QDebug>
+#include <QSqlQuery>
 
 const QString CalibrationLogModel::tableName = QStringLiteral("calibrationLogTable");
 QStringList CalibrationLogModel::noMigrateList = DbUtil::versionRange(QStringLiteral("1.4"), QStringLiteral("1.7"));
+const QString CalibrationLogModel::listColumns = QStringLiteral(
+    "id,electrodeSetup_Name,electrodeSetup_Type,methodId,methodName,calibration_Id,calibration_ElectrodeName,"
+    "calibration_ElectrodeType,logCreatedAt");
+
+const LogLayout &CalibrationLogModel::layout()
+{
+    return LogLayout::calibration();
+}
+
+CalibrationLogModel::CalibrationLogModel(QObject *parent)
+    : QObject(parent)
+{
+    createTable();
+}
+
+bool CalibrationLogModel::createTable()
+{
+    return DbUtil::execText(layout().createSql(tableName));
+}
 
 bool CalibrationLogModel::migrate(const QString &fromVersion)
 {
@@ -14,4 +41,111 @@ bool CalibrationLogModel::migrate(const QString &fromVersion)
     frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.3"));
     frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
     return frame.run(fromVersion);
+}
+
+void CalibrationLogModel::setId(int id)
+{
+    if (m_id == id)
+        return;
+    m_id = id;
+    emit valueChanged();
+}
+
+void CalibrationLogModel::saveLogValues(const QVariantMap &calibration)
+{
+    saveLogValues(DataLogSetting::isDatalogFullNotifOn(), calibration);
+}
+
+void CalibrationLogModel::saveLogValues(bool isDataLogNotifOn, const QVariantMap &calibration)
+{
+    createTable();
+    LogSourceRows rows = LogSnapshot::methodRows(m_current);
+    setCalibrationValues(calibration);
+    setCalId(calibration.value(QStringLiteral("id")).toInt());
+    setElectrodeName(calibration.value(QStringLiteral("electrodeName")).toString());
+    setElectrodeType(calibration.value(QStringLiteral("electrodeType")).toString());
+    rows.insert(LogBlock::Calibration, calibration);
+    rows.insert(LogBlock::CalibrationPoint, calibrationCycleValues());
+
+    const QDateTime now = Clock::now();
+    setCreatedAt(now);
+    setUpdatedAt(now);
+    rows.insert(LogBlock::Own, {{QStringLiteral("logCreatedAt"), now}, {QStringLiteral("logUpdatedAt"), now}});
+    const int id = LogSnapshot::insert(layout(), tableName, rows, "calibrationLog Save err");
+    if (id > 0)
+        setId(id);
+
+    const LogCapacityRule &rule = LogCapacity::calibration;
+    const int n = LogCapacity::count(rule.table);
+    if (LogCapacity::warningDue(rule, n, isDataLogNotifOn))
+        emit notificationSignal(rule.etype);
+    LogCapacity::trim(rule, n, &CalibrationLogModel::pruneOldest);
+}
+
+bool CalibrationLogModel::pruneOldest()
+{
+    DbTransaction unit;
+    QSqlQuery oldest;
+    if (!DbUtil::exec(oldest, QStringLiteral("SELECT id,calibration_Id FROM calibrationLogTable order by id limit 1"))
+        || !oldest.next())
+        return false;
+    const int id = oldest.value(0).toInt();
+    const QVariant calibrationId = oldest.value(1);
+    oldest.finish();
+    // A calibration report is filed under the calibration's id.
+    const bool ok = LogSnapshot::deleteRow(tableName, id)
+        && LogCapacity::deleteWhere("calibrationTable", "id", calibrationId)
+        && LogCapacity::deleteWhere("calibrationCycleTable", "calibrationID", calibrationId.toString())
+        && LogCapacity::deleteWhere("reportSetupTable", "calibrationId", calibrationId);
+    return ok && unit.commit();
+}
+
+bool CalibrationLogModel::deleteRow(int id)
+{
+    return LogSnapshot::deleteRow(tableName, id);
+}
+
+void CalibrationLogModel::loadFromRecord(const QSqlRecord &row)
+{
+    setId(row.value(QStringLiteral("id")).toInt());
+    setCalibrationValues(LogSnapshot::blockValues(layout(), row, LogBlock::Calibration));
+    setCalibrationCycleValues(LogSnapshot::blockValues(layout(), row, LogBlock::CalibrationPoint));
+    setCalId(row.value(QStringLiteral("calibration_Id")).toInt());
+    setElectrodeName(row.value(QStringLiteral("calibration_ElectrodeName")).toString());
+    setElectrodeType(row.value(QStringLiteral("calibration_ElectrodeType")).toString());
+    setCreatedAt(row.value(QStringLiteral("logCreatedAt")).toDateTime());
+    setUpdatedAt(row.value(QStringLiteral("logUpdatedAt")).toDateTime());
+}
+
+QString CalibrationLogModel::newestFirstSql()
+{
+    return LogSnapshot::newestFirstSql(tableName, listColumns);
+}
+
+QList<CalibrationLogModel *> CalibrationLogModel::newestFirst(QObject *parent)
+{
+    QList<CalibrationLogModel *> list;
+    QSqlQuery query;
+    if (!DbUtil::exec(query, newestFirstSql()))
+        return list;
+    QList<QSqlRecord> rows;
+    while (query.next())
+        rows.append(query.record());
+    query.finish();
+    for (const QSqlRecord &row : rows) {
+        auto *entry = new CalibrationLogModel(parent);
+        entry->loadFromRecord(row);
+        // The slope as it stands now: the slope screen may have edited it.
+        QSqlQuery slope;
+        const bool known = DbUtil::tableExists(QStringLiteral("calibrationTable"))
+            && slope.prepare(QStringLiteral("Select avgSlope from calibrationTable where id=:calId"));
+        slope.bindValue(QStringLiteral(":calId"), entry->calId());
+        if (known && DbUtil::exec(slope) && slope.next()) {
+            QVariantMap values = entry->calibrationValues();
+            values.insert(QStringLiteral("avgSlope"), slope.value(0).toDouble());
+            entry->setCalibrationValues(values);
+        }
+        list.append(entry);
+    }
+    return list;
 }

@@ -7,6 +7,42 @@
 const QString ReportModel::tableName = QStringLiteral("reportSetupTable");
 QStringList ReportModel::noMigrateList = {QStringLiteral("1.6"), QStringLiteral("1.7")};
 
+const ColumnTable &ReportModel::columnTable()
+{
+    static const ColumnTable table({
+        {"id", "integer primary key AUTOINCREMENT", "id", ColumnSpec::AsIs},
+        {"reportType", "varchar(20)", "reportType", ColumnSpec::AsIs},
+        {"titrationId", "integer", "titrationId", ColumnSpec::AsIs},
+        {"reportString", "varchar(20000)", "reportString", ColumnSpec::AsIs},
+        {"cycleImage1", "BLOB", "cycleImage1", ColumnSpec::AsIs},
+        {"cycleImage2", "BLOB", "cycleImage2", ColumnSpec::AsIs},
+        {"cycleImage3", "BLOB", "cycleImage3", ColumnSpec::AsIs},
+        {"cycleImage4", "BLOB", "cycleImage4", ColumnSpec::AsIs},
+        {"cycleImage5", "BLOB", "cycleImage5", ColumnSpec::AsIs},
+        {"logTimeStamp", "DATETIME", "logTimeStamp", ColumnSpec::AsIs},
+        {"graphString", "varchar(2000)", "graphString", ColumnSpec::AsIs},
+        {"mcreatedAt", "DATETIME", "mcreatedAt", ColumnSpec::AsIs},
+        {"mupdatedAt", "DATETIME", "mupdatedAt", ColumnSpec::AsIs},
+        {"measurementId", "integer", "measurementId", ColumnSpec::AsIs},
+        {"calibrationId", "integer", "calibrationId", ColumnSpec::AsIs},
+        {"dateFormat", "integer", "dateFormat", ColumnSpec::AsIs},
+        {"timeFormat", "integer", "timeFormat", ColumnSpec::AsIs},
+        {"standardizationId", "integer", "standardizationId", ColumnSpec::AsIs},
+    });
+    return table;
+}
+
+ReportModel::ReportModel(QObject *parent)
+    : QObject(parent)
+{
+    createTable();
+}
+
+bool ReportModel::createTable()
+{
+    return DbUtil::execText(columnTable().createSql(tableName, true));
+}
+
 bool ReportModel::migrate(const QString &fromVersion)
 {
     MigrationFrame frame;
