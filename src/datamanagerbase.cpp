@@ -2,6 +2,7 @@
 
 #include "meter/cmeasurementcontext.h"
 #include "models/dbutil.h"
+#include "models/logtables.h"
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
 #include "models/sysinfomodel.h"
@@ -793,4 +794,61 @@ bool DataManagerBase::copyStandardization(int originalMethodId, int newMethodId)
 bool DataManagerBase::resetSquenceIds(const QStringList &tables)
 {
     return DbUtil::resetSquenceIds(tables);
+}
+
+// ---- Logs ----
+
+bool DataManagerBase::checkDB()
+{
+    return LogTables::anyLogRow();
+}
+
+int DataManagerBase::logMethods(int log)
+{
+    if (log >= LogTables::Titration && log <= LogTables::Measurement)
+        m_count = qMax(0, LogTables::rowCount(LogTables::Log(log)));
+    return m_count;
+}
+
+void DataManagerBase::deleteTitrationLog()
+{
+    LogTables::deleteTitrationLog();
+    stopLogFetch(QStringLiteral("TITRATION"));
+}
+
+void DataManagerBase::deleteTitrantLog()
+{
+    LogTables::deleteTitrantLog();
+    stopLogFetch(QStringLiteral("STANDARDIZATION"));
+}
+
+void DataManagerBase::deleteCalibrationLog()
+{
+    LogTables::deleteCalibrationLog();
+    stopLogFetch(QStringLiteral("CALIBRATION"));
+}
+
+void DataManagerBase::deleteMeasurementLog()
+{
+    LogTables::deleteMeasurementLog();
+    stopLogFetch(QStringLiteral("MEASUREMENT"));
+}
+
+void DataManagerBase::startLogFetch(const QString &process)
+{
+    static const QStringList processes{QStringLiteral("TITRATION"), QStringLiteral("STANDARDIZATION"),
+                                       QStringLiteral("CALIBRATION"), QStringLiteral("MEASUREMENT")};
+    if (!processes.contains(process)) {
+        qDebug() << "Error::::Invalid Process Type Selected";
+        return;
+    }
+    // The lists are built from the log record models, which come later.
+    qDebug() << "DataManagerBase::startLogFetch" << process << "- log lists not available yet";
+}
+
+void DataManagerBase::stopLogFetch(const QString &process)
+{
+    // Runs the list's timer tick once on its exhausted query, which stops
+    // the fetch; nothing runs until the log lists exist.
+    Q_UNUSED(process)
 }

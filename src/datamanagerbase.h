@@ -213,6 +213,19 @@ public slots:
     bool copyStandardization(int originalMethodId, int newMethodId);
     bool resetSquenceIds(const QStringList &tables);
 
+    // The four logs: whether any holds a row, the rows of one (1 titration,
+    // 2 standardisation, 3 calibration, 4 measurement; another number gives
+    // the last count), and their deletion with what they lean on.
+    bool checkDB();
+    int logMethods(int log);
+    void deleteTitrationLog();
+    void deleteTitrantLog();
+    void deleteCalibrationLog();
+    void deleteMeasurementLog();
+    // Loads a log list for the screens, one row per event-loop turn:
+    // "TITRATION", "STANDARDIZATION", "CALIBRATION" or "MEASUREMENT".
+    void startLogFetch(const QString &process);
+
 signals:
     void valueChanged();
     void freshDataAvailable();
@@ -255,6 +268,8 @@ private:
     // Steps of a finished run that belong to the record models.
     void bookRunResult(const std::array<double, 3> &volumesMl);
     void bookEndPointReadings(float ep1, float ep2);
+    // Ends a running fetch of a log list after its rows were deleted.
+    void stopLogFetch(const QString &process);
 
     MethodModel *m_methodModel = nullptr;
     SysInfoModel *m_sysInfoModel = nullptr;
@@ -285,6 +300,7 @@ private:
     int m_qmlStirSpeed = 3;
     bool m_qmlStirrerState = false;
     int m_methodCount = 0;
+    int m_count = 1;
 
     QString m_mspVersionString;
     QString m_mfgSerialNum;

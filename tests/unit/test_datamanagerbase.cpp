@@ -489,3 +489,139 @@ TEST_F(Standardisation, CopyMakesTheNewMethodStandardised)
 }
 
 } // namespace
+
+namespace {
+
+class LogDeletion : public DataManager
+{
+protected:
+    void SetUp() override
+    {
+        for (const char *table : {"titrationLogTable", "standardisationLogTable"})
+            make(table, "titration_Id int, electrodeSetup_Type varchar(30)");
+        make("titrationTable", "titrationType varchar(30)");
+        make("titrationCycleTable", "titrationId int, cycleNo int");
+        make("reportSetupTable", "reportType varchar(30)");
+        for (const char *table : {"mkaAdditionTable", "mkaTitrationCycleTable", "calibrationLogTable",
+                                  "calibrationTable", "calibrationCycleTable", "measurementLogTable"})
+            make(table, "note varchar(30)");
+
+        // Runs 1 to 5: titration, direct blank, standardisation, an ion
+        // titration by known addition, back blank.
+        for (const char *type : {"Titration", "Direct Blank", "Standardization", "Titration", "Back Blank"})
+            insert("titrationTable", "titrationType", QString::fromLatin1(type));
+        const std::pair<int, int> cycles[] = {{1, 1}, {1, 2}, {2, 1}, {3, 1}, {3, 2}, {4, 1}, {5, 1}};
+        for (const auto &c : cycles)
+            ASSERT_TRUE(TestDatabase::exec(QStringLiteral("INSERT INTO titrationCycleTable (titrationId, cycleNo) "
+                                                          "VALUES (%1, %2)").arg(c.first).arg(c.second)));
+        for (const auto &row : {std::make_pair(1, "pH"), std::make_pair(2, "pH"), std::make_pair(4, "ISE-MKA"),
+                                std::make_pair(5, "pH")})
+            ASSERT_TRUE(TestDatabase::exec(QStringLiteral("INSERT INTO titrationLogTable (titration_Id, "
+                                                          "electrodeSetup_Type) VALUES (%1, '%2')")
+                                               .arg(row.first)
+                                               .arg(QString::fromLatin1(row.second))));
+        ASSERT_TRUE(TestDatabase::exec(QStringLiteral(
+            "INSERT INTO standardisationLogTable (titration_Id, electrodeSetup_Type) VALUES (3, 'pH')")));
+        for (const char *type : {"Titration", "Titration", "Standardization", "Calibration", "calibration",
+                                 "Measurement", "titration"})
+            insert("reportSetupTable", "reportType", QString::fromLatin1(type));
+        for (const char *table : {"mkaAdditionTable", "mkaTitrationCycleTable", "calibrationLogTable",
+                                  "calibrationTable", "calibrationCycleTable", "measurementLogTable"}) {
+            insert(table, "note", QStringLiteral("a"));
+            insert(table, "note", QStringLiteral("b"));
+        }
+    }
+    static void make(const char *table, const char *columns)
+    {
+        ASSERT_TRUE(TestDatabase::exec(QStringLiteral("CREATE TABLE %1 (id integer primary key autoincrement, %2)")
+                                           .arg(QString::fromLatin1(table), QString::fromLatin1(columns))));
+    }
+    static int insert(const char *table, const char *column, const QString &value)
+    {
+        QSqlQuery q;
+        q.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (?)").arg(QString::fromLatin1(table),
+                                                                        QString::fromLatin1(column)));
+        q.addBindValue(value);
+        EXPECT_TRUE(q.exec());
+        return q.lastInsertId().toInt();
+    }
+    static QStringList column(const QString &sql)
+    {
+        QStringList out;
+        QSqlQuery q;
+        q.exec(sql);
+        while (q.next())
+            out << q.value(0).toString();
+        return out;
+    }
+};
+
+TEST_F(LogDeletion, EachLogGoesWithItsRunsCyclesAndReportsAndNumberingRestarts)
+{
+    auto dm = start();
+    EXPECT_TRUE(dm->checkDB());
+    EXPECT_EQ(dm->logMethods(1), 4);
+    EXPECT_EQ(dm->logMethods(2), 1);
+    EXPECT_EQ(dm->logMethods(9), 1) << "another number gives the last count";
+    EXPECT_EQ(dm->logMethods(3), 2);
+
+    dm->deleteTitrationLog();
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("titrationLogTable")), 0);
+    EXPECT_EQ(column(QStringLiteral("SELECT id FROM titrationTable")), QStringList{QStringLiteral("3")});
+    EXPECT_EQ(column(QStringLiteral("SELECT titrationId FROM titrationCycleTable ORDER BY id")),
+              (QStringList{QStringLiteral("3"), QStringLiteral("3"), QStringLiteral("4")}))
+        << "the standardisation's cycles stay, and so do any under a known-addition run";
+    EXPECT_EQ(column(QStringLiteral("SELECT reportType FROM reportSetupTable ORDER BY id")),
+              (QStringList{QStringLiteral("Standardization"), QStringLiteral("Calibration"),
+                           QStringLiteral("calibration"), QStringLiteral("Measurement"), QStringLiteral("titration")}));
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("mkaAdditionTable")), 0);
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("mkaTitrationCycleTable")), 0);
+    EXPECT_EQ(insert("titrationTable", "titrationType", QStringLiteral("Titration")), 4) << "after the highest left";
+    EXPECT_EQ(insert("titrationLogTable", "electrodeSetup_Type", QStringLiteral("pH")), 1);
+    EXPECT_EQ(insert("mkaAdditionTable", "note", QStringLiteral("c")), 1);
+    EXPECT_EQ(dm->logMethods(1), 1);
+
+    dm->deleteTitrantLog();
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("standardisationLogTable")), 0);
+    EXPECT_EQ(column(QStringLiteral("SELECT titrationType FROM titrationTable")), QStringList{QStringLiteral("Titration")});
+    EXPECT_EQ(column(QStringLiteral("SELECT titrationId FROM titrationCycleTable")), QStringList{QStringLiteral("4")});
+    EXPECT_EQ(insert("standardisationLogTable", "electrodeSetup_Type", QStringLiteral("pH")), 1);
+    EXPECT_EQ(column(QStringLiteral("SELECT reportType FROM reportSetupTable WHERE reportType LIKE 'Stand%'")),
+              QStringList());
+    EXPECT_EQ(insert("titrationCycleTable", "titrationId", QStringLiteral("4")), 7)
+        << "cycle numbering carries on after the highest left";
+
+    dm->deleteCalibrationLog();
+    for (const char *t : {"calibrationLogTable", "calibrationTable", "calibrationCycleTable"})
+        EXPECT_EQ(TestDatabase::rowCount(QString::fromLatin1(t)), 0) << t;
+    EXPECT_EQ(insert("calibrationTable", "note", QStringLiteral("c")), 1) << "the next calibration is 1 again";
+    EXPECT_EQ(column(QStringLiteral("SELECT reportType FROM reportSetupTable ORDER BY id")),
+              (QStringList{QStringLiteral("Measurement"), QStringLiteral("titration")}));
+
+    dm->deleteMeasurementLog();
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("measurementLogTable")), 0);
+    EXPECT_EQ(column(QStringLiteral("SELECT reportType FROM reportSetupTable ORDER BY id")),
+              QStringList{QStringLiteral("titration")});
+    EXPECT_EQ(insert("measurementLogTable", "note", QStringLiteral("c")), 1);
+
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("DELETE FROM titrationLogTable")));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("DELETE FROM standardisationLogTable")));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("DELETE FROM measurementLogTable")));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("DELETE FROM calibrationLogTable")));
+    EXPECT_FALSE(dm->checkDB());
+}
+
+TEST_F(DataManager, LogCountsAndDeletionsOnAFreshDatabaseDoNothing)
+{
+    auto dm = start();
+    EXPECT_FALSE(dm->checkDB());
+    EXPECT_EQ(dm->logMethods(1), 0);
+    const QString before = db.dump();
+    dm->deleteTitrationLog();
+    dm->deleteTitrantLog();
+    dm->deleteCalibrationLog();
+    dm->deleteMeasurementLog();
+    EXPECT_EQ(db.dump(), before);
+}
+
+} // namespace
