@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/enginedatainterface.h"
+#include "models/concentrationcalc.h"
 
 #include <memory>
 
@@ -47,6 +48,16 @@ public:
     int lastStartRinse = 3;
     QString console;
     bool consoleNew = false;
+
+    // Multiple known addition.
+    float totalSolutionVolume = 50.f;
+    float mkaConstant = 18.f;
+    float mkaMeasurement = 3.f;
+    float mkaPrecision = 2.f;
+    float mkaStandard = 0.1f;
+    float mkaBlank = 0.f;
+    ConcentrationCalc::Sample mkaSample;   // result unit and sample amount
+    float servingSize = 1.f;
 
     QString deviceMode() const override { return mode; }
     void setDeviceMode(const QString &m) override { mode = m; }
@@ -101,6 +112,15 @@ public:
     void setQmlStirSpeed(int s) override { stirSpeed = s; }
     int rinseCycles() const override { return rinse; }
     void setLastStartRinseCycles(int c) override { lastStartRinse = c; }
+
+    float getTotalSolutionVolume() const override { return totalSolutionVolume; }
+    float getMKAProcessCtrlConstant() const override { return mkaConstant; }
+    float getMKAProcessCtrlMeasurement() const override { return mkaMeasurement; }
+    float getMKAProcessCtrlPrecision() const override { return mkaPrecision; }
+    float getMKAStandardConcentration() const override { return mkaStandard; }
+    float getMKABlank() const override { return mkaBlank; }
+    float getMKASampleBasis() const override { return ConcentrationCalc::mkaSampleBasis(mkaSample, servingSize); }
+    float mkaConvertResult(float molPerL) override { return ConcentrationCalc::mkaConvertResult(molPerL, mkaSample); }
 
     void sendToConsole(const QString &text) override;
     bool getConsoleMes(QString *text) override;
