@@ -313,8 +313,10 @@ void TitrationAlgMKA::computeSpikeRecovery()
     const float v = float(m_x[2]);
     const float v0 = m_totalVolume;
     const float measured = std::pow(10.0f, (float(m_y[2]) - float(m_p[1])) / float(m_p[2]));
-    m_spikeRecovery = (measured - float(m_p[0]) * v0 / (v + v0)) * 100.0f / (v * m_standard / (v + v0));
-    qDebug() << "spike recovery" << m_spikeRecovery;
+    const float recovery = (measured - float(m_p[0]) * v0 / (v + v0)) * 100.0f / (v * m_standard / (v + v0));
+    qDebug() << "spike recovery" << recovery;
+    // A standard of nothing or a fit without a slope recovers nothing that can be shown.
+    m_spikeRecovery = std::isfinite(recovery) ? recovery : 0.f;
 }
 
 void TitrationAlgMKA::reportCompletion()
