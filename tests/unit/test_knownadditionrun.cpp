@@ -17,6 +17,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -226,6 +227,22 @@ TEST_F(KnownAdditionRun, StandardWithoutIonsIsDetectedAsASingularFit)
     for (const QVariant &v : run.completion)
         EXPECT_TRUE(std::isfinite(v.toDouble()));
     EXPECT_TRUE(readTextFile(run.logFile).contains(QStringLiteral("Singular fit")));
+}
+
+TEST_F(KnownAdditionRun, WeakFirstResponseIsToppedUp)
+{
+    // A sample half as strong as the standard: 50 µL barely moves the
+    // reading, so the first addition is topped up, at most four times and
+    // by at most 1000 µL each; later top-ups are held by ΔVmax alone.
+    ise.concentration = 0.05;
+    dm.mkaPrecision = 0.f;
+    const MkaOutcome run = titrate(0.0);
+    ASSERT_GE(run.doses.size(), 6u);
+    EXPECT_EQ(run.doses[0], 50u);
+    for (size_t i = 1; i <= 4; ++i)
+        EXPECT_EQ(run.doses[i], 1000u) << "top-up " << i;
+    EXPECT_NE(std::find(run.doses.begin() + 5, run.doses.end(), 2000u), run.doses.end())
+        << "a later top-up of 2000 µL";
 }
 
 TEST_F(KnownAdditionRun, VolumeLimitEndsTheRun)
