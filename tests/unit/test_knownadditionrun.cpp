@@ -134,6 +134,7 @@ TEST_F(KnownAdditionRun, SodiumSampleWithNoise)
     ASSERT_FALSE(run.doses.empty());
     EXPECT_EQ(run.doses.front(), 50u) << "the first dose is always 50 µL";
     EXPECT_EQ(run.singularFits, 0);
+    EXPECT_FALSE(run.slopeFixed) << "a slope inside its limits stays free";
 }
 
 TEST_F(KnownAdditionRun, IdealElectrodeGivesTheSampleExactly)
