@@ -141,14 +141,22 @@ TEST(KnownAdditionFit, StandardOfZeroIsSingular)
     std::vector<double> y;
     for (double v : x)
         y.push_back(model(v, vec(1e-3, 250.0)));
-    Eigen::VectorXd p = vec(1e-3, 250.0);
-    const auto out = KnownAdditionFit::fit(model, x, y, p, vec(1e-9, -1024), vec(2.0, 1024));
-    // The data fit exactly at the start; the next point shows the trouble.
-    EXPECT_TRUE(out.status == Status::Converged || out.status == Status::Singular);
     Eigen::VectorXd q = vec(2e-3, 240.0);
     const auto moved = KnownAdditionFit::fit(model, x, y, q, vec(1e-9, -1024), vec(2.0, 1024));
     EXPECT_EQ(moved.status, Status::Singular);
     EXPECT_TRUE(q.allFinite());
+}
+
+TEST(KnownAdditionFit, SampleAsStrongAsTheStandardIsSingular)
+{
+    // Adding what is already there changes nothing: slope and E0 can't be
+    // told apart.
+    const Curve curve(0.1, 250.0, 58.0);
+    Eigen::VectorXd p = vec(0.1, 240.0, 55.0);
+    const auto out = KnownAdditionFit::fit(curve.model, curve.x, curve.y, p, vec(1e-9, -1024, 50),
+                                           vec(2.0, 1024, 60));
+    EXPECT_EQ(out.status, Status::Singular);
+    EXPECT_EQ(p, vec(0.1, 240.0, 55.0));
 }
 
 TEST(KnownAdditionFit, SingularityIsJudgedOnScaledColumns)
