@@ -5,3 +5,9 @@ foreach(t unit_endpointrun unit_knownadditionrun)
     target_link_libraries(${t} PRIVATE virtualinstrument)
   endif()
 endforeach()
+# End-point and known-addition runs against the virtual instrument on a
+# pseudo-terminal; the true end point comes from its beaker.
+if(TARGET integration_techniquesonslave)
+  add_dependencies(integration_techniquesonslave virtual-instrument)
+  target_link_libraries(integration_techniquesonslave PRIVATE virtualinstrument)
+endif()
