@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QDebug>
+#include <QString>
+
 // A plain column property of a model: getter, setter that stores the value
 // and emits valueChanged() when it differs, and the member. Properties whose
 // setters do more are written out by hand.
