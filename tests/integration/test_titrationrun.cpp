@@ -241,6 +241,27 @@ TEST(VantorCli, TitratesTheAceticAcidScenario)
     EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("Duration \\(s\\): [0-9]+\\.[0-9]\n"))));
 }
 
+// A known-addition run of 0.001 mol/L sodium with a 0.1 mol/L standard on a
+// 98 % electrode (57.98 mV/decade at 25 °C) reports the sample and the slope.
+TEST(VantorCli, KnownAdditionReportsTheSampleConcentration)
+{
+    int code = -1;
+    const QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
+                                 QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/sodium-ise.json"),
+                                 QStringLiteral("--technique"), QStringLiteral("Multiple Known Addition"),
+                                 QStringLiteral("--speed"), QStringLiteral("50")},
+                                &code);
+    EXPECT_EQ(code, 0) << text.toStdString();
+    const QRegularExpressionMatch c =
+        QRegularExpression(QStringLiteral("Known addition concentration \\(mol/L\\): ([0-9.e-]+)\n")).match(text);
+    ASSERT_TRUE(c.hasMatch()) << text.toStdString();
+    EXPECT_NEAR(c.captured(1).toDouble(), 0.001, 0.00002);
+    const QRegularExpressionMatch s =
+        QRegularExpression(QStringLiteral("Electrode slope \\(mV/decade\\): ([0-9.]+)\n")).match(text);
+    ASSERT_TRUE(s.hasMatch()) << text.toStdString();
+    EXPECT_NEAR(s.captured(1).toDouble(), 57.98, 1.0);
+}
+
 TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
 {
     const QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json");
@@ -259,6 +280,8 @@ TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
         {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--colour")},
         {QStringLiteral("titrate"), QStringLiteral("--scenario"), QStringLiteral("/nonexistent/scenario.json")},
         {QStringLiteral("titrate"), QStringLiteral("--replay"), QStringLiteral("/nonexistent/curve.txt")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--technique"),
+         QStringLiteral("Multiple Known Addition")},
     };
     for (const QStringList &args : bad) {
         int code = 0;

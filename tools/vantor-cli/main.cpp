@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -61,5 +62,12 @@ int main(int argc, char *argv[])
     }
     g_verbose = options.verbose;
     TitrateRunner runner(options);
-    return runner.run(out, err);
+    try {
+        return runner.run(out, err);
+    } catch (const std::exception &e) {
+        // A method the engine has no presets for (an electrode the
+        // technique does not serve) ends here, not in a crash.
+        err << "vantor-cli titrate: the run could not go on: " << e.what() << "\n";
+        return 3;
+    }
 }

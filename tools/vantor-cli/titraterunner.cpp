@@ -24,6 +24,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -113,6 +114,20 @@ int TitrateRunner::runInSandbox(QTextStream &err)
             return 2;
         }
         data.buretteSizeMl = float(scenario.config.buretteMl);
+        if (const auto *ise = dynamic_cast<const IseBeaker *>(scenario.beaker.get())) {
+            // A known-addition run: the sample is the beaker, the standard the titrant,
+            // and the result is reported in mol/L of the sample.
+            const IseBeaker::Params &p = ise->params();
+            data.electrode = std::abs(p.charge) == 1 ? 2 : 3;
+            data.totalSolutionVolume = float(p.volumeMl);
+            data.mkaStandard = float(p.titrantConcentration);
+            data.mkaSample.resultUnits = QStringLiteral("M");
+            data.mkaSample.sampleAmount = QStringLiteral("Fixed Volume");
+            data.mkaSample.amount = float(p.volumeMl);
+        } else if (m_options.technique == 3) {
+            err << "vantor-cli: \"Multiple Known Addition\" needs an ion-selective scenario (\"kind\":\"ise\")\n";
+            return 2;
+        }
         slave = std::make_unique<VirtualSlave>(scenario.config, std::move(scenario.beaker));
         pty = std::make_unique<PseudoTerminal>();
         if (!pty->open(device)) {
@@ -202,6 +217,9 @@ int TitrateRunner::runInSandbox(QTextStream &err)
         m_outcome.durationS = double(r.durationMs) / 1000.0;
         m_outcome.wallS = double(wall.elapsed()) / 1000.0;
 
+        m_outcome.knownAddition = data.mkaCompletedCount > 0;
+        m_outcome.mkaResult = data.mkaResult;
+
         QFile log(data.titrationLogFile()->currentFileName());
         if (log.open(QIODevice::ReadOnly))
             m_outcome.summary = summaryOf(QString::fromUtf8(log.read(1 << 20)));
@@ -214,6 +232,10 @@ int TitrateRunner::runInSandbox(QTextStream &err)
 void TitrateRunner::report(QTextStream &out) const
 {
     out << m_outcome.summary;
+    if (m_outcome.knownAddition) {
+        out << "Known addition concentration (mol/L): " << QString::number(m_outcome.mkaResult[0], 'g', 6) << "\n";
+        out << "Electrode slope (mV/decade): " << QString::number(m_outcome.mkaResult[1], 'f', 2) << "\n";
+    }
     out << "Reason for end: " << m_outcome.reasonForEnd << "\n";
     out << "Doses: " << m_outcome.doses << "\n";
     out << "Duration (s): " << QString::number(m_outcome.durationS, 'f', 1) << "\n";

@@ -25,6 +25,8 @@ public:
         int totalDispensedUl = 0;
         double durationS = 0.0;           // on the instrument's (or the simulation's) clock
         double wallS = 0.0;
+        bool knownAddition = false;       // a known-addition run reports by its own result
+        std::array<double, 3> mkaResult{{0, 0, 0}}; // concentration, slope mV/decade, spike recovery %
     };
 
     explicit TitrateRunner(const TitrateOptions &options);

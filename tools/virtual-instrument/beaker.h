@@ -90,6 +90,7 @@ public:
         double slopePct = 100;
     };
     explicit IseBeaker(const Params &p);
+    const Params &params() const { return m_p; }
     double concentration(double titrantMl) const;
     double potentialMv(double titrantMl) const override;
 
