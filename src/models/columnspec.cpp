@@ -1,5 +1,7 @@
 #include "models/columnspec.h"
 
+#include "models/dbutil.h"
+
 #include <QDateTime>
 #include <QDebug>
 #include <QMetaProperty>
@@ -139,4 +141,35 @@ void ColumnTable::loadByPosition(QObject *model, const QSqlRecord &record, const
         if (!skip.contains(i))
             assign(model, m_columns.at(i).property, record.value(i));
     }
+}
+
+bool ColumnTable::insertRow(const QObject *model, const QString &table, const QStringList &columns) const
+{
+    QSqlQuery insert;
+    insert.prepare(insertSql(table, columns));
+    bindFrom(model, insert, columns.isEmpty() ? names() : columns);
+    return DbUtil::exec(insert);
+}
+
+bool ColumnTable::updateRow(const QObject *model, const QString &table, const QStringList &columns, int id) const
+{
+    QSqlQuery update;
+    update.prepare(updateSql(table, columns, QStringLiteral("id")));
+    bindFrom(model, update, columns);
+    update.bindValue(QStringLiteral(":where_id"), id);
+    return DbUtil::exec(update);
+}
+
+int ColumnTable::firstFreeId(const QString &table, int id)
+{
+    for (;;) {
+        QSqlQuery query;
+        query.prepare(QStringLiteral("SELECT id FROM %1 WHERE id = :ID").arg(table));
+        query.bindValue(QStringLiteral(":ID"), id);
+        if (!DbUtil::exec(query) || !query.next())
+            break;
+        ++id;
+    }
+    qDebug() << "Unique ID: " << id;
+    return id;
 }

@@ -50,6 +50,14 @@ public:
     void loadByPosition(QObject *model, const QSqlRecord &record, const QVector<int> &skip = {}) const;
     const ColumnSpec *find(const QString &column) const;
 
+    // Inserts the named columns (all when empty) of the model into the table;
+    // logs and answers false on failure.
+    bool insertRow(const QObject *model, const QString &table, const QStringList &columns) const;
+    // Updates the named columns of the row whose `id` is `id`.
+    bool updateRow(const QObject *model, const QString &table, const QStringList &columns, int id) const;
+    // The first id from `id` upwards that no row of the table holds yet.
+    static int firstFreeId(const QString &table, int id);
+
 private:
     QVector<ColumnSpec> m_columns;
 };

@@ -187,10 +187,7 @@ bool ElectrodeSetupModel::insertStaged(const QString &suffix)
                               QStringLiteral("iseType"), QStringLiteral("significantDigits"),
                               QStringLiteral("methodId"), QStringLiteral("directMeasureUnit"),
                               QStringLiteral("mcreatedAt"), QStringLiteral("mupdatedAt")};
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName + suffix, columns));
-    columnTable().bindFrom(this, insert, columns);
-    return DbUtil::exec(insert);
+    return columnTable().insertRow(this, tableName + suffix, columns);
 }
 
 void ElectrodeSetupModel::resetElectrodeValues()
@@ -224,14 +221,6 @@ bool ElectrodeSetupModel::updateElectrodeSetupModel(int methodId, const QString 
 
 int ElectrodeSetupModel::makeIdUnique()
 {
-    for (;;) {
-        QSqlQuery query;
-        query.prepare(QStringLiteral("SELECT id FROM electrodeSetupTable WHERE id = :ID"));
-        query.bindValue(QStringLiteral(":ID"), m_id);
-        if (!DbUtil::exec(query) || !query.next())
-            break;
-        setId(m_id + 1);
-    }
-    qDebug() << "Unique ID: " << m_id;
+    setId(ColumnTable::firstFreeId(tableName, m_id));
     return m_id;
 }

@@ -274,11 +274,7 @@ void TitrationSetupModel::setTitrationSetupValues(const QString &electrodeType)
         QStringList columns = columnTable().names();
         for (const char *skip : {"mcreatedAt", "titrantConcentration", "blankConcentration"})
             columns.removeAll(QString::fromLatin1(skip));
-        QSqlQuery update;
-        update.prepare(columnTable().updateSql(tableName, columns, QStringLiteral("id")));
-        columnTable().bindFrom(this, update, columns);
-        update.bindValue(QStringLiteral(":where_id"), m_id);
-        DbUtil::exec(update);
+        columnTable().updateRow(this, tableName, columns, m_id);
         return;
     }
     select.finish();
@@ -286,33 +282,19 @@ void TitrationSetupModel::setTitrationSetupValues(const QString &electrodeType)
     makeIdUnique();
     setMcreatedAt(now);
     setMupdatedAt(now);
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName, QStringList()));
-    columnTable().bindFrom(this, insert, columnTable().names());
-    DbUtil::exec(insert);
+    columnTable().insertRow(this, tableName, QStringList());
 }
 
 bool TitrationSetupModel::insertStaged(const QString &suffix)
 {
     QStringList columns = columnTable().names();
     columns.removeAll(QStringLiteral("id"));
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName + suffix, columns));
-    columnTable().bindFrom(this, insert, columns);
-    return DbUtil::exec(insert);
+    return columnTable().insertRow(this, tableName + suffix, columns);
 }
 
 int TitrationSetupModel::makeIdUnique()
 {
-    for (;;) {
-        QSqlQuery query;
-        query.prepare(QStringLiteral("SELECT id FROM titrationSetupTable WHERE id = :ID"));
-        query.bindValue(QStringLiteral(":ID"), m_id);
-        if (!DbUtil::exec(query) || !query.next())
-            break;
-        setId(m_id + 1);
-    }
-    qDebug() << "Unique ID: " << m_id;
+    setId(ColumnTable::firstFreeId(tableName, m_id));
     return m_id;
 }
 
