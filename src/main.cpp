@@ -76,14 +76,14 @@ int main(int argc, char *argv[])
     QQmlApplicationEngine engine;
 
     // Types that travel through list properties.
-    qmlRegisterType<TitrationCycleModel>();
-    qmlRegisterType<CalibrationCycleModel>();
-    qmlRegisterType<MeasurementModel>();
-    qmlRegisterType<TitrationLogModel>();
-    qmlRegisterType<CalibrationLogModel>();
-    qmlRegisterType<StandardisationLogModel>();
-    qmlRegisterType<MKATitrationCycleModel>();
-    qmlRegisterType<MKAadditionModel>();
+    qmlRegisterAnonymousType<TitrationCycleModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<CalibrationCycleModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<MeasurementModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<TitrationLogModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<CalibrationLogModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<StandardisationLogModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<MKATitrationCycleModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<MKAadditionModel>("Kestrum", 1);
     qmlRegisterType<MethodModel>("qmllisttest", 1, 0, "MethodModel");
 
     // The back end, strictly in this order: each constructor reaches for
