@@ -67,6 +67,7 @@ DataManagerBase::DataManagerBase(QObject *parent)
     m_titratorModelNo = QStringLiteral("V400");
     connect(this, &DataManagerBase::freshDataAvailable, this, &DataManagerBase::qmlFreshDataAvailable);
     connect(this, &DataManagerBase::temperatureDataAvailable, this, &DataManagerBase::qmlTemperatureDataAvailable);
+    makeLogFetches();
     EngineData::set(this);
 }
 
@@ -74,6 +75,8 @@ DataManagerBase::~DataManagerBase()
 {
     if (EngineData::get() == this)
         EngineData::set(nullptr);
+    if (m_setupModel)
+        DataLogSetting::setSource(nullptr);
 }
 
 void DataManagerBase::DataManagerLegacyInit()
@@ -83,7 +86,6 @@ void DataManagerBase::DataManagerLegacyInit()
     m_measurementModel = new MeasurementModel(this);
     m_calibrationCycleModel = new CalibrationCycleModel(this);
     DataLogSetting::setSource([this] { return m_setupModel->isDatalogFullNotifOn(); });
-    makeLogFetches();
 
     m_temperatureCelcius = 25.0f;
     m_temperatureRawCelcius = 25.0f;
@@ -991,8 +993,6 @@ void DataManagerBase::makeLogFetches()
 
 void DataManagerBase::startLogFetch(const QString &process)
 {
-    if (!m_titrationLogs)
-        makeLogFetches();
     if (process == QLatin1String("TITRATION")) {
         m_titrationLogs->start(TitrationLogModel::newestFirstSql());
     } else if (process == QLatin1String("STANDARDIZATION")) {
@@ -1034,8 +1034,6 @@ void DataManagerBase::getMeasurementLogListFromDb()
 
 bool DataManagerBase::logFetchRunning(const QString &process) const
 {
-    if (!m_titrationLogs)
-        return false;
     if (process == QLatin1String("TITRATION"))
         return m_titrationLogs->running();
     if (process == QLatin1String("STANDARDIZATION"))
@@ -1049,8 +1047,6 @@ bool DataManagerBase::logFetchRunning(const QString &process) const
 
 void DataManagerBase::stopLogFetch(const QString &process)
 {
-    if (!m_titrationLogs)
-        return;
     if (process == QLatin1String("TITRATION"))
         m_titrationLogs->stop();
     else if (process == QLatin1String("STANDARDIZATION"))
