@@ -2,6 +2,7 @@
 
 #include "meter/cmeasurementcontext.h"
 #include "models/dbutil.h"
+#include "models/logcapacity.h"
 #include "models/logtables.h"
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
@@ -66,6 +67,7 @@ DataManagerBase::DataManagerBase(QObject *parent)
     m_titratorModelNo = QStringLiteral("V400");
     connect(this, &DataManagerBase::freshDataAvailable, this, &DataManagerBase::qmlFreshDataAvailable);
     connect(this, &DataManagerBase::temperatureDataAvailable, this, &DataManagerBase::qmlTemperatureDataAvailable);
+    makeLogFetches();
     EngineData::set(this);
 }
 
@@ -73,12 +75,17 @@ DataManagerBase::~DataManagerBase()
 {
     if (EngineData::get() == this)
         EngineData::set(nullptr);
+    if (m_setupModel)
+        DataLogSetting::setSource(nullptr);
 }
 
 void DataManagerBase::DataManagerLegacyInit()
 {
     m_methodModel = new MethodModel(this);
-    loadSetupValues();
+    m_setupModel = new SetupModel(this);
+    m_measurementModel = new MeasurementModel(this);
+    m_calibrationCycleModel = new CalibrationCycleModel(this);
+    DataLogSetting::setSource([this] { return m_setupModel->isDatalogFullNotifOn(); });
 
     m_temperatureCelcius = 25.0f;
     m_temperatureRawCelcius = 25.0f;
@@ -364,7 +371,7 @@ int DataManagerBase::resolutionDecimals(float resolution)
 
 float DataManagerBase::buretteSize() const
 {
-    return m_setup.buretteSizeMl;
+    return m_setupModel ? float(m_setupModel->buretteSize()) : 20.0f;
 }
 
 QString DataManagerBase::displayUnits() const
@@ -426,11 +433,11 @@ void DataManagerBase::setRawTemperatureCelcius(float celsius)
 {
     m_temperatureRawCelcius = celsius;
     if (celsius >= kNoProbeCelsius) {
-        m_temperatureCelcius = m_setup.temperatureInput;
+        m_temperatureCelcius = m_setupModel ? m_setupModel->temperatureInput() : 25.0f;
         m_temperatureProbePresent = false;
         return;
     }
-    m_temperatureCelcius = celsius + m_setup.temperatureOffset;
+    m_temperatureCelcius = celsius + (m_setupModel ? m_setupModel->getTemperatureOffset() : 0.0f);
     m_temperatureProbePresent = true;
     emit temperatureDataAvailable(celsius);
 }
@@ -442,8 +449,11 @@ void DataManagerBase::qmlTemperatureDataAvailable(float celsius)
 
 void DataManagerBase::qmlFreshDataAvailable()
 {
-    // The meter's record (`MeasurementModel`) takes the probe state and
-    // temperature here once it exists.
+    if (m_measurementModel) {
+        m_measurementModel->setIsATC(m_temperatureProbePresent);
+        m_measurementModel->setTemp(m_temperatureProbePresent ? m_probeTemp
+                                                              : (m_setupModel ? m_setupModel->temperatureInput() : 25.0f));
+    }
     emit measurementValueChanged();
 }
 
@@ -460,43 +470,51 @@ void DataManagerBase::setEpResult1(float value)
 void DataManagerBase::setEpResult2(float value)
 {
     m_epResult2 = value;
-    bookEndPointReadings(m_epResult1, m_epResult2);
+    if (TitrationModel *run = titrationModel())
+        run->updateEndPointValues(m_epResult1, m_epResult2);
 }
 
 void DataManagerBase::titrationCompleted()
 {
-    std::array<double, 3> volumesMl;
-    for (std::size_t i = 0; i < volumesMl.size(); ++i)
-        volumesMl[i] = m_resultArray[i] / uLtomL;
-    bookRunResult(volumesMl);
+    if (!m_methodModel)
+        return;
+    const double resultUl[3] = {m_resultArray[0], m_resultArray[1], m_resultArray[2]};
+    m_methodModel->titrationCompleted(resultUl, m_deviceMode, m_blankTitrationMode);
+    emit valueChanged();
 }
 
-void DataManagerBase::bookRunResult(const std::array<double, 3> &volumesMl)
+TitrationModel *DataManagerBase::titrationModel() const
 {
-    // Booking the result (method model, run record and its cycles) comes
-    // with the run record models.
-    qDebug() << "DataManagerBase: run finished in" << m_deviceMode << (m_blankTitrationMode ? "(blank)" : "")
-             << "end points mL" << volumesMl[0] << volumesMl[1] << volumesMl[2]
-             << "- result booking not available yet";
+    return m_methodModel ? m_methodModel->titrationModel() : nullptr;
 }
 
 void DataManagerBase::beginRunCycle()
 {
-    // The run record appends a new cycle here once it exists.
+    TitrationModel *run = titrationModel();
+    if (!run)
+        return;
+    // Made now: the cycle's stopwatch is its running time.
+    auto *cycle = new TitrationCycleModel();
+    cycle->setCycleNo(run->cycleno());
+    run->appendTitrationCycle(cycle);
 }
 
 void DataManagerBase::addRunPoint(float volumeMl, float value)
 {
-    // The run record's current cycle takes the point once it exists.
-    Q_UNUSED(volumeMl)
-    Q_UNUSED(value)
-}
-
-void DataManagerBase::bookEndPointReadings(float ep1, float ep2)
-{
-    // The run record's current cycle takes the two readings once it exists.
-    Q_UNUSED(ep1)
-    Q_UNUSED(ep2)
+    TitrationModel *run = titrationModel();
+    if (!run)
+        return;
+    run->setDirectMeasureData();
+    run->setMethodId(m_methodModel->id());
+    TitrationCycleModel *cycle = run->titrationCycles().last();
+    cycle->setCycleNo(run->cycleno());
+    if (volumeMl == 0.0f)
+        cycle->setInitialpH(QString::number(double(value)));
+    cycle->setSampleId(titrationSetupModel()->sampleID());
+    cycle->setTitrationId(run->id());
+    emit valueChanged();
+    run->currentTitrationCycle()->addPoint(volumeMl, value, electrodeSetupModel()->resolution(),
+                                           titrationSetupModel()->displayUnits());
 }
 
 void DataManagerBase::setMspVersion(const QString &version)
@@ -576,8 +594,10 @@ void DataManagerBase::updateProdType(const QString &prodType)
     m_sysInfoModel->setProductType(QLatin1String(identity->productType));
     setTitratorModelString(QLatin1String(identity->modelString));
     setTitratorModelNo(QLatin1String(identity->modelNo));
-    // The report controller takes the model string, the home screen the last
-    // pH calibration, and the meter its stored row, once those exist.
+    // The report controller takes the model string, and the home screen the
+    // last pH calibration, once those exist.
+    if (m_measurementModel)
+        m_measurementModel->createMeasurementTableAndLoadModel();
 }
 
 void DataManagerBase::getLoadedMspVersion()
@@ -667,29 +687,6 @@ void DataManagerBase::exportLogs(const QString &dir)
 
 // ---- Methods ----
 
-void DataManagerBase::loadSetupValues()
-{
-    // The settings record (`SetupModel`) answers these once it exists; until
-    // then they are read from its row as it stands.
-    if (!DbUtil::tableExists(QStringLiteral("setupTable")))
-        return;
-    QSqlQuery query;
-    if (!query.exec(QStringLiteral("SELECT * FROM setupTable ORDER BY id LIMIT 1")) || !query.next())
-        return;
-    const QSqlRecord r = query.record();
-    auto number = [&r](const char *column, float fallback) {
-        const int i = r.indexOf(QLatin1String(column));
-        bool ok = false;
-        const float v = i < 0 ? 0.0f : r.value(i).toFloat(&ok);
-        return (ok && std::isfinite(v)) ? v : fallback;
-    };
-    m_setup.buretteSizeMl = number("buretteSize", m_setup.buretteSizeMl);
-    m_setup.temperatureInput = number("temperatureInput", m_setup.temperatureInput);
-    m_setup.temperatureOffset = number("temperatureOffset", m_setup.temperatureOffset);
-    m_setup.currentMethodId = int(number("currentMethodId", float(m_setup.currentMethodId)));
-    m_setup.displayBrightness = int(number("displaybrightness", float(m_setup.displayBrightness)));
-}
-
 void DataManagerBase::beginRunRecords()
 {
     if (ElectrodeSetupModel *e = electrodeSetupModel())
@@ -778,15 +775,17 @@ void DataManagerBase::getSigMKAPointsToUI(QVariant volume, QVariant mV, QVariant
                                           QVariant drift, QVariant slope, QVariant e0)
 {
     // The run record's known-addition rows take each addition once they exist.
-    qDebug() << "MKA addition: volume" << volume.toDouble() << "mV" << mV.toDouble() << "conc" << calConc.toDouble()
-             << "precision" << precision.toDouble() << "drift" << drift.toDouble() << "slope" << slope.toDouble()
-             << "E0" << e0.toDouble();
+    // The screens collect the additions and hand them to the run model.
+    emit sigMKAPointsToUI(QString::number(volume.toDouble()), QString::number(mV.toDouble()),
+                          QString::number(calConc.toDouble()), QString::number(precision.toDouble()),
+                          QString::number(drift.toDouble()), QString::number(slope.toDouble()),
+                          QString::number(e0.toDouble()));
 }
 
 void DataManagerBase::getMKATitrationCompleted(QVariant conc, QVariant slope, QVariant spike)
 {
-    qDebug() << "MKA complete: concentration" << conc.toDouble() << "slope" << slope.toDouble() << "spike"
-             << spike.toDouble();
+    emit mkaTitrationCompleted(QString::number(conc.toDouble()), QString::number(slope.toDouble()),
+                               QString::number(spike.toDouble()));
 }
 
 float DataManagerBase::getMKASampleBasis() const
@@ -802,7 +801,7 @@ float DataManagerBase::mkaConvertResult(float molPerL)
 
 int DataManagerBase::currentMethodId() const
 {
-    return m_setup.currentMethodId;
+    return m_setupModel ? m_setupModel->currentMethodId() : MethodModel::scratchMethodId;
 }
 
 void DataManagerBase::getLastUpdatedMethod()
@@ -810,7 +809,7 @@ void DataManagerBase::getLastUpdatedMethod()
     QSqlQuery query;
     if (query.exec(QStringLiteral("SELECT *  FROM methodSetupTable order  by datetime(mupdatedAt) DESC limit 1"))
         && query.next())
-        m_setup.currentMethodId = query.value(QStringLiteral("id")).toInt();
+        m_setupModel->setCurrentMethodId(query.value(QStringLiteral("id")).toInt());
 }
 
 void DataManagerBase::reInitializeMethodModel(int id)
@@ -957,21 +956,230 @@ void DataManagerBase::deleteMeasurementLog()
     stopLogFetch(QStringLiteral("MEASUREMENT"));
 }
 
+void DataManagerBase::makeLogFetches()
+{
+    m_titrationLogs = std::make_unique<LogListFetch<TitrationLogModel>>(
+        [](const QSqlRecord &row) {
+            auto *entry = new TitrationLogModel();
+            entry->loadFromRecord(row);
+            entry->setCount(entry->id());
+            return entry;
+        },
+        [this] { emit titrationLogListChanged(); });
+    m_standLogs = std::make_unique<LogListFetch<StandardisationLogModel>>(
+        [](const QSqlRecord &row) {
+            auto *entry = new StandardisationLogModel();
+            entry->loadFromRecord(row);
+            return entry;
+        },
+        [this] { emit standLogListChanged(); });
+    m_calibrationLogs = std::make_unique<LogListFetch<CalibrationLogModel>>(
+        [](const QSqlRecord &row) {
+            auto *entry = new CalibrationLogModel();
+            entry->loadFromRecord(row);
+            entry->refreshSlope();
+            return entry;
+        },
+        [this] { emit calibrationLogListChanged(); });
+    m_measurementLogs = std::make_unique<LogListFetch<MeasurementLogModel>>(
+        [this](const QSqlRecord &row) {
+            auto *entry = new MeasurementLogModel();
+            entry->loadFromRecord(row);
+            entry->measurementModel()->setSno(res_length--);
+            return entry;
+        },
+        [this] { emit measuresChanged(); });
+}
+
 void DataManagerBase::startLogFetch(const QString &process)
 {
-    static const QStringList processes{QStringLiteral("TITRATION"), QStringLiteral("STANDARDIZATION"),
-                                       QStringLiteral("CALIBRATION"), QStringLiteral("MEASUREMENT")};
-    if (!processes.contains(process)) {
+    if (process == QLatin1String("TITRATION")) {
+        m_titrationLogs->start(TitrationLogModel::newestFirstSql());
+    } else if (process == QLatin1String("STANDARDIZATION")) {
+        m_standLogs->start(StandardisationLogModel::newestFirstSql());
+    } else if (process == QLatin1String("CALIBRATION")) {
+        m_calibrationLogs->start(CalibrationLogModel::newestFirstSql());
+    } else if (process == QLatin1String("MEASUREMENT")) {
+        res_length = 0;
+        m_measurementLogs->start(MeasurementLogModel::newestFirstSql(), [this](QSqlQuery &query) {
+            if (query.last())
+                res_length = query.at() + 1;
+            query.first();
+            query.previous();
+        });
+    } else {
         qDebug() << "Error::::Invalid Process Type Selected";
-        return;
     }
-    // The lists are built from the log record models, which come later.
-    qDebug() << "DataManagerBase::startLogFetch" << process << "- log lists not available yet";
+}
+
+void DataManagerBase::getTitrationLogListFromDb()
+{
+    m_titrationLogs->tick();
+}
+
+void DataManagerBase::getStandardizationLogListFromDb()
+{
+    m_standLogs->tick();
+}
+
+void DataManagerBase::getcalibrationLogListFromDb()
+{
+    m_calibrationLogs->tick();
+}
+
+void DataManagerBase::getMeasurementLogListFromDb()
+{
+    m_measurementLogs->tick();
+}
+
+bool DataManagerBase::logFetchRunning(const QString &process) const
+{
+    if (process == QLatin1String("TITRATION"))
+        return m_titrationLogs->running();
+    if (process == QLatin1String("STANDARDIZATION"))
+        return m_standLogs->running();
+    if (process == QLatin1String("CALIBRATION"))
+        return m_calibrationLogs->running();
+    if (process == QLatin1String("MEASUREMENT"))
+        return m_measurementLogs->running();
+    return false;
 }
 
 void DataManagerBase::stopLogFetch(const QString &process)
 {
-    // Runs the list's timer tick once on its exhausted query, which stops
-    // the fetch; nothing runs until the log lists exist.
-    Q_UNUSED(process)
+    if (process == QLatin1String("TITRATION"))
+        m_titrationLogs->stop();
+    else if (process == QLatin1String("STANDARDIZATION"))
+        m_standLogs->stop();
+    else if (process == QLatin1String("CALIBRATION"))
+        m_calibrationLogs->stop();
+    else if (process == QLatin1String("MEASUREMENT"))
+        m_measurementLogs->stop();
+}
+
+QQmlListProperty<TitrationLogModel> DataManagerBase::titrationLogList()
+{
+    return QQmlListProperty<TitrationLogModel>(this, &m_titrationLogs->list());
+}
+
+QQmlListProperty<StandardisationLogModel> DataManagerBase::standLogList()
+{
+    return QQmlListProperty<StandardisationLogModel>(this, &m_standLogs->list());
+}
+
+QQmlListProperty<CalibrationLogModel> DataManagerBase::calibratoinLogList()
+{
+    return QQmlListProperty<CalibrationLogModel>(this, &m_calibrationLogs->list());
+}
+
+QQmlListProperty<MeasurementLogModel> DataManagerBase::measures()
+{
+    return QQmlListProperty<MeasurementLogModel>(this, &m_measurementLogs->list());
+}
+
+void DataManagerBase::attachLogModel(TitrationLogModel *log)
+{
+    log->setCurrentMethod(m_methodModel);
+    log->setStandardizedFetch([this](int methodId) { return getStandardizedFetch(methodId); });
+}
+
+void DataManagerBase::attachLogModel(StandardisationLogModel *log)
+{
+    log->setCurrentMethod(m_methodModel);
+}
+
+// ---- Cycle lists ----
+
+bool DataManagerBase::fromLog(bool &flag)
+{
+    const bool was = flag;
+    flag = false;
+    return was;
+}
+
+QQmlListProperty<TitrationCycleModel> DataManagerBase::titrationcycles()
+{
+    if (fromLog(fromTitrationLog))
+        return QQmlListProperty<TitrationCycleModel>(this, &m_storedCycles);
+    m_titrationcycles = titrationModel() ? titrationModel()->titrationCycles() : QList<TitrationCycleModel *>();
+    return QQmlListProperty<TitrationCycleModel>(this, &m_titrationcycles);
+}
+
+QQmlListProperty<MKATitrationCycleModel> DataManagerBase::mkaTitrationCycle()
+{
+    if (fromLog(fromMkaCycleLog))
+        return QQmlListProperty<MKATitrationCycleModel>(this, &m_storedMkaCycles);
+    m_mkaTitrationCycle = titrationModel() ? titrationModel()->mkaTitrationCycles() : QList<MKATitrationCycleModel *>();
+    return QQmlListProperty<MKATitrationCycleModel>(this, &m_mkaTitrationCycle);
+}
+
+QQmlListProperty<MKAadditionModel> DataManagerBase::mkaAdditionCycle()
+{
+    if (fromLog(fromMkaAdditionLog))
+        return QQmlListProperty<MKAadditionModel>(this, &m_storedMkaAdditions);
+    m_mkaAdditionCycle = titrationModel() ? titrationModel()->mkaAdditionCycles() : QList<MKAadditionModel *>();
+    return QQmlListProperty<MKAadditionModel>(this, &m_mkaAdditionCycle);
+}
+
+namespace {
+
+// Rows of a run's table as objects, replacing (and freeing) the old ones.
+template <class Entry>
+void loadStored(QList<Entry *> &list, const QString &sql, int titrationId)
+{
+    for (Entry *old : qAsConst(list))
+        old->deleteLater();
+    list.clear();
+    QSqlQuery query;
+    query.prepare(sql);
+    query.bindValue(QStringLiteral(":id"), titrationId);
+    if (!DbUtil::exec(query))
+        return;
+    while (query.next())
+        list.append(Entry::fromRecord(query.record()));
+}
+
+} // namespace
+
+void DataManagerBase::getTitrationCycleLogFromDb(int titrationId)
+{
+    loadStored(m_storedCycles, QStringLiteral("SELECT * FROM titrationCycleTable where titrationId = :id ORDER BY cycleNo"),
+               titrationId);
+    fromTitrationLog = true;
+}
+
+void DataManagerBase::getMKAtitrationCycleFromDB(int titrationId)
+{
+    loadStored(m_storedMkaCycles,
+               QStringLiteral("SELECT * FROM mkaTitrationCycleTable where titrationID = :id ORDER BY cycleNo"), titrationId);
+    fromMkaCycleLog = true;
+}
+
+void DataManagerBase::getMKAadditionFromDB(int titrationId)
+{
+    loadStored(m_storedMkaAdditions,
+               QStringLiteral("SELECT * FROM mkaAdditionTable where titrationID = :id order by cycleNo, datetime(mcreatedAt)"),
+               titrationId);
+    fromMkaAdditionLog = true;
+}
+
+void DataManagerBase::initializeTitration()
+{
+    if (TitrationModel *run = titrationModel())
+        run->clearTitrationCycles();
+    emit valueChanged();
+}
+
+void DataManagerBase::getMeasureFromDB()
+{
+    auto *measure = new MeasurementModel(this);
+    QSqlQuery query;
+    if (DbUtil::tableExists(MeasurementModel::tableName)
+        && DbUtil::exec(query, QStringLiteral("SELECT * FROM MeasurementTable ORDER BY datetime(mcreatedAT) DESC limit 1"))
+        && query.next())
+        measure->load(query.record());
+    if (m_measure)
+        m_measure->deleteLater();
+    m_measure = measure;
+    emit valueChanged();
 }

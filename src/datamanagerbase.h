@@ -1,8 +1,20 @@
 #pragma once
 
 #include "controller/enginedatainterface.h"
+#include "models/calibrationcyclemodel.h"
+#include "models/calibrationlogmodel.h"
 #include "models/concentrationcalc.h"
+#include "models/loglistfetch.h"
+#include "models/measurementlogmodel.h"
+#include "models/measurementmodel.h"
 #include "models/methodmodel.h"
+#include "models/mkaadditionmodel.h"
+#include "models/mkatitrationcyclemodel.h"
+#include "models/setupmodel.h"
+#include "models/standardisationlogmodel.h"
+#include "models/titrationcyclemodel.h"
+#include "models/titrationlogmodel.h"
+#include "models/titrationmodel.h"
 
 #include <QList>
 #include <QObject>
@@ -34,6 +46,18 @@ class DataManagerBase : public QObject, public EngineDataInterface
     Q_PROPERTY(bool isCalibrationFromMeasurement READ isCalibrationFromMeasurement WRITE setIsCalibrationFromMeasurement NOTIFY valueChanged)
     Q_PROPERTY(bool isStandardizedVal READ isStandardizedVal WRITE setIsStandardizedVal NOTIFY valueChanged)
     Q_PROPERTY(MethodModel *methodModel READ methodModel NOTIFY valueChanged)
+    Q_PROPERTY(TitrationModel *titrationModel READ titrationModel NOTIFY valueChanged)
+    Q_PROPERTY(SetupModel *setupModel READ setupModel CONSTANT)
+    Q_PROPERTY(CalibrationCycleModel *calibrationCycleModel READ calibrationCycleModel NOTIFY valueChanged)
+    Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel NOTIFY valueChanged)
+    Q_PROPERTY(MeasurementModel *measure READ measure NOTIFY valueChanged)
+    Q_PROPERTY(QQmlListProperty<TitrationCycleModel> titrationcycles READ titrationcycles)
+    Q_PROPERTY(QQmlListProperty<MKATitrationCycleModel> mkaTitrationCycle READ mkaTitrationCycle)
+    Q_PROPERTY(QQmlListProperty<MKAadditionModel> mkaAdditionCycle READ mkaAdditionCycle)
+    Q_PROPERTY(QQmlListProperty<TitrationLogModel> titrationLogList READ titrationLogList NOTIFY titrationLogListChanged)
+    Q_PROPERTY(QQmlListProperty<StandardisationLogModel> standLogList READ standLogList NOTIFY standLogListChanged)
+    Q_PROPERTY(QQmlListProperty<CalibrationLogModel> calibratoinLogList READ calibratoinLogList NOTIFY calibrationLogListChanged)
+    Q_PROPERTY(QQmlListProperty<MeasurementLogModel> measures READ measures NOTIFY measuresChanged)
     Q_PROPERTY(QQmlListProperty<MethodModel> methods READ methods NOTIFY valueChanged)
     Q_PROPERTY(int methodCount READ methodCount WRITE setMethodCount NOTIFY valueChanged)
     Q_PROPERTY(QString titrationQMLVersion READ titrationQMLVersion WRITE setTitrationQMLVersion NOTIFY valueChanged)
@@ -78,6 +102,30 @@ public:
     TitrantSetupModel *titrantSetupModel() const;
     TitrationSetupModel *titrationSetupModel() const;
     SysInfoModel *sysInfoModel() const { return m_sysInfoModel; }
+    // The run in progress of the current method, with its cycles.
+    TitrationModel *titrationModel() const;
+    SetupModel *setupModel() const { return m_setupModel; }
+    MeasurementModel *measurementModel() const { return m_measurementModel; }
+    MeasurementModel *measure() const { return m_measure; }
+    CalibrationCycleModel *calibrationCycleModel() const { return m_calibrationCycleModel; }
+    // The cycles of the run in progress, or once after
+    // getTitrationCycleLogFromDb() the cycles of a stored run.
+    QQmlListProperty<TitrationCycleModel> titrationcycles();
+    QQmlListProperty<MKATitrationCycleModel> mkaTitrationCycle();
+    QQmlListProperty<MKAadditionModel> mkaAdditionCycle();
+    QQmlListProperty<TitrationLogModel> titrationLogList();
+    QQmlListProperty<StandardisationLogModel> standLogList();
+    QQmlListProperty<CalibrationLogModel> calibratoinLogList();
+    QQmlListProperty<MeasurementLogModel> measures();
+    const QList<TitrationLogModel *> &titrationLogEntries() const { return m_titrationLogs->list(); }
+    const QList<StandardisationLogModel *> &standardisationLogEntries() const { return m_standLogs->list(); }
+    const QList<CalibrationLogModel *> &calibrationLogEntries() const { return m_calibrationLogs->list(); }
+    const QList<MeasurementLogModel *> &measurementLogEntries() const { return m_measurementLogs->list(); }
+    bool logFetchRunning(const QString &process) const;
+    // A log model of the screens saves the current method's run and asks
+    // here whether a method counts as standardised.
+    void attachLogModel(TitrationLogModel *log);
+    void attachLogModel(StandardisationLogModel *log);
     QQmlListProperty<MethodModel> methods();
     const QList<MethodModel *> &methodList() const { return m_methods; }
     int methodCount() const { return m_methodCount; }
@@ -203,7 +251,7 @@ public slots:
     void beginRunRecords() override;
     float recordRunPoint(float volumeMl) override;
     TitrationRecordParameters titrationRecordParameters() const override;
-    int displayBrightness() const override { return m_setup.displayBrightness; }
+    int displayBrightness() const override { return m_setupModel ? m_setupModel->displayBrightness() : 3; }
     void notifyValueChanged() override { emit valueChanged(); }
 
     // Multiple known addition: the method's sample and standard.
@@ -246,6 +294,20 @@ public slots:
     // Loads a log list for the screens, one row per event-loop turn:
     // "TITRATION", "STANDARDIZATION", "CALIBRATION" or "MEASUREMENT".
     void startLogFetch(const QString &process);
+    // The timer ticks of the four log lists: one row each.
+    void getTitrationLogListFromDb();
+    void getStandardizationLogListFromDb();
+    void getcalibrationLogListFromDb();
+    void getMeasurementLogListFromDb();
+
+    // The stored cycles of a run, for the log screens.
+    void getTitrationCycleLogFromDb(int titrationId);
+    void getMKAtitrationCycleFromDB(int titrationId);
+    void getMKAadditionFromDB(int titrationId);
+    // The summary screens have read the cycles: the run starts empty.
+    void initializeTitration();
+    // The meter's last stored row, as a new `measure`.
+    void getMeasureFromDB();
 
 signals:
     void valueChanged();
@@ -259,6 +321,13 @@ signals:
     void mfgSerialNumChanged();
     void probeTempChanged();
     void rinseCyclesChanged();
+    void titrationLogListChanged();
+    void standLogListChanged();
+    void calibrationLogListChanged();
+    void measuresChanged();
+    void sigMKAPointsToUI(QString volume, QString mV, QString calConc, QString precision, QString drift, QString slope,
+                          QString E0);
+    void mkaTitrationCompleted(QString avgConc, QString slope, QString spike);
 
 private slots:
     void qmlFreshDataAvailable();
@@ -275,21 +344,11 @@ private:
     float byMode(float (*fromTitration)(const TitrationSetupModel &),
                  float (*fromTitrant)(const TitrantSetupModel &)) const;
 
-    // Instrument settings the coordinator reads (burette size, manual
-    // temperature and the probe's offset, the method in use), taken from
-    // `setupTable` as it stands.
-    struct SetupValues {
-        float buretteSizeMl = 20.0f;
-        float temperatureInput = 25.0f;
-        float temperatureOffset = 0.0f;
-        int currentMethodId = 99999;
-        int displayBrightness = 3;   // step 1 to 5
-    };
-    void loadSetupValues();
+    void makeLogFetches();
+    bool fromLog(bool &flag);
 
-    // Steps of a finished run that belong to the record models.
-    void bookRunResult(const std::array<double, 3> &volumesMl);
-    void bookEndPointReadings(float ep1, float ep2);
+    // The run's cycle in the run model: a new one at the start, the points
+    // of the curve while it runs.
     void beginRunCycle();
     void addRunPoint(float volumeMl, float value);
     ConcentrationCalc::Sample mkaSample() const;
@@ -303,7 +362,27 @@ private:
     std::unique_ptr<LogManager> m_titrationLogFile;
     std::unique_ptr<LogManager> m_rawTitrationLogFile;
     QList<MethodModel *> m_methods;
-    SetupValues m_setup;
+    SetupModel *m_setupModel = nullptr;
+    MeasurementModel *m_measurementModel = nullptr;
+    MeasurementModel *m_measure = nullptr;
+    CalibrationCycleModel *m_calibrationCycleModel = nullptr;
+
+    // Cycle lists for the screens: the run's, or a stored run's once.
+    QList<TitrationCycleModel *> m_titrationcycles;
+    QList<TitrationCycleModel *> m_storedCycles;
+    QList<MKATitrationCycleModel *> m_mkaTitrationCycle;
+    QList<MKATitrationCycleModel *> m_storedMkaCycles;
+    QList<MKAadditionModel *> m_mkaAdditionCycle;
+    QList<MKAadditionModel *> m_storedMkaAdditions;
+    bool fromTitrationLog = false;
+    bool fromMkaCycleLog = false;
+    bool fromMkaAdditionLog = false;
+
+    std::unique_ptr<LogListFetch<TitrationLogModel>> m_titrationLogs;
+    std::unique_ptr<LogListFetch<StandardisationLogModel>> m_standLogs;
+    std::unique_ptr<LogListFetch<CalibrationLogModel>> m_calibrationLogs;
+    std::unique_ptr<LogListFetch<MeasurementLogModel>> m_measurementLogs;
+    int res_length = 0;
 
     QString m_deviceMode;
     bool m_blankTitrationMode = false;

@@ -8,18 +8,48 @@
 #include "controller/mspcontroller.h"
 #include "datamanagerbase.h"
 #include "datamigrator.h"
+#include "models/calibrationcyclemodel.h"
+#include "models/calibrationlogmodel.h"
 #include "models/electrodesetupmodel.h"
+#include "models/measurementlogmodel.h"
+#include "models/measurementmodel.h"
+#include "models/mkaadditionmodel.h"
+#include "models/mkatitrationcyclemodel.h"
+#include "models/setupmodel.h"
+#include "models/standardisationlogmodel.h"
+#include "models/titrationcyclemodel.h"
+#include "models/titrationlogmodel.h"
+#include "models/titrationmodel.h"
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "system/platform.h"
+#include "titrationcontrollerbase.h"
 
 #include <QApplication>
 #include <QDebug>
+#include <QMetaObject>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QSqlDatabase>
+#include <QtQml>
+
+namespace {
+
+// Connects a signal to a function of the root window when the screens have
+// that function; a missing one is logged, never a failure.
+void connectToRoot(QObject *root, QObject *sender, const char *signal, const char *function)
+{
+    const QByteArray normalized = QMetaObject::normalizedSignature(function);
+    if (!root || !sender || root->metaObject()->indexOfMethod(normalized.constData()) < 0) {
+        qDebug() << "Kestrum: the user interface has no" << normalized;
+        return;
+    }
+    QObject::connect(sender, signal, root, QByteArray("1" + normalized).constData());
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -45,20 +75,51 @@ int main(int argc, char *argv[])
     engine_startup.load(QUrl(QStringLiteral("qrc:/startup.qml")));
     QQmlApplicationEngine engine;
 
+    // Types that travel through list properties.
+    qmlRegisterAnonymousType<TitrationCycleModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<CalibrationCycleModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<MeasurementModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<TitrationLogModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<CalibrationLogModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<StandardisationLogModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<MKATitrationCycleModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<MKAadditionModel>("Kestrum", 1);
+    qmlRegisterType<MethodModel>("qmllisttest", 1, 0, "MethodModel");
+
     // The back end, strictly in this order: each constructor reaches for
     // those before it.
     DataManagerBase *dm = DataManagerBase::dmPtr(); // the data layer; the engine's from here on
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
+    TitrationControllerBase *tc = TitrationControllerBase::tcPtr(); // the run controller; sets the backlight
     Q_UNUSED(msp)
-    Q_UNUSED(bc)
 
     dm->setTitrationQMLCoreVersion(dm->getTitrationCoreVersion());
+    engine.rootContext()->setContextProperty(QStringLiteral("tc"), tc);
     engine.rootContext()->setContextProperty(QStringLiteral("dm"), dm);
     engine.rootContext()->setContextProperty(QStringLiteral("electrode"), dm->electrodeSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titrant"), dm->titrantSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titration"), dm->titrationSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("method"), dm->methodModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("runtitration"), dm->titrationModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("setup"), dm->setupModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("measurement"), dm->measurementModel());
+    auto *measurementTemp = new MeasurementModel();
+    engine.rootContext()->setContextProperty(QStringLiteral("measurementTemp"), measurementTemp);
+    engine.rootContext()->setContextProperty(QStringLiteral("calibrationCycleModel"), dm->calibrationCycleModel());
+
+    // The log models the screens save with.
+    auto *measurementLogModel = new MeasurementLogModel();
+    auto *calibrationLogModel = new CalibrationLogModel();
+    auto *standardisationLogModel = new StandardisationLogModel();
+    auto *titrationLogModel = new TitrationLogModel();
+    calibrationLogModel->setCurrentMethod(dm->methodModel());
+    dm->attachLogModel(standardisationLogModel);
+    dm->attachLogModel(titrationLogModel);
+    engine.rootContext()->setContextProperty(QStringLiteral("measurementLogModel"), measurementLogModel);
+    engine.rootContext()->setContextProperty(QStringLiteral("calibrationLogModel"), calibrationLogModel);
+    engine.rootContext()->setContextProperty(QStringLiteral("standardisationLogModel"), standardisationLogModel);
+    engine.rootContext()->setContextProperty(QStringLiteral("titrationLogModel"), titrationLogModel);
 
     // Close the splash once every context property is set, then load the UI.
     if (!engine_startup.rootObjects().isEmpty()) {
@@ -72,6 +133,21 @@ int main(int argc, char *argv[])
         qDebug() << "Kestrum: main.qml did not load";
     } else {
         qDebug() << "Kestrum: user interface loaded";
+        // Direct connections: a function of the screens runs inside the emit.
+        QObject *root = engine.rootObjects().first();
+        connectToRoot(root, tc, SIGNAL(titrationCompletedSignal()), "titrationCompleted()");
+        connectToRoot(root, tc, SIGNAL(newPoint(QVariant)), "newPoint(QVariant)");
+        connectToRoot(root, bc, SIGNAL(qmlDispenseCompleted()), "qmlDispenseCompleted()");
+        connectToRoot(root, bc, SIGNAL(qmlDispenseWait()), "qmlDispenseWait()");
+        connectToRoot(root, bc, SIGNAL(qmlRinseCompleted()), "qmlRinseCompleted()");
+        connectToRoot(root, dm, SIGNAL(exportQueryError(QVariant, QVariant)), "exportQueryError(QVariant,QVariant)");
+        const char *notification = "calibrationNotificationQmlSlot(QVariant)";
+        connectToRoot(root, dm->setupModel(), SIGNAL(notificationSignal(QVariant)), notification);
+        connectToRoot(root, titrationLogModel, SIGNAL(notificationSignal(QVariant)), notification);
+        connectToRoot(root, standardisationLogModel, SIGNAL(notificationSignal(QVariant)), notification);
+        connectToRoot(root, calibrationLogModel, SIGNAL(notificationSignal(QVariant)), notification);
+        connectToRoot(root, measurementLogModel, SIGNAL(notificationSignal(QVariant)), notification);
+        connectToRoot(root, measurementLogModel, SIGNAL(logSaved()), "logSaved()");
     }
 
     dm->updateProdType(QStringLiteral("All-in-one"));

@@ -135,17 +135,21 @@ QList<CalibrationLogModel *> CalibrationLogModel::newestFirst(QObject *parent)
     for (const QSqlRecord &row : rows) {
         auto *entry = new CalibrationLogModel(parent);
         entry->loadFromRecord(row);
-        // The slope as it stands now: the slope screen may have edited it.
-        QSqlQuery slope;
-        const bool known = DbUtil::tableExists(QStringLiteral("calibrationTable"))
-            && slope.prepare(QStringLiteral("Select avgSlope from calibrationTable where id=:calId"));
-        slope.bindValue(QStringLiteral(":calId"), entry->calId());
-        if (known && DbUtil::exec(slope) && slope.next()) {
-            QVariantMap values = entry->calibrationValues();
-            values.insert(QStringLiteral("avgSlope"), slope.value(0).toDouble());
-            entry->setCalibrationValues(values);
-        }
+        entry->refreshSlope();
         list.append(entry);
     }
     return list;
+}
+
+void CalibrationLogModel::refreshSlope()
+{
+    QSqlQuery slope;
+    const bool known = DbUtil::tableExists(QStringLiteral("calibrationTable"))
+        && slope.prepare(QStringLiteral("Select avgSlope from calibrationTable where id=:calId"));
+    slope.bindValue(QStringLiteral(":calId"), calId());
+    if (known && DbUtil::exec(slope) && slope.next()) {
+        QVariantMap values = calibrationValues();
+        values.insert(QStringLiteral("avgSlope"), slope.value(0).toDouble());
+        setCalibrationValues(values);
+    }
 }

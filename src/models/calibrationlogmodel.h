@@ -56,6 +56,9 @@ public:
     void loadFromRecord(const QSqlRecord &row);
     static QString newestFirstSql();
     static QList<CalibrationLogModel *> newestFirst(QObject *parent);
+    // The calibration's slope as it stands now: the slope screen may have
+    // edited it since the entry was written.
+    void refreshSlope();
 
 public slots:
     // `calibration` is the saved calibration's row of `calibrationTable`.

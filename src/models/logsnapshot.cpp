@@ -4,6 +4,7 @@
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
 #include "models/titrantsetupmodel.h"
+#include "models/titrationmodel.h"
 #include "models/titrationsetupmodel.h"
 
 #include <QDebug>
@@ -20,6 +21,14 @@ LogSourceRows LogSnapshot::methodRows(const MethodModel *method)
     rows.insert(LogBlock::Titrant, LogLayout::rowOf(method->titrantSetupModel(), TitrantSetupModel::columnTable()));
     rows.insert(LogBlock::TitrationSetup, LogLayout::rowOf(method->titrationSetupModel(), TitrationSetupModel::columnTable()));
     return rows;
+}
+
+QVariantMap LogSnapshot::runRow(const MethodModel *method, const QVariantMap &unwritten)
+{
+    const TitrationModel *run = method ? method->titrationModel() : nullptr;
+    if (!run || run->id() <= 0)
+        return unwritten;
+    return LogLayout::rowOf(run, TitrationModel::columnTable());
 }
 
 QVariantMap LogSnapshot::lastCalibration(const QString &electrodeType)

@@ -18,6 +18,9 @@ class LogSnapshot
 public:
     // The method's own row and the rows of its three setup parts.
     static LogSourceRows methodRows(const MethodModel *method);
+    // The method's run as its table holds it, once the run has been written;
+    // until then the values given.
+    static QVariantMap runRow(const MethodModel *method, const QVariantMap &unwritten);
     // The newest calibration of an electrode type: `id`, `avgSlope`, and
     // `avgOffset`, the mean offset of its points (0 without points). Empty
     // when there is none.

@@ -22,7 +22,16 @@ const LogLayout &MeasurementLogModel::layout()
 MeasurementLogModel::MeasurementLogModel(QObject *parent)
     : QObject(parent)
 {
+    m_measurement = new MeasurementModel(this);
     createTable();
+}
+
+void MeasurementLogModel::takeMeasurement(const MeasurementModel *measurement)
+{
+    QVariantMap values = LogLayout::rowOf(measurement, MeasurementModel::columnTable());
+    values.insert(QStringLiteral("isAtc"), measurement->isATC());
+    values.insert(QStringLiteral("stability"), measurement->stability());
+    setMeasurementValues(values);
 }
 
 bool MeasurementLogModel::createTable()
@@ -106,6 +115,7 @@ void MeasurementLogModel::loadFromRecord(const QSqlRecord &row)
     for (int i = 0; i < row.count(); ++i)
         values.insert(row.fieldName(i), row.value(i));
     setMeasurementValues(values);
+    m_measurement->load(row);
     setCreatedAt(row.value(QStringLiteral("logCreatedAt")).toDateTime());
     setUpdatedAt(row.value(QStringLiteral("logUpdatedAt")).toDateTime());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "models/measurementmodel.h"
 #include "models/modelproperty.h"
 
 #include <QDateTime>
@@ -21,6 +22,7 @@ class MeasurementLogModel : public QObject
     Q_OBJECT
     Q_PROPERTY(int id READ id WRITE setId NOTIFY valueChanged)
     KESTRUM_MODEL_PROPERTY(QVariantMap, measurementValues, setMeasurementValues)
+    Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel CONSTANT)
     KESTRUM_MODEL_PROPERTY(QDateTime, createdAt, setCreatedAt)
     KESTRUM_MODEL_PROPERTY(QDateTime, updatedAt, setUpdatedAt)
 
@@ -36,6 +38,10 @@ public:
 
     int id() const { return m_id; }
     void setId(int id);
+    // The logged reading as a meter record, for the screens.
+    MeasurementModel *measurementModel() const { return m_measurement; }
+    // The values of the next save from the meter's record.
+    void takeMeasurement(const MeasurementModel *measurement);
 
     // Deletes the oldest entry with its report, as one unit.
     static bool pruneOldest();
@@ -57,4 +63,5 @@ signals:
 
 private:
     int m_id = 0;
+    MeasurementModel *m_measurement = nullptr;
 };

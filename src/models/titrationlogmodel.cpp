@@ -73,6 +73,7 @@ void TitrationLogModel::saveLogValues(bool isDataLogNotifOn)
     setCalibrationCycleValues(QVariantMap());
     rows.insert(LogBlock::Calibration, calibrationValues());
     rows.insert(LogBlock::CalibrationPoint, calibrationCycleValues());
+    setRunValues(LogSnapshot::runRow(m_current, runValues()));
     rows.insert(LogBlock::Run, runValues());
 
     const QDateTime now = Clock::now();

@@ -252,11 +252,14 @@ TEST_F(DataManager, StoredMethodIsWhatTheEngineSeesAfterARestart)
 
 TEST_F(DataManager, SetupRowGivesBuretteSizeAndTemperatures)
 {
-    ASSERT_TRUE(TestDatabase::exec(QStringLiteral(
-        "CREATE TABLE setupTable (id integer primary key, temperatureInput float, temperatureOffset float, "
-        "buretteSize varchar(30), currentMethodId int)")));
-    ASSERT_TRUE(TestDatabase::exec(
-        QStringLiteral("INSERT INTO setupTable VALUES (101, 21.5, -0.5, '50', 99999)")));
+    {
+        // The settings screen stores them; a restart reads them back.
+        auto first = start();
+        first->setupModel()->setBuretteSize(50);
+        first->setupModel()->setTemperatureInput(21.5f);
+        first->setupModel()->setTemperatureOffset(-0.5f);
+        ASSERT_TRUE(first->setupModel()->setSetupValues());
+    }
     auto dm = start();
     EXPECT_FLOAT_EQ(dm->buretteSize(), 50.f);
 
