@@ -1,6 +1,10 @@
 #include "datamanagerbase.h"
 
 #include "meter/cmeasurementcontext.h"
+#include "meterrecords.h"
+#include "models/calibrationcyclemodel.h"
+#include "models/calibrationmodel.h"
+#include "models/measurementmodel.h"
 #include "models/dbutil.h"
 #include "models/logtables.h"
 #include "models/electrodesetupmodel.h"
@@ -974,4 +978,104 @@ void DataManagerBase::stopLogFetch(const QString &process)
     // Runs the list's timer tick once on its exhausted query, which stops
     // the fetch; nothing runs until the log lists exist.
     Q_UNUSED(process)
+}
+
+// ---- The meter's records: measurement state and electrode calibration ----
+
+MeterRecords *DataManagerBase::meterRecords()
+{
+    if (!m_meterRecords) {
+        m_meterRecords = new MeterRecords(this);
+        connect(m_meterRecords, &MeterRecords::changed, this, &DataManagerBase::valueChanged);
+        connect(this, &DataManagerBase::freshDataAvailable, this, &DataManagerBase::meterFreshData);
+    }
+    return m_meterRecords;
+}
+
+MeasurementModel *DataManagerBase::measurementModel()
+{
+    return meterRecords()->measurementModel();
+}
+
+CalibrationModel *DataManagerBase::calibrationModel()
+{
+    return meterRecords()->calibrationModel();
+}
+
+CalibrationCycleModel *DataManagerBase::calibrationCycleModel()
+{
+    return meterRecords()->calibrationCycleModel();
+}
+
+const QList<CalibrationCycleModel *> &DataManagerBase::calibrationCycleList()
+{
+    return meterRecords()->cycles();
+}
+
+QQmlListProperty<CalibrationCycleModel> DataManagerBase::calibrationcycles()
+{
+    m_calibrationcycles = meterRecords()->cycles();
+    return QQmlListProperty<CalibrationCycleModel>(this, &m_calibrationcycles);
+}
+
+void DataManagerBase::meterFreshData()
+{
+    MeasurementModel *m = meterRecords()->measurementModel();
+    m->setIsATC(m_temperatureProbePresent);
+    m->setTemp(getTemperature());
+}
+
+void DataManagerBase::updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp)
+{
+    meterRecords()->updateCalibrationPoint(fmV, pH, Buff, Slope, Offset, Temp, m_temperatureProbePresent);
+}
+
+void DataManagerBase::initiateCalibrationModelFromTitration()
+{
+    meterRecords()->initiateFromElectrode(electrodeSetupModel());
+}
+
+void DataManagerBase::initiateCalibrationModelFromMeasure()
+{
+    meterRecords()->initiateFromMeasure();
+}
+
+void DataManagerBase::insertCalibrationValue()
+{
+    meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome());
+}
+
+void DataManagerBase::getCalibrationCycles()
+{
+    emit valueChanged();
+}
+
+void DataManagerBase::getCalibrationCyclesFromDb(int calId)
+{
+    meterRecords()->getCalibrationCyclesFromDb(calId);
+}
+
+void DataManagerBase::loadLastCalibration(const QString &probeType, const QString &iseType)
+{
+    meterRecords()->loadLastCalibration(probeType, iseType);
+}
+
+void DataManagerBase::loadCalibrationPoints(int calId)
+{
+    meterRecords()->loadCalibrationPoints(calId);
+}
+
+void DataManagerBase::deleteCalibrationModelAndPoints()
+{
+    meterRecords()->deleteCalibrationModelAndPoints();
+}
+
+void DataManagerBase::insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset)
+{
+    meterRecords()->insertATCCalibrationValues(probeTemperature, tempInputATC, offset, m_temperatureProbePresent);
+}
+
+bool DataManagerBase::logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn)
+{
+    return meterRecords()->logMeasurement(log, isDataLogNotifOn);
 }

@@ -14,6 +14,11 @@
 #include <memory>
 
 class CMeasurementContext;
+class CalibrationCycleModel;
+class CalibrationModel;
+class MeasurementLogModel;
+class MeasurementModel;
+class MeterRecords;
 class ElectrodeSetupModel;
 class LogManager;
 class SysInfoModel;
@@ -339,4 +344,40 @@ private:
 
     QString m_console;
     bool m_consoleNew = false;
+
+    // ---- The meter's records: measurement state and electrode calibration ----
+    Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel NOTIFY valueChanged)
+    Q_PROPERTY(CalibrationModel *calibrationModel READ calibrationModel NOTIFY valueChanged)
+    Q_PROPERTY(CalibrationCycleModel *calibrationCycleModel READ calibrationCycleModel NOTIFY valueChanged)
+    Q_PROPERTY(QQmlListProperty<CalibrationCycleModel> calibrationcycles READ calibrationcycles NOTIFY valueChanged)
+
+public:
+    // Made on first use, with the meter state row loaded.
+    MeterRecords *meterRecords();
+    MeasurementModel *measurementModel();
+    CalibrationModel *calibrationModel();
+    CalibrationCycleModel *calibrationCycleModel();
+    QQmlListProperty<CalibrationCycleModel> calibrationcycles();
+    const QList<CalibrationCycleModel *> &calibrationCycleList();
+    // One finished point of the calibration in hand, into memory.
+    void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp);
+
+public slots:
+    void initiateCalibrationModelFromTitration();
+    void initiateCalibrationModelFromMeasure();
+    void insertCalibrationValue();
+    void getCalibrationCycles();
+    void getCalibrationCyclesFromDb(int calId);
+    void loadLastCalibration(const QString &probeType, const QString &iseType);
+    void loadCalibrationPoints(int calId);
+    void deleteCalibrationModelAndPoints();
+    void insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset);
+    // The current reading into the measurement log and the meter state row.
+    bool logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn);
+
+private:
+    void meterFreshData();
+
+    MeterRecords *m_meterRecords = nullptr;
+    QList<CalibrationCycleModel *> m_calibrationcycles;
 };

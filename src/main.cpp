@@ -5,10 +5,13 @@
 
 #include "appconstants.h"
 #include "controller/burettecontroller.h"
+#include "controller/metercontroller.h"
 #include "controller/mspcontroller.h"
 #include "datamanagerbase.h"
 #include "datamigrator.h"
+#include "models/calibrationcyclemodel.h"
 #include "models/electrodesetupmodel.h"
+#include "models/measurementmodel.h"
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "system/platform.h"
@@ -50,11 +53,15 @@ int main(int argc, char *argv[])
     DataManagerBase *dm = DataManagerBase::dmPtr(); // the data layer; the engine's from here on
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
+    MeterController *mc = MeterController::mcPtr(); // the measurement engine, lent to the data layer
     Q_UNUSED(msp)
     Q_UNUSED(bc)
 
     dm->setTitrationQMLCoreVersion(dm->getTitrationCoreVersion());
     engine.rootContext()->setContextProperty(QStringLiteral("dm"), dm);
+    engine.rootContext()->setContextProperty(QStringLiteral("mc"), mc);
+    engine.rootContext()->setContextProperty(QStringLiteral("measurement"), dm->measurementModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("calibrationCycleModel"), dm->calibrationCycleModel());
     engine.rootContext()->setContextProperty(QStringLiteral("electrode"), dm->electrodeSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titrant"), dm->titrantSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titration"), dm->titrationSetupModel());
