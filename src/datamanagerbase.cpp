@@ -1,6 +1,10 @@
 #include "datamanagerbase.h"
 
 #include "meter/cmeasurementcontext.h"
+#include "meterrecords.h"
+#include "models/calibrationcyclemodel.h"
+#include "models/calibrationmodel.h"
+#include "models/measurementmodel.h"
 #include "models/dbutil.h"
 #include "models/logcapacity.h"
 #include "models/logtables.h"
@@ -83,8 +87,6 @@ void DataManagerBase::DataManagerLegacyInit()
 {
     m_methodModel = new MethodModel(this);
     m_setupModel = new SetupModel(this);
-    m_measurementModel = new MeasurementModel(this);
-    m_calibrationCycleModel = new CalibrationCycleModel(this);
     DataLogSetting::setSource([this] { return m_setupModel->isDatalogFullNotifOn(); });
 
     m_temperatureCelcius = 25.0f;
@@ -449,11 +451,7 @@ void DataManagerBase::qmlTemperatureDataAvailable(float celsius)
 
 void DataManagerBase::qmlFreshDataAvailable()
 {
-    if (m_measurementModel) {
-        m_measurementModel->setIsATC(m_temperatureProbePresent);
-        m_measurementModel->setTemp(m_temperatureProbePresent ? m_probeTemp
-                                                              : (m_setupModel ? m_setupModel->temperatureInput() : 25.0f));
-    }
+    // The meter's records take temperature and probe state on freshDataAvailable.
     emit measurementValueChanged();
 }
 
@@ -596,8 +594,7 @@ void DataManagerBase::updateProdType(const QString &prodType)
     setTitratorModelNo(QLatin1String(identity->modelNo));
     // The report controller takes the model string, and the home screen the
     // last pH calibration, once those exist.
-    if (m_measurementModel)
-        m_measurementModel->createMeasurementTableAndLoadModel();
+    meterRecords(); // made with the meter's stored row
 }
 
 void DataManagerBase::getLoadedMspVersion()
@@ -1182,4 +1179,104 @@ void DataManagerBase::getMeasureFromDB()
         m_measure->deleteLater();
     m_measure = measure;
     emit valueChanged();
+}
+
+// ---- The meter's records: measurement state and electrode calibration ----
+
+MeterRecords *DataManagerBase::meterRecords()
+{
+    if (!m_meterRecords) {
+        m_meterRecords = new MeterRecords(this);
+        connect(m_meterRecords, &MeterRecords::changed, this, &DataManagerBase::valueChanged);
+        connect(this, &DataManagerBase::freshDataAvailable, this, &DataManagerBase::meterFreshData);
+    }
+    return m_meterRecords;
+}
+
+MeasurementModel *DataManagerBase::measurementModel()
+{
+    return meterRecords()->measurementModel();
+}
+
+CalibrationModel *DataManagerBase::calibrationModel()
+{
+    return meterRecords()->calibrationModel();
+}
+
+CalibrationCycleModel *DataManagerBase::calibrationCycleModel()
+{
+    return meterRecords()->calibrationCycleModel();
+}
+
+const QList<CalibrationCycleModel *> &DataManagerBase::calibrationCycleList()
+{
+    return meterRecords()->cycles();
+}
+
+QQmlListProperty<CalibrationCycleModel> DataManagerBase::calibrationcycles()
+{
+    m_calibrationcycles = meterRecords()->cycles();
+    return QQmlListProperty<CalibrationCycleModel>(this, &m_calibrationcycles);
+}
+
+void DataManagerBase::meterFreshData()
+{
+    MeasurementModel *m = meterRecords()->measurementModel();
+    m->setIsATC(m_temperatureProbePresent);
+    m->setTemp(getTemperature());
+}
+
+void DataManagerBase::updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp)
+{
+    meterRecords()->updateCalibrationPoint(fmV, pH, Buff, Slope, Offset, Temp, m_temperatureProbePresent);
+}
+
+void DataManagerBase::initiateCalibrationModelFromTitration()
+{
+    meterRecords()->initiateFromElectrode(electrodeSetupModel());
+}
+
+void DataManagerBase::initiateCalibrationModelFromMeasure()
+{
+    meterRecords()->initiateFromMeasure();
+}
+
+void DataManagerBase::insertCalibrationValue()
+{
+    meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome());
+}
+
+void DataManagerBase::getCalibrationCycles()
+{
+    emit valueChanged();
+}
+
+void DataManagerBase::getCalibrationCyclesFromDb(int calId)
+{
+    meterRecords()->getCalibrationCyclesFromDb(calId);
+}
+
+void DataManagerBase::loadLastCalibration(const QString &probeType, const QString &iseType)
+{
+    meterRecords()->loadLastCalibration(probeType, iseType);
+}
+
+void DataManagerBase::loadCalibrationPoints(int calId)
+{
+    meterRecords()->loadCalibrationPoints(calId);
+}
+
+void DataManagerBase::deleteCalibrationModelAndPoints()
+{
+    meterRecords()->deleteCalibrationModelAndPoints();
+}
+
+void DataManagerBase::insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset)
+{
+    meterRecords()->insertATCCalibrationValues(probeTemperature, tempInputATC, offset, m_temperatureProbePresent);
+}
+
+bool DataManagerBase::logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn)
+{
+    return meterRecords()->logMeasurement(log, isDataLogNotifOn);
 }

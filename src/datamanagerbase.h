@@ -26,6 +26,11 @@
 #include <memory>
 
 class CMeasurementContext;
+class CalibrationCycleModel;
+class CalibrationModel;
+class MeasurementLogModel;
+class MeasurementModel;
+class MeterRecords;
 class ElectrodeSetupModel;
 class LogManager;
 class SysInfoModel;
@@ -48,8 +53,6 @@ class DataManagerBase : public QObject, public EngineDataInterface
     Q_PROPERTY(MethodModel *methodModel READ methodModel NOTIFY valueChanged)
     Q_PROPERTY(TitrationModel *titrationModel READ titrationModel NOTIFY valueChanged)
     Q_PROPERTY(SetupModel *setupModel READ setupModel CONSTANT)
-    Q_PROPERTY(CalibrationCycleModel *calibrationCycleModel READ calibrationCycleModel NOTIFY valueChanged)
-    Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel NOTIFY valueChanged)
     Q_PROPERTY(MeasurementModel *measure READ measure NOTIFY valueChanged)
     Q_PROPERTY(QQmlListProperty<TitrationCycleModel> titrationcycles READ titrationcycles)
     Q_PROPERTY(QQmlListProperty<MKATitrationCycleModel> mkaTitrationCycle READ mkaTitrationCycle)
@@ -105,9 +108,7 @@ public:
     // The run in progress of the current method, with its cycles.
     TitrationModel *titrationModel() const;
     SetupModel *setupModel() const { return m_setupModel; }
-    MeasurementModel *measurementModel() const { return m_measurementModel; }
     MeasurementModel *measure() const { return m_measure; }
-    CalibrationCycleModel *calibrationCycleModel() const { return m_calibrationCycleModel; }
     // The cycles of the run in progress, or once after
     // getTitrationCycleLogFromDb() the cycles of a stored run.
     QQmlListProperty<TitrationCycleModel> titrationcycles();
@@ -363,9 +364,7 @@ private:
     std::unique_ptr<LogManager> m_rawTitrationLogFile;
     QList<MethodModel *> m_methods;
     SetupModel *m_setupModel = nullptr;
-    MeasurementModel *m_measurementModel = nullptr;
     MeasurementModel *m_measure = nullptr;
-    CalibrationCycleModel *m_calibrationCycleModel = nullptr;
 
     // Cycle lists for the screens: the run's, or a stored run's once.
     QList<TitrationCycleModel *> m_titrationcycles;
@@ -418,4 +417,40 @@ private:
 
     QString m_console;
     bool m_consoleNew = false;
+
+    // ---- The meter's records: measurement state and electrode calibration ----
+    Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel NOTIFY valueChanged)
+    Q_PROPERTY(CalibrationModel *calibrationModel READ calibrationModel NOTIFY valueChanged)
+    Q_PROPERTY(CalibrationCycleModel *calibrationCycleModel READ calibrationCycleModel NOTIFY valueChanged)
+    Q_PROPERTY(QQmlListProperty<CalibrationCycleModel> calibrationcycles READ calibrationcycles NOTIFY valueChanged)
+
+public:
+    // Made on first use, with the meter state row loaded.
+    MeterRecords *meterRecords();
+    MeasurementModel *measurementModel();
+    CalibrationModel *calibrationModel();
+    CalibrationCycleModel *calibrationCycleModel();
+    QQmlListProperty<CalibrationCycleModel> calibrationcycles();
+    const QList<CalibrationCycleModel *> &calibrationCycleList();
+    // One finished point of the calibration in hand, into memory.
+    void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp);
+
+public slots:
+    void initiateCalibrationModelFromTitration();
+    void initiateCalibrationModelFromMeasure();
+    void insertCalibrationValue();
+    void getCalibrationCycles();
+    void getCalibrationCyclesFromDb(int calId);
+    void loadLastCalibration(const QString &probeType, const QString &iseType);
+    void loadCalibrationPoints(int calId);
+    void deleteCalibrationModelAndPoints();
+    void insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset);
+    // The current reading into the measurement log and the meter state row.
+    bool logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn);
+
+private:
+    void meterFreshData();
+
+    MeterRecords *m_meterRecords = nullptr;
+    QList<CalibrationCycleModel *> m_calibrationcycles;
 };

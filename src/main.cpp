@@ -5,6 +5,7 @@
 
 #include "appconstants.h"
 #include "controller/burettecontroller.h"
+#include "controller/metercontroller.h"
 #include "controller/mspcontroller.h"
 #include "datamanagerbase.h"
 #include "datamigrator.h"
@@ -91,12 +92,14 @@ int main(int argc, char *argv[])
     DataManagerBase *dm = DataManagerBase::dmPtr(); // the data layer; the engine's from here on
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
+    MeterController *mc = MeterController::mcPtr(); // the measurement engine, lent to the data layer
     TitrationControllerBase *tc = TitrationControllerBase::tcPtr(); // the run controller; sets the backlight
     Q_UNUSED(msp)
 
     dm->setTitrationQMLCoreVersion(dm->getTitrationCoreVersion());
     engine.rootContext()->setContextProperty(QStringLiteral("tc"), tc);
     engine.rootContext()->setContextProperty(QStringLiteral("dm"), dm);
+    engine.rootContext()->setContextProperty(QStringLiteral("mc"), mc);
     engine.rootContext()->setContextProperty(QStringLiteral("electrode"), dm->electrodeSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titrant"), dm->titrantSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titration"), dm->titrationSetupModel());

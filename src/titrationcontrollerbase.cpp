@@ -15,7 +15,7 @@
 TitrationControllerBase *TitrationControllerBase::tcPtr()
 {
     static TitrationControllerBase *instance = new TitrationControllerBase(
-        mspController::mspcPtr(), BuretteController::bcPtr(), RunMeterInterface::standIn());
+        mspController::mspcPtr(), BuretteController::bcPtr(), RunMeterInterface::instrumentMeter());
     return instance;
 }
 

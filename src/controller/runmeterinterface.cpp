@@ -4,6 +4,8 @@
 
 namespace {
 
+RunMeterInterface *installedMeter = nullptr;
+
 class LoggingMeter : public RunMeterInterface
 {
 public:
@@ -18,4 +20,14 @@ RunMeterInterface *RunMeterInterface::standIn()
 {
     static LoggingMeter meter;
     return &meter;
+}
+
+RunMeterInterface *RunMeterInterface::instrumentMeter()
+{
+    return installedMeter ? installedMeter : standIn();
+}
+
+void RunMeterInterface::setInstrumentMeter(RunMeterInterface *meter)
+{
+    installedMeter = meter;
 }

@@ -15,4 +15,8 @@ public:
 
     // The process-wide stand-in.
     static RunMeterInterface *standIn();
+    // The instrument's meter once it was made (the meter controller installs
+    // itself when it is created), else the stand-in.
+    static RunMeterInterface *instrumentMeter();
+    static void setInstrumentMeter(RunMeterInterface *meter);
 };

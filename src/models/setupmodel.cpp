@@ -63,6 +63,8 @@ SetupModel::SetupModel(QObject *parent)
     : QObject(parent)
 {
     applyDefaults();
+    connect(&m_dueTimer, &QTimer::timeout, this, &SetupModel::calibrationDueNotificationSlot);
+    m_dueTimer.start(dueCheckIntervalMs);
     load();
 }
 
@@ -349,4 +351,25 @@ QString SetupModel::clockText(const QDateTime &newDate, const QDateTime &newTime
 QString SetupModel::clockText2(const QString &sysTime, const QDateTime &newTime)
 {
     return CLocaleText::dateTime(newTime, QStringLiteral("dd MMM yyyy")) + QLatin1Char(' ') + sysTime;
+}
+
+bool SetupModel::isCalibrationDue(const QDateTime &last, const QDateTime &now, int hours)
+{
+    if (!last.isValid() || !now.isValid() || hours < 1)
+        return false;
+    const qint64 minutes = qAbs(last.secsTo(now)) / 60;
+    return minutes % (qint64(hours) * 60) == 0;
+}
+
+void SetupModel::calibrationDueNotificationSlot()
+{
+    const QDateTime now = Clock::now();
+    const int hours[3] = {m_phCalibrationDue, m_redoxCalibrationDue, m_iseCalibrationDue};
+    const bool on[3] = {m_isPhCalibrationNotifOn, m_isRedoxCalibrationNotifOn, m_isIseCalibrationNotifOn};
+    for (int kind = 0; kind < 3; ++kind) {
+        if (on[kind] && isCalibrationDue(m_lastTime[kind], now, hours[kind])) {
+            emit notificationSignal(QVariant(kind + 1));
+            return;
+        }
+    }
 }

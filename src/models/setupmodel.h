@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <QVariant>
 
 // The instrument's own settings: language, formats, name, brightness,
@@ -72,6 +73,10 @@ public:
     // time typed as text: "14 Mar 2026 21:05:00" in every language.
     static QString clockText(const QDateTime &newDate, const QDateTime &newTime);
     static QString clockText2(const QString &sysTime, const QDateTime &newTime);
+    // Whether a kind calibrated at `last` is due at `now`: once in each full
+    // period of `hours` after the calibration, in its first minute too.
+    static bool isCalibrationDue(const QDateTime &last, const QDateTime &now, int hours);
+    static constexpr int dueCheckIntervalMs = 60000;
 
     int id() const { return m_id; }
     void setId(int id);
@@ -110,6 +115,8 @@ public slots:
     void updateMaintainanceNotifOn(bool value);
     void updatemaintainanceScheduledAt();
     void getLastCalibrationTime();
+    // The due check of the three kinds: at most one notification, pH first.
+    void calibrationDueNotificationSlot();
 
 signals:
     void idChanged();
@@ -132,6 +139,7 @@ private:
     bool m_maxVolumeNotification = true;
     bool m_loading = false;
     QString m_mfgSerialNo;
+    QTimer m_dueTimer;
     QDateTime m_lastTime[3];
     float m_lastAvg[3] = {0.0f, 0.0f, 0.0f};
 };
