@@ -35,12 +35,7 @@ bool CalibrationLogModel::createTable()
 
 bool CalibrationLogModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("CalibrationLogModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.3"));
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return LogSnapshot::migrateByDropping("CalibrationLogModel", tableName, noMigrateList, "1.1", "1.3", fromVersion);
 }
 
 void CalibrationLogModel::setId(int id)
@@ -124,21 +119,7 @@ QString CalibrationLogModel::newestFirstSql()
 
 QList<CalibrationLogModel *> CalibrationLogModel::newestFirst(QObject *parent)
 {
-    QList<CalibrationLogModel *> list;
-    QSqlQuery query;
-    if (!DbUtil::exec(query, newestFirstSql()))
-        return list;
-    QList<QSqlRecord> rows;
-    while (query.next())
-        rows.append(query.record());
-    query.finish();
-    for (const QSqlRecord &row : rows) {
-        auto *entry = new CalibrationLogModel(parent);
-        entry->loadFromRecord(row);
-        entry->refreshSlope();
-        list.append(entry);
-    }
-    return list;
+    return LogSnapshot::newestFirst<CalibrationLogModel>(newestFirstSql(), parent, [](CalibrationLogModel *entry) { entry->refreshSlope(); });
 }
 
 void CalibrationLogModel::refreshSlope()

@@ -1,5 +1,7 @@
 #include "models/logsnapshot.h"
 
+#include "models/migrationframe.h"
+
 #include "models/dbutil.h"
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
@@ -110,4 +112,26 @@ bool LogSnapshot::deleteRow(const QString &table, int id)
 QString LogSnapshot::newestFirstSql(const QString &table, const QString &columns)
 {
     return QStringLiteral("SELECT %1 FROM %2 order by datetime(logCreatedAt) DESC, id DESC").arg(columns, table);
+}
+
+QList<QSqlRecord> LogSnapshot::newestFirstRows(const QString &sql)
+{
+    QList<QSqlRecord> rows;
+    QSqlQuery query;
+    if (!DbUtil::exec(query, sql))
+        return rows;
+    while (query.next())
+        rows.append(query.record());
+    return rows;
+}
+
+bool LogSnapshot::migrateByDropping(const char *modelName, const QString &table, const QStringList &noMigrateList,
+                                    const char *first, const char *last, const QString &fromVersion)
+{
+    MigrationFrame frame;
+    frame.modelName = QLatin1String(modelName);
+    frame.noMigrateList = noMigrateList;
+    frame.handledVersions = DbUtil::versionRange(QLatin1String(first), QLatin1String(last));
+    frame.step = [table](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(table)); };
+    return frame.run(fromVersion);
 }

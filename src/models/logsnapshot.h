@@ -1,5 +1,10 @@
 #pragma once
 
+#include <QList>
+#include <QObject>
+#include <QSqlRecord>
+#include <QStringList>
+
 #include "models/loglayout.h"
 
 #include <QSqlRecord>
@@ -37,4 +42,25 @@ public:
     static bool deleteRow(const QString &table, int id);
     // The log's rows, newest first (ties by id).
     static QString newestFirstSql(const QString &table, const QString &columns = QStringLiteral("*"));
+    // The stored rows of a newest-first query (empty when it fails).
+    static QList<QSqlRecord> newestFirstRows(const QString &sql);
+    // A log of an older shape can't be reshaped: versions from `first` to
+    // `last` drop the table, which comes back empty.
+    static bool migrateByDropping(const char *modelName, const QString &table, const QStringList &noMigrateList,
+                                  const char *first, const char *last, const QString &fromVersion);
+
+    // One model per stored row, newest first; `prepare` finishes each entry.
+    template <typename Log, typename Prepare>
+    static QList<Log *> newestFirst(const QString &sql, QObject *parent, Prepare prepare)
+    {
+        QList<Log *> list;
+        const QList<QSqlRecord> rows = newestFirstRows(sql);
+        for (const QSqlRecord &row : rows) {
+            auto *entry = new Log(parent);
+            entry->loadFromRecord(row);
+            prepare(entry);
+            list.append(entry);
+        }
+        return list;
+    }
 };

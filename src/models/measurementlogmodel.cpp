@@ -41,12 +41,7 @@ bool MeasurementLogModel::createTable()
 
 bool MeasurementLogModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("MeasurementLogModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.4"));
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return LogSnapshot::migrateByDropping("MeasurementLogModel", tableName, noMigrateList, "1.1", "1.4", fromVersion);
 }
 
 void MeasurementLogModel::setId(int id)
@@ -127,18 +122,5 @@ QString MeasurementLogModel::newestFirstSql()
 
 QList<MeasurementLogModel *> MeasurementLogModel::newestFirst(QObject *parent)
 {
-    QList<MeasurementLogModel *> list;
-    QSqlQuery query;
-    if (!DbUtil::exec(query, newestFirstSql()))
-        return list;
-    QList<QSqlRecord> rows;
-    while (query.next())
-        rows.append(query.record());
-    query.finish();
-    for (const QSqlRecord &row : rows) {
-        auto *entry = new MeasurementLogModel(parent);
-        entry->loadFromRecord(row);
-        list.append(entry);
-    }
-    return list;
+    return LogSnapshot::newestFirst<MeasurementLogModel>(newestFirstSql(), parent, [](MeasurementLogModel *) {});
 }

@@ -38,12 +38,7 @@ bool StandardisationLogModel::createTable()
 
 bool StandardisationLogModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("StandardisationLogModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.5"));
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return LogSnapshot::migrateByDropping("StandardisationLogModel", tableName, noMigrateList, "1.1", "1.5", fromVersion);
 }
 
 void StandardisationLogModel::setId(int id)
@@ -143,18 +138,5 @@ QString StandardisationLogModel::newestFirstSql()
 
 QList<StandardisationLogModel *> StandardisationLogModel::newestFirst(QObject *parent)
 {
-    QList<StandardisationLogModel *> list;
-    QSqlQuery query;
-    if (!DbUtil::exec(query, newestFirstSql()))
-        return list;
-    QList<QSqlRecord> rows;
-    while (query.next())
-        rows.append(query.record());
-    query.finish();
-    for (const QSqlRecord &row : rows) {
-        auto *entry = new StandardisationLogModel(parent);
-        entry->loadFromRecord(row);
-        list.append(entry);
-    }
-    return list;
+    return LogSnapshot::newestFirst<StandardisationLogModel>(newestFirstSql(), parent, [](StandardisationLogModel *) {});
 }

@@ -42,12 +42,7 @@ bool TitrationLogModel::createTable()
 
 bool TitrationLogModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("TitrationLogModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.5"));
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return LogSnapshot::migrateByDropping("TitrationLogModel", tableName, noMigrateList, "1.1", "1.5", fromVersion);
 }
 
 void TitrationLogModel::setId(int id)
@@ -204,19 +199,5 @@ QString TitrationLogModel::newestFirstSql()
 
 QList<TitrationLogModel *> TitrationLogModel::newestFirst(QObject *parent)
 {
-    QList<TitrationLogModel *> list;
-    QSqlQuery query;
-    if (!DbUtil::exec(query, newestFirstSql()))
-        return list;
-    QList<QSqlRecord> rows;
-    while (query.next())
-        rows.append(query.record());
-    query.finish();
-    for (const QSqlRecord &row : rows) {
-        auto *entry = new TitrationLogModel(parent);
-        entry->loadFromRecord(row);
-        entry->setCount(entry->id());
-        list.append(entry);
-    }
-    return list;
+    return LogSnapshot::newestFirst<TitrationLogModel>(newestFirstSql(), parent, [](TitrationLogModel *entry) { entry->setCount(entry->id()); });
 }
