@@ -6,7 +6,11 @@
 #include "appconstants.h"
 #include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
+#include "datamanagerbase.h"
 #include "datamigrator.h"
+#include "models/electrodesetupmodel.h"
+#include "models/titrantsetupmodel.h"
+#include "models/titrationsetupmodel.h"
 #include "system/platform.h"
 
 #include <QApplication>
@@ -43,10 +47,18 @@ int main(int argc, char *argv[])
 
     // The back end, strictly in this order: each constructor reaches for
     // those before it.
+    DataManagerBase *dm = DataManagerBase::dmPtr(); // the data layer; the engine's from here on
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
     Q_UNUSED(msp)
     Q_UNUSED(bc)
+
+    dm->setTitrationQMLCoreVersion(dm->getTitrationCoreVersion());
+    engine.rootContext()->setContextProperty(QStringLiteral("dm"), dm);
+    engine.rootContext()->setContextProperty(QStringLiteral("electrode"), dm->electrodeSetupModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("titrant"), dm->titrantSetupModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("titration"), dm->titrationSetupModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("method"), dm->methodModel());
 
     // Close the splash once every context property is set, then load the UI.
     if (!engine_startup.rootObjects().isEmpty()) {
@@ -62,5 +74,6 @@ int main(int argc, char *argv[])
         qDebug() << "Kestrum: user interface loaded";
     }
 
+    dm->updateProdType(QStringLiteral("All-in-one"));
     return app.exec();
 }

@@ -6,6 +6,18 @@
 
 class LogManager;
 
+// The titration record's own words for the parameter log and the summary,
+// whatever the mode of the run.
+struct TitrationRecordParameters
+{
+    QString technique;          // "Equivalence Pt." ...
+    QString displayUnits;       // "pH" or "mV"
+    QString processControl;     // "Routine" ...
+    float preDoseMl = 0.f;
+    float maxVolumeMl = 0.f;
+    int noOfEndPoints = 1;
+};
+
 // What the titration engine (run controller, burette, algorithms, slave
 // controller) asks of the data layer. DataManagerBase serves it on the
 // instrument; EngineDataStandIn serves it in tests that need no database.
@@ -77,6 +89,24 @@ public:
     virtual void setQmlStirSpeed(int speed) = 0;
     virtual int rinseCycles() const = 0;
     virtual void setLastStartRinseCycles(int cycles) = 0;
+
+    // The run's records: before a run the method's changed flags are cleared
+    // and a new cycle is appended to the run model; each settled point of
+    // the curve is stored on that cycle. recordRunPoint answers the point's
+    // value in display units (pH or mV) for the chart.
+    virtual void beginRunRecords() = 0;
+    virtual float recordRunPoint(float volumeMl) = 0;
+    virtual TitrationRecordParameters titrationRecordParameters() const = 0;
+
+    // Rinse count shown on the screen, and the count at the rinse's start.
+    virtual void setRinseCycles(int cycles) = 0;
+    virtual int lastStartRinseCycles() const = 0;
+
+    // Instrument settings and identity.
+    virtual int displayBrightness() const = 0;
+    virtual void setTitrationCoreVersion(const QString &version) = 0;
+    // The screens re-read the live state (the data layer's valueChanged()).
+    virtual void notifyValueChanged() = 0;
 
     // The console text pipe.
     virtual void sendToConsole(const QString &text) = 0;

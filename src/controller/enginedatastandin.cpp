@@ -50,6 +50,34 @@ float EngineDataStandIn::phToMillivolts(float ph)
     return (7.f - ph) * nernstSlope(temperatureC);
 }
 
+void EngineDataStandIn::beginRunRecords()
+{
+    ++runRecordsBegun;
+    runPoints.clear();
+}
+
+float EngineDataStandIn::recordRunPoint(float volumeMl)
+{
+    const float value = getScaledVal(millivolts);
+    runPoints.emplace_back(volumeMl, value);
+    return value;
+}
+
+TitrationRecordParameters EngineDataStandIn::titrationRecordParameters() const
+{
+    static const char *const techniques[] = {"Preset End Pt.", "Equivalence Pt.", "Engineering Basic pH",
+                                             "Multiple Known Addition"};
+    static const char *const controls[] = {"Routine", "Quick", "Careful", "User Defined"};
+    TitrationRecordParameters p;
+    p.technique = (technique >= 0 && technique < 4) ? QLatin1String(techniques[technique]) : QString();
+    p.processControl = (processCtrl >= 0 && processCtrl < 4) ? QLatin1String(controls[processCtrl]) : QString();
+    p.displayUnits = displayUnits();
+    p.preDoseMl = preDose;
+    p.maxVolumeMl = maxVolmL;
+    p.noOfEndPoints = noOfEndpoints;
+    return p;
+}
+
 void EngineDataStandIn::sendToConsole(const QString &text)
 {
     console += text;

@@ -3,6 +3,8 @@
 #include "controller/enginedatainterface.h"
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 // A plain-field data layer for the engine: every getter answers the field of
 // the same name, every setter stores. Tests set the fields directly.
@@ -47,6 +49,11 @@ public:
     int lastStartRinse = 3;
     QString console;
     bool consoleNew = false;
+    int runRecordsBegun = 0;
+    std::vector<std::pair<float, float>> runPoints; // (mL, display value)
+    int brightness = 80;
+    QString coreVersion;
+    int valueChangedCount = 0;
 
     QString deviceMode() const override { return mode; }
     void setDeviceMode(const QString &m) override { mode = m; }
@@ -101,6 +108,16 @@ public:
     void setQmlStirSpeed(int s) override { stirSpeed = s; }
     int rinseCycles() const override { return rinse; }
     void setLastStartRinseCycles(int c) override { lastStartRinse = c; }
+    void setRinseCycles(int c) override { rinse = c; }
+    int lastStartRinseCycles() const override { return lastStartRinse; }
+
+    void beginRunRecords() override;
+    float recordRunPoint(float volumeMl) override;
+    // The record's words, from the fields above.
+    TitrationRecordParameters titrationRecordParameters() const override;
+    int displayBrightness() const override { return brightness; }
+    void setTitrationCoreVersion(const QString &v) override { coreVersion = v; }
+    void notifyValueChanged() override { ++valueChangedCount; }
 
     void sendToConsole(const QString &text) override;
     bool getConsoleMes(QString *text) override;

@@ -1,0 +1,317 @@
+#pragma once
+
+#include "controller/enginedatainterface.h"
+#include "models/methodmodel.h"
+
+#include <QList>
+#include <QObject>
+#include <QQmlListProperty>
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <memory>
+
+class CMeasurementContext;
+class ElectrodeSetupModel;
+class LogManager;
+class SysInfoModel;
+class TitrantSetupModel;
+class TitrationSetupModel;
+
+// The one object through which the engine, the meter and the screens reach
+// persistent data. It owns the current method and the instrument identity,
+// answers the engine's questions in terms of what is being run (the
+// titration part of the method in "Titration" mode, the titrant part in
+// "Standardization" mode) and takes the results of a run. Published to the
+// screens as "dm".
+class DataManagerBase : public QObject, public EngineDataInterface
+{
+    Q_OBJECT
+    Q_PROPERTY(QString deviceMode READ deviceMode WRITE setDeviceMode NOTIFY valueChanged)
+    Q_PROPERTY(bool blankTitrationMode READ blankTitrationMode WRITE setBlankTitrationMode NOTIFY valueChanged)
+    Q_PROPERTY(bool isCalibrationFromMeasurement READ isCalibrationFromMeasurement WRITE setIsCalibrationFromMeasurement NOTIFY valueChanged)
+    Q_PROPERTY(bool isStandardizedVal READ isStandardizedVal WRITE setIsStandardizedVal NOTIFY valueChanged)
+    Q_PROPERTY(MethodModel *methodModel READ methodModel NOTIFY valueChanged)
+    Q_PROPERTY(QQmlListProperty<MethodModel> methods READ methods NOTIFY valueChanged)
+    Q_PROPERTY(int methodCount READ methodCount WRITE setMethodCount NOTIFY valueChanged)
+    Q_PROPERTY(QString titrationQMLVersion READ titrationQMLVersion WRITE setTitrationQMLVersion NOTIFY valueChanged)
+    Q_PROPERTY(QString titrationQMLCoreVersion READ titrationQMLCoreVersion WRITE setTitrationQMLCoreVersion NOTIFY valueChanged)
+    Q_PROPERTY(QString mspQmlVersion READ mspQmlVersion WRITE setMspQmlVersion NOTIFY valueChanged)
+    Q_PROPERTY(QString buildNumber READ buildNumber WRITE setBuildNumber NOTIFY valueChanged)
+    Q_PROPERTY(QString appVersionNumber READ appVersionNumber CONSTANT)
+    Q_PROPERTY(QString titratorModelString READ titratorModelString WRITE setTitratorModelString NOTIFY titratorModelStringChanged)
+    Q_PROPERTY(QString titratorModelNo READ titratorModelNo WRITE setTitratorModelNo NOTIFY titratorModelNoChanged)
+    Q_PROPERTY(QString mfgSerialNum READ getMfgSerialNum WRITE setMfgSerialNum NOTIFY mfgSerialNumChanged)
+    Q_PROPERTY(int productType READ productType CONSTANT)
+    Q_PROPERTY(float probeTemp READ probeTemp WRITE setProbeTemp NOTIFY probeTempChanged)
+    Q_PROPERTY(int rinseCycles READ rinseCycles WRITE setRinseCycles NOTIFY rinseCyclesChanged)
+    Q_PROPERTY(int qmlStirSpeed READ qmlStirSpeed WRITE setQmlStirSpeed NOTIFY valueChanged)
+    Q_PROPERTY(bool qmlStirrerState READ qmlStirrerState WRITE setQmlStirrerState NOTIFY valueChanged)
+
+public:
+    static constexpr double uLtomL = 1000.0;
+    static constexpr int kNotInThisMode = -999;
+    static const QString modeTitration;
+    static const QString modeStandardization;
+
+    // The singleton: made on the first call, then initialised outside the
+    // constructor, because what the initialisation creates reaches for
+    // dmPtr() itself.
+    static DataManagerBase *dmPtr();
+
+    // Creates the instrument identity and installs itself as the engine's
+    // data layer (until it is destroyed).
+    explicit DataManagerBase(QObject *parent = nullptr);
+    ~DataManagerBase() override;
+
+    // The models, the log files, the versions, and the method last changed.
+    void DataManagerLegacyInit();
+
+    // The application's build string, as stored in `systemInfo`.
+    static QString buildString();
+
+    // ---- Models ----
+    MethodModel *methodModel() const { return m_methodModel; }
+    ElectrodeSetupModel *electrodeSetupModel() const;
+    TitrantSetupModel *titrantSetupModel() const;
+    TitrationSetupModel *titrationSetupModel() const;
+    SysInfoModel *sysInfoModel() const { return m_sysInfoModel; }
+    QQmlListProperty<MethodModel> methods();
+    const QList<MethodModel *> &methodList() const { return m_methods; }
+    int methodCount() const { return m_methodCount; }
+    void setMethodCount(int count);
+
+    // The meter's measurement engine, used for the mV and pH conversions.
+    // Until one is set, a private one with an uncalibrated electrode serves.
+    void setMeasurementContext(CMeasurementContext *context);
+    CMeasurementContext *measurementContext() const { return m_MeasContext; }
+
+    // ---- Mode ----
+    QString deviceMode() const override { return m_deviceMode; }
+    void setDeviceMode(const QString &mode) override;
+    bool blankTitrationMode() const override { return m_blankTitrationMode; }
+    void setBlankTitrationMode(bool on);
+    bool isCalibrationFromMeasurement() const { return m_isCalibrationFromMeasurement; }
+    void setIsCalibrationFromMeasurement(bool on);
+    bool isStandardizedVal() const { return m_isStandardizedVal; }
+    void setIsStandardizedVal(bool on);
+
+    // ---- The engine's method parameters ----
+    int getNoOfEndpoints() const override;
+    float getEndpointValue_First() const override;
+    float getEndpointValue_Second() const override;
+    float getEndpointValue_Third() const override;
+    int getTitrationTechnique() const override;
+    int getTitrationProcessCtrl() const override;
+    int getMKAProcessCtrl() const override;
+    float getDeltaE() const override;
+    float getDeltaVmin() const override;
+    float getDeltaVmax() const override;
+    float getStabilityCriteria() const override;
+    float gettMin() const override;
+    float gettMax() const override;
+    float getThreshold() const override;
+    float getPreDoseTitrantVolume() const override;
+    int getTitratrationOrStandardardizationPreStir() const override;
+    float getTitratrationOrStandardardizationMaxVolmL() const override;
+    int getIndexOfStirSpeed() const override;
+    int getElectrode() const override;
+    float getEndPoint() const override;
+    int getResolution() const override;
+    float buretteSize() const override;
+    QString displayUnits() const override;
+
+    // "Very Slow" 1 ... "Very Fast" 5; anything else 0, no stirring.
+    static int stirSpeedIndex(const QString &speed);
+    // Decimals of a display resolution: 0 for a whole number, 1 to 3 for
+    // 0.1 to 0.001, 2 for anything finer.
+    static int resolutionDecimals(float resolution);
+
+    // ---- Conversions ----
+    float getScaledVal(float millivolts) override;
+    float millivoltsToPH(float millivolts) override;
+    float phToMillivolts(float ph) override;
+    float getMeasuredMillivolt(float millivolts);
+    float getTemperature() const { return m_temperatureCelcius; }
+    float getMillivolts() const { return m_millivolts; }
+
+    // ---- Results in ----
+    void setMillivolts(float mv) override;
+    void setRawTemperatureCelcius(float celsius) override;
+    float temperatureRawCelcius() const { return m_temperatureRawCelcius; }
+    void setMultipleEndPointVolumes(const std::array<double, 3> &volumesUl) override;
+    void setResultArray(const std::array<double, 3> &volumesUl) { setMultipleEndPointVolumes(volumesUl); }
+    std::array<double, 3> getResultArray() const override { return m_resultArray; }
+    void setEpResult1(float value) override;
+    void setEpResult2(float value) override;
+    float epResult1() const { return m_epResult1; }
+    float epResult2() const { return m_epResult2; }
+    void setMspVersion(const QString &version) override;
+    QString getMspVersion() const override;
+    void setMfgSerialNum(const QString &serial) override;
+    QString getMfgSerialNum() const override { return m_mfgSerialNum; }
+
+    // ---- Versions and identity ----
+    QString titrationQMLVersion() const { return m_titrationQMLVersion; }
+    void setTitrationQMLVersion(const QString &v);
+    QString titrationQMLCoreVersion() const { return m_titrationQMLCoreVersion; }
+    void setTitrationQMLCoreVersion(const QString &v);
+    QString getTitrationCoreVersion() const { return m_titrationCoreVersion; }
+    void setTitrationCoreVersion(const QString &v) { m_titrationCoreVersion = v; }
+    QString mspQmlVersion() const { return m_mspQmlVersion; }
+    void setMspQmlVersion(const QString &v);
+    QString buildNumber() const { return m_buildNumber; }
+    void setBuildNumber(const QString &v);
+    QString appVersionNumber() const;
+    QString titratorModelString() const { return m_titratorModelString; }
+    void setTitratorModelString(const QString &v);
+    QString titratorModelNo() const { return m_titratorModelNo; }
+    void setTitratorModelNo(const QString &v);
+    int productType() const { return 0; }
+
+    // ---- Live state ----
+    bool getDispenseInProgress() const override { return m_dispenseInProgress; }
+    void setDispenseInProgress(bool on) override { m_dispenseInProgress = on; }
+    bool getTitrationCancelled() const override { return m_titrationCancelled; }
+    void setTitrationCancelled(bool on) override { m_titrationCancelled = on; }
+    bool qmlStirrerState() const override { return m_qmlStirrerState; }
+    void setQmlStirrerState(bool on) override;
+    int qmlStirSpeed() const override { return m_qmlStirSpeed; }
+    void setQmlStirSpeed(int speed) override;
+    int rinseCycles() const override { return m_rinseCycles; }
+    void setRinseCycles(int cycles);
+    int lastStartRinseCycles() const { return m_lastStartRinseCycles; }
+    void setLastStartRinseCycles(int cycles) override { m_lastStartRinseCycles = cycles; }
+    float probeTemp() const { return m_probeTemp; }
+    void setProbeTemp(float t);
+    bool isTemperatureProbePresent() const { return m_temperatureProbePresent; }
+
+    // ---- Console pipe ----
+    void sendToConsole(const QString &text) override;
+    bool getConsoleMes(QString *text) override;
+
+    // ---- The engine's cyclic logs ----
+    LogManager *titrationLogFile() override;
+    LogManager *rawTitrationLogFile() override;
+
+public slots:
+    void titrationCompleted() override;
+    void updateProdType(const QString &prodType);
+    void getLoadedMspVersion();
+    bool isProbePresent() const { return m_temperatureProbePresent; }
+    void exportLogs(const QString &dir);
+
+    // Methods and their lists.
+    void getMethodsFromDB();
+    void reInitializeMethodModel(int id);
+    void getLastUpdatedMethod();
+    int currentMethodId() const;
+
+    // Standardisation state of a method, and its copy to a new method.
+    bool getStandardizedFetch(int methodId);
+    bool copyStandardization(int originalMethodId, int newMethodId);
+    bool resetSquenceIds(const QStringList &tables);
+
+    // The four logs: whether any holds a row, the rows of one (1 titration,
+    // 2 standardisation, 3 calibration, 4 measurement; another number gives
+    // the last count), and their deletion with what they lean on.
+    bool checkDB();
+    int logMethods(int log);
+    void deleteTitrationLog();
+    void deleteTitrantLog();
+    void deleteCalibrationLog();
+    void deleteMeasurementLog();
+    // Loads a log list for the screens, one row per event-loop turn:
+    // "TITRATION", "STANDARDIZATION", "CALIBRATION" or "MEASUREMENT".
+    void startLogFetch(const QString &process);
+
+signals:
+    void valueChanged();
+    void freshDataAvailable();
+    void temperatureDataAvailable(float celsius);
+    void measurementValueChanged();
+    void mspVersionUpdated();
+    void exportQueryError(QVariant text, QVariant iserr);
+    void titratorModelStringChanged();
+    void titratorModelNoChanged();
+    void mfgSerialNumChanged();
+    void probeTempChanged();
+    void rinseCyclesChanged();
+
+private slots:
+    void qmlFreshDataAvailable();
+    void qmlTemperatureDataAvailable(float celsius);
+
+private:
+    void emitSignalsToUI();
+    bool inTitration() const { return m_deviceMode == modeTitration; }
+    bool inStandardization() const { return m_deviceMode == modeStandardization; }
+    bool backTitration() const;
+    // The engine's parameter of the mode in use: the titration part's value
+    // in "Titration" mode, the titrant part's in "Standardization" mode.
+    // Answers -999 in any other mode, and before the method is loaded.
+    float byMode(float (*fromTitration)(const TitrationSetupModel &),
+                 float (*fromTitrant)(const TitrantSetupModel &)) const;
+
+    // Instrument settings the coordinator reads (burette size, manual
+    // temperature and the probe's offset, the method in use), taken from
+    // `setupTable` as it stands.
+    struct SetupValues {
+        float buretteSizeMl = 20.0f;
+        float temperatureInput = 25.0f;
+        float temperatureOffset = 0.0f;
+        int currentMethodId = 99999;
+    };
+    void loadSetupValues();
+
+    // Steps of a finished run that belong to the record models.
+    void bookRunResult(const std::array<double, 3> &volumesMl);
+    void bookEndPointReadings(float ep1, float ep2);
+    // Ends a running fetch of a log list after its rows were deleted.
+    void stopLogFetch(const QString &process);
+
+    MethodModel *m_methodModel = nullptr;
+    SysInfoModel *m_sysInfoModel = nullptr;
+    std::unique_ptr<CMeasurementContext> m_ownContext;
+    CMeasurementContext *m_MeasContext = nullptr;
+    std::unique_ptr<LogManager> m_titrationLogFile;
+    std::unique_ptr<LogManager> m_rawTitrationLogFile;
+    QList<MethodModel *> m_methods;
+    SetupValues m_setup;
+
+    QString m_deviceMode;
+    bool m_blankTitrationMode = false;
+    bool m_isCalibrationFromMeasurement = false;
+    bool m_isStandardizedVal = false;
+    std::array<double, 3> m_resultArray{{0.0, 0.0, 0.0}};
+    float m_epResult1 = 0.0f;
+    float m_epResult2 = 0.0f;
+    bool m_titrationCancelled = false;
+    bool m_dispenseInProgress = false;
+    float m_millivolts = 0.0f;
+    float m_temperatureCelcius = 25.0f;
+    float m_temperatureRawCelcius = 25.0f;
+    bool m_temperatureProbePresent = false;
+    float m_probeTemp = 25.0f;
+    float m_slopeTarget = 0.25f;
+    int m_rinseCycles = 3;
+    int m_lastStartRinseCycles = 3;
+    int m_qmlStirSpeed = 3;
+    bool m_qmlStirrerState = false;
+    int m_methodCount = 0;
+    int m_count = 1;
+
+    QString m_mspVersionString;
+    QString m_mfgSerialNum;
+    QString m_titrationQMLVersion;
+    QString m_titrationQMLCoreVersion;
+    QString m_titrationCoreVersion;
+    QString m_mspQmlVersion;
+    QString m_buildNumber;
+    QString m_titratorModelString;
+    QString m_titratorModelNo;
+
+    QString m_console;
+    bool m_consoleNew = false;
+};

@@ -1,0 +1,272 @@
+// Whole runs of the run controller with the real link, burette and
+// algorithm against the virtual instrument on a pseudo-terminal, the
+// instrument's clock fifty times real time, the engine's clock following
+// the slave's time stamps. Also the console runner as a user calls it.
+
+#include "controller/algorithms/temporaldatastore.h"
+#include "controller/algorithms/titrationalgorithmbase.h"
+#include "controller/algorithms/volumetricdatastore.h"
+#include "controller/burettecontroller.h"
+#include "controller/enginedatastandin.h"
+#include "controller/mspcontroller.h"
+#include "controller/slaveclock.h"
+#include "reports/logmanager.h"
+#include "system/clock.h"
+#include "testsupport.h"
+#include "titrationcontrollerbase.h"
+#include "virtualinstrumentprocess.h"
+
+#include <QFile>
+#include <QPointer>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+constexpr double kSpeed = 50;
+
+// 10 mL of 0.1 mol/L acetic acid made up to 50 mL, 0.1 mol/L NaOH, 20 mL burette.
+const char *kAcetic = R"({"burette_mL":20,"seed":1,
+  "electrode":{"E0_mV":0,"slope_pct":100,"tau_s":1.0,"noise_mV":0.05},
+  "beaker":{"kind":"acid-base","volume_mL":50,
+            "analyte":{"pKa":[4.76],"conc_mol_L":0.02,"form":"acid"},
+            "titrant":{"kind":"strong-base","conc_mol_L":0.1}}})";
+
+class TitrationRun : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        EngineData::set(&data);
+        data.technique = 1;
+        data.maxVolmL = 20.f;
+        data.buretteSizeMl = 20.f;
+    }
+    void TearDown() override
+    {
+        tc.reset();
+        Clock::setSource(nullptr);
+        clock.reset();
+        bc.reset();
+        msp.reset();
+        vi.stop();
+        EngineData::set(nullptr);
+    }
+
+    void start(const char *scenario = kAcetic)
+    {
+        ASSERT_TRUE(vi.start(QString::fromUtf8(scenario), kSpeed)) << vi.errorText().toStdString();
+        msp = std::make_unique<mspController>(vi.device());
+        msp->setPollInterval(int(250 / kSpeed));
+        msp->setReadInterval(1);
+        bc = std::make_unique<BuretteController>(msp.get());
+        bc->setTickInterval(int(250 / kSpeed));
+        clock = std::make_unique<SlaveClock>(msp.get());
+        Clock::setSource(clock.get());
+        tc = std::make_unique<TitrationControllerBase>(msp.get(), bc.get(), nullptr);
+        tc->setTimeScale(kSpeed);
+        // As the screens do: stop inside the completed signal.
+        QObject::connect(tc.get(), &TitrationController::titrationCompletedSignal, tc.get(), [this] {
+            reasonAtEnd = tc->algorithm() ? tc->algorithm()->reasonForEnd : QString();
+            tc->qmlStopTitration();
+        });
+        ASSERT_TRUE(waitUntil([&] { return slaveSize() == 20 && Clock::monotonicMs() > 0; }, 10000));
+    }
+
+    int slaveSize() const
+    {
+        mspInfoRecord info;
+        msp->msp->getInfo(info);
+        return info.buretteSize;
+    }
+
+    // The stirrer speed the controller last sent, -1 if none.
+    int lastStirCommand() const
+    {
+        int speed = -1;
+        for (const QString &l : vi.traceLines('>')) {
+            const QString cmd = l.section(QLatin1Char(' '), 2);
+            if (cmd.startsWith(QLatin1String("SSS ")))
+                speed = cmd.mid(4).toInt();
+        }
+        return speed;
+    }
+
+    bool runObjectsGone() const
+    {
+        return !tc->algorithm() && !tc->temporalStore() && !tc->volumetricStore();
+    }
+
+    // The stop left the burette on its way home with nothing counted, and it gets there.
+    void expectBuretteReset()
+    {
+        EXPECT_EQ(bc->getTotalDispensed(), 0);
+        EXPECT_TRUE(waitUntil([&] { return bc->state() == BuretteController::BURETTE_READY; }, 10000));
+        EXPECT_TRUE(waitUntil([&] { return msp->msp->isBuretteAtLoad(); }, 10000));
+    }
+
+    EngineDataStandIn data;
+    VirtualInstrumentProcess vi;
+    std::unique_ptr<mspController> msp;
+    std::unique_ptr<BuretteController> bc;
+    std::unique_ptr<SlaveClock> clock;
+    std::unique_ptr<TitrationControllerBase> tc;
+    QString reasonAtEnd;
+};
+
+TEST_F(TitrationRun, AceticAcidEndsWithinHalfAPercentOfTheTrueVolume)
+{
+    start();
+    QSignalSpy completed(tc.get(), &TitrationController::titrationCompletedSignal);
+    QSignalSpy notification(tc.get(), &TitrationController::titrationNotification);
+    QSignalSpy points(tc.get(), &TitrationControllerBase::newPoint);
+    tc->qmlStartTitration();
+    EXPECT_EQ(data.runRecordsBegun, 1);
+    ASSERT_TRUE(waitUntil([&] { return completed.count() == 1; }, 60000)) << "the run must end";
+
+    const double found = data.results[0];
+    EXPECT_NEAR(found, 10000.0, 50.0) << "within 0.5 % of 10.00 mL";
+    EXPECT_EQ(data.completedCount, 1) << "the data layer took the results";
+    EXPECT_EQ(reasonAtEnd, QStringLiteral("Reached final equivalence point at count: 1"));
+    ASSERT_EQ(notification.count(), 1);
+    EXPECT_FALSE(notification.at(0).at(0).toBool()) << "not stopped by the volume limit";
+    EXPECT_TRUE(data.cancelled) << "the normal end passes through the stop";
+    EXPECT_GT(points.count(), 10);
+    EXPECT_EQ(int(data.runPoints.size()), points.count());
+
+    // The summary as the run log and the console have it.
+    QFile logFile(data.titrationLogFile()->currentFileName());
+    ASSERT_TRUE(logFile.open(QIODevice::ReadOnly));
+    const QString log = QString::fromUtf8(logFile.readAll()); // line ends as written
+    EXPECT_TRUE(log.contains(QStringLiteral("\r\nTitration Summary\r\nTotal Vol Dispensed (ul):")));
+    EXPECT_TRUE(log.contains(QStringLiteral("End Point 1 Volume Dispensed (ul):%1\r\n").arg(found, 0, 'g')));
+    EXPECT_FALSE(log.contains(QStringLiteral("End Point 2")));
+    EXPECT_TRUE(log.contains(QStringLiteral("-------------------- TITRATION END ------------------\r\n")));
+
+    // What the instrument delivered is what the controller ordered.
+    EXPECT_GT(tc->lastRun().totalDispensedUl, 10000);
+    EXPECT_EQ(lastStirCommand(), 0);
+    expectBuretteReset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(runObjectsGone());
+    EXPECT_EQ(tc->state(), TitrationController::TITRATION_STATE_IDLE);
+}
+
+TEST_F(TitrationRun, CancelDuringTheHomingPollStartsNothing)
+{
+    start();
+    tc->qmlStartTitration();
+    ASSERT_TRUE(tc->homePollPending());
+    tc->qmlStopTitration();
+    // The poll goes on until the piston is home, then sees the cancel.
+    ASSERT_TRUE(waitUntil([&] { return !tc->homePollPending(); }, 10000));
+    EXPECT_FALSE(tc->preStirring());
+    EXPECT_EQ(lastStirCommand(), 0) << "the stirrer was never started";
+    EXPECT_FALSE(data.stirrerOn);
+    EXPECT_TRUE(runObjectsGone());
+    expectBuretteReset();
+}
+
+TEST_F(TitrationRun, CancelDuringThePreStirStopsTheTimerAndTheStirrer)
+{
+    data.preStir = 60;
+    data.stirSpeedIndex = 4;
+    start();
+    tc->qmlStartTitration();
+    ASSERT_TRUE(waitUntil([&] { return tc->preStirring(); }, 10000));
+    EXPECT_EQ(lastStirCommand(), 4);
+    tc->qmlStopTitration();
+    EXPECT_FALSE(tc->preStirring());
+    EXPECT_TRUE(waitUntil([&] { return lastStirCommand() == 0; }, 5000));
+    EXPECT_FALSE(data.stirrerOn);
+    EXPECT_TRUE(runObjectsGone());
+    expectBuretteReset();
+    EXPECT_EQ(tc->state(), TitrationController::TITRATION_STATE_IDLE);
+}
+
+TEST_F(TitrationRun, CancelDuringTheRunReleasesEverything)
+{
+    start();
+    tc->qmlStartTitration();
+    ASSERT_TRUE(waitUntil([&] { return tc->algorithm() && bc->getTotalDispensed() > 500; }, 30000));
+    QPointer<QObject> algorithm = tc->algorithm();
+    QPointer<QObject> temporal = tc->temporalStore();
+    QPointer<QObject> volumetric = tc->volumetricStore();
+    tc->qmlStopTitration();
+    EXPECT_TRUE(runObjectsGone());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(algorithm.isNull());
+    EXPECT_TRUE(temporal.isNull());
+    EXPECT_TRUE(volumetric.isNull());
+    EXPECT_TRUE(waitUntil([&] { return lastStirCommand() == 0; }, 5000));
+    EXPECT_TRUE(data.cancelled);
+    expectBuretteReset();
+    // No sample reaches the controller after the stop.
+    const int samples = tc->sampleCount();
+    waitUntil([&] { return false; }, 100);
+    EXPECT_EQ(tc->sampleCount(), samples);
+}
+
+// The console runner, as a user calls it.
+QString runCli(const QStringList &args, int *exitCode)
+{
+    QProcess p;
+    p.start(QStringLiteral(KESTRUM_BIN_DIR "/vantor-cli"), args);
+    if (!p.waitForFinished(120000))
+        p.kill();
+    *exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    return QString::fromLocal8Bit(p.readAllStandardOutput() + p.readAllStandardError());
+}
+
+TEST(VantorCli, TitratesTheAceticAcidScenario)
+{
+    int code = -1;
+    const QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
+                                 QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json"),
+                                 QStringLiteral("--technique"), QStringLiteral("Equivalence Pt."),
+                                 QStringLiteral("--speed"), QStringLiteral("50")},
+                                &code);
+    EXPECT_EQ(code, 0) << text.toStdString();
+    EXPECT_TRUE(text.startsWith(QStringLiteral("Titration Summary\nTotal Vol Dispensed (ul):"))) << text.toStdString();
+    const QRegularExpression ep(QStringLiteral("End Point 1 Volume Dispensed \\(ul\\):([0-9.]+)\n"));
+    const QRegularExpressionMatch m = ep.match(text);
+    ASSERT_TRUE(m.hasMatch()) << text.toStdString();
+    EXPECT_NEAR(m.captured(1).toDouble(), 10000.0, 50.0);
+    EXPECT_TRUE(text.contains(QStringLiteral("Reason for end: Reached final equivalence point at count: 1\n")));
+    EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("Doses: [1-9][0-9]*\n"))));
+    EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("Duration \\(s\\): [0-9]+\\.[0-9]\n"))));
+}
+
+TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
+{
+    const QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json");
+    const QList<QStringList> bad = {
+        {},
+        {QStringLiteral("dance")},
+        {QStringLiteral("titrate")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--replay"), scenario},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--technique"), QStringLiteral("Titration")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--endpoints"), QStringLiteral("4")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--endpoint-mv"), QStringLiteral("1,x")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--process-control"), QStringLiteral("Slow")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--max-volume-ml"), QStringLiteral("-1")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--predose-ml"), QStringLiteral("30")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--speed"), QStringLiteral("nan")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--colour")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), QStringLiteral("/nonexistent/scenario.json")},
+        {QStringLiteral("titrate"), QStringLiteral("--replay"), QStringLiteral("/nonexistent/curve.txt")},
+    };
+    for (const QStringList &args : bad) {
+        int code = 0;
+        const QString text = runCli(args, &code);
+        EXPECT_GT(code, 0) << args.join(QLatin1Char(' ')).toStdString();
+        EXPECT_FALSE(text.trimmed().isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
+        EXPECT_FALSE(text.contains(QStringLiteral("Titration Summary")));
+    }
+}
+
+} // namespace
