@@ -1,6 +1,7 @@
 // Start-up of the back end, from the program's entry to the moment the user
 // interface would be loaded: the database opened, its version checked by the
-// migrator, the application object, and the slave and burette controllers.
+// migrator, the application object, the data manager with its models, and
+// the slave and burette controllers.
 // A singleton exists once per process, so each start is a process of its
 // own: this program started again with --startup-child, on a sandbox whose
 // database the first start has made. The user interface (QML engine, splash,
@@ -8,6 +9,7 @@
 #include "appconstants.h"
 #include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
+#include "datamanagerbase.h"
 #include "datamigrator.h"
 #include "system/platform.h"
 
@@ -49,11 +51,13 @@ int startupChild(int argc, char **argv, const char *sandbox)
         DataMigrator::dmPtr()->restartApp();
 
     QCoreApplication app(argc, argv);
+    DataManagerBase *dm = DataManagerBase::dmPtr();
     mspController *msp = mspController::mspcPtr();
     BuretteController *bc = BuretteController::bcPtr();
+    dm->setTitrationQMLCoreVersion(dm->getTitrationCoreVersion());
     const qint64 ns = timer.nsecsElapsed();
 
-    if (!opened || !msp || !bc)
+    if (!opened || !dm || !msp || !bc)
         return 2;
     std::printf("%s %lld\n", usable ? "ok" : "restart", (long long)(ns / 1000));
     return 0;

@@ -15,6 +15,7 @@ BUDGETS = {
     "bench_meter": (SAMPLE_BUDGET_NS, "per sample"),
     "bench_stores": (SAMPLE_BUDGET_NS, "per sample"),
     "bench_algorithm": (SAMPLE_BUDGET_NS, "per sample"),
+    "bench_algorithms": (SAMPLE_BUDGET_NS, "per sample"),
     "bench_logs": (TICK_NS, "one tick"),
     "bench_startup": (STARTUP_NS, "start-up"),
 }
@@ -35,10 +36,12 @@ WHAT = {
     "BM_EngineSample": "engine: temporal store point + run() step",
     "BM_EngineSample:slowest": "engine: slowest sample seen in a repetition",
     "BM_AlgorithmGetResults": "algorithm: getResults() with its fits, two end points",
+    "BM_KnownAdditionFit": "MKA: one Nernst fit of a known-addition run",
+    "BM_EndPointRunStep": "algorithm: one run() step, preset end point",
     "BM_TitrationLogSaveAtFull": "titration log: save with snapshot at capacity (prunes the oldest)",
     "BM_TitrationLogPrune": "titration log: prune of the oldest entry alone",
     "BM_MeasurementLogSaveAtFull": "reading log: save at capacity (prunes the oldest)",
-    "BM_StartupBackEnd": "start-up: main() to UI load (database, migration check, singletons)",
+    "BM_StartupBackEnd": "start-up: main() to UI load (database, migration check, data manager, controllers)",
     "BM_StartupProcess": "start-up: whole process (exec, libraries, back end, exit)",
 }
 
