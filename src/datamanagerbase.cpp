@@ -480,6 +480,18 @@ void DataManagerBase::bookRunResult(const std::array<double, 3> &volumesMl)
              << "- result booking not available yet";
 }
 
+void DataManagerBase::beginRunCycle()
+{
+    // The run record appends a new cycle here once it exists.
+}
+
+void DataManagerBase::addRunPoint(float volumeMl, float value)
+{
+    // The run record's current cycle takes the point once it exists.
+    Q_UNUSED(volumeMl)
+    Q_UNUSED(value)
+}
+
 void DataManagerBase::bookEndPointReadings(float ep1, float ep2)
 {
     // The run record's current cycle takes the two readings once it exists.
@@ -675,6 +687,117 @@ void DataManagerBase::loadSetupValues()
     m_setup.temperatureInput = number("temperatureInput", m_setup.temperatureInput);
     m_setup.temperatureOffset = number("temperatureOffset", m_setup.temperatureOffset);
     m_setup.currentMethodId = int(number("currentMethodId", float(m_setup.currentMethodId)));
+    m_setup.displayBrightness = int(number("displaybrightness", float(m_setup.displayBrightness)));
+}
+
+void DataManagerBase::beginRunRecords()
+{
+    if (ElectrodeSetupModel *e = electrodeSetupModel())
+        e->setIsElectrodeChanged(false);
+    if (TitrantSetupModel *t = titrantSetupModel())
+        t->setIsTitrantChanged(false);
+    if (TitrationSetupModel *t = titrationSetupModel())
+        t->setIsTitrationChanged(false);
+    beginRunCycle();
+}
+
+float DataManagerBase::recordRunPoint(float volumeMl)
+{
+    const float value = getScaledVal(m_millivolts);
+    addRunPoint(volumeMl, value);
+    return value;
+}
+
+TitrationRecordParameters DataManagerBase::titrationRecordParameters() const
+{
+    TitrationRecordParameters p;
+    if (const TitrationSetupModel *t = titrationSetupModel()) {
+        p.technique = t->titrationTechnique();
+        p.displayUnits = t->displayUnits();
+        p.processControl = t->titrationProcessControl();
+        p.preDoseMl = t->preDoseTitrantVolume();
+        p.maxVolumeMl = t->maxTotalTitrantVolume();
+        p.noOfEndPoints = t->noOfEndPoints();
+    }
+    return p;
+}
+
+float DataManagerBase::getTotalSolutionVolume() const
+{
+    const TitrationSetupModel *t = titrationSetupModel();
+    return t ? t->totalSolutionVolume() : 0.0f;
+}
+
+float DataManagerBase::getMKAProcessCtrlConstant() const
+{
+    const TitrationSetupModel *t = titrationSetupModel();
+    return t ? t->mkaProcessControlConstant() : 0.0f;
+}
+
+float DataManagerBase::getMKAProcessCtrlMeasurement() const
+{
+    const TitrationSetupModel *t = titrationSetupModel();
+    return t ? t->mkaProcessControlMeasurement() : 0.0f;
+}
+
+float DataManagerBase::getMKAProcessCtrlPrecision() const
+{
+    const TitrationSetupModel *t = titrationSetupModel();
+    return t ? t->mkaProcessControlPrecision() : 0.0f;
+}
+
+float DataManagerBase::getMKAStandardConcentration() const
+{
+    const TitrantSetupModel *t = titrantSetupModel();
+    return t ? t->titrantConcentrationMolar() : 0.0f;
+}
+
+float DataManagerBase::getMKABlank() const
+{
+    const TitrationSetupModel *t = titrationSetupModel();
+    if (!t || t->blankRequired() != QLatin1String("Manual Entry"))
+        return 0.0f;
+    return t->blankRequiredValue();
+}
+
+ConcentrationCalc::Sample DataManagerBase::mkaSample() const
+{
+    ConcentrationCalc::Sample s;
+    if (const TitrationSetupModel *t = titrationSetupModel()) {
+        s.resultUnits = t->resultUnits();
+        s.resultUnitsValue = t->resultUnitsValue();
+        s.sampleAmount = t->sampleAmount();
+        s.amount = t->sampleAmountValue();
+        s.density = t->sampleDensity();
+        s.molecularWeight = t->sampleMolecularWeight();
+    }
+    return s;
+}
+
+void DataManagerBase::getSigMKAPointsToUI(QVariant volume, QVariant mV, QVariant calConc, QVariant precision,
+                                          QVariant drift, QVariant slope, QVariant e0)
+{
+    // The run record's known-addition rows take each addition once they exist.
+    qDebug() << "MKA addition: volume" << volume.toDouble() << "mV" << mV.toDouble() << "conc" << calConc.toDouble()
+             << "precision" << precision.toDouble() << "drift" << drift.toDouble() << "slope" << slope.toDouble()
+             << "E0" << e0.toDouble();
+}
+
+void DataManagerBase::getMKATitrationCompleted(QVariant conc, QVariant slope, QVariant spike)
+{
+    qDebug() << "MKA complete: concentration" << conc.toDouble() << "slope" << slope.toDouble() << "spike"
+             << spike.toDouble();
+}
+
+float DataManagerBase::getMKASampleBasis() const
+{
+    const TitrationSetupModel *t = titrationSetupModel();
+    return ConcentrationCalc::mkaSampleBasis(mkaSample(), t ? t->servingSize() : 1.0f);
+}
+
+float DataManagerBase::mkaConvertResult(float molPerL)
+{
+    return ConcentrationCalc::mkaConvertResult(molPerL, mkaSample());
 }
 
 int DataManagerBase::currentMethodId() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/enginedatainterface.h"
+#include "models/concentrationcalc.h"
 #include "models/methodmodel.h"
 
 #include <QList>
@@ -158,7 +159,7 @@ public:
     QString titrationQMLCoreVersion() const { return m_titrationQMLCoreVersion; }
     void setTitrationQMLCoreVersion(const QString &v);
     QString getTitrationCoreVersion() const { return m_titrationCoreVersion; }
-    void setTitrationCoreVersion(const QString &v) { m_titrationCoreVersion = v; }
+    void setTitrationCoreVersion(const QString &v) override { m_titrationCoreVersion = v; }
     QString mspQmlVersion() const { return m_mspQmlVersion; }
     void setMspQmlVersion(const QString &v);
     QString buildNumber() const { return m_buildNumber; }
@@ -180,8 +181,8 @@ public:
     int qmlStirSpeed() const override { return m_qmlStirSpeed; }
     void setQmlStirSpeed(int speed) override;
     int rinseCycles() const override { return m_rinseCycles; }
-    void setRinseCycles(int cycles);
-    int lastStartRinseCycles() const { return m_lastStartRinseCycles; }
+    void setRinseCycles(int cycles) override;
+    int lastStartRinseCycles() const override { return m_lastStartRinseCycles; }
     void setLastStartRinseCycles(int cycles) override { m_lastStartRinseCycles = cycles; }
     float probeTemp() const { return m_probeTemp; }
     void setProbeTemp(float t);
@@ -197,6 +198,26 @@ public:
 
 public slots:
     void titrationCompleted() override;
+
+    // The run's records, as the run controller asks for them.
+    void beginRunRecords() override;
+    float recordRunPoint(float volumeMl) override;
+    TitrationRecordParameters titrationRecordParameters() const override;
+    int displayBrightness() const override { return m_setup.displayBrightness; }
+    void notifyValueChanged() override { emit valueChanged(); }
+
+    // Multiple known addition: the method's sample and standard.
+    float getTotalSolutionVolume() const override;
+    float getMKAProcessCtrlConstant() const override;
+    float getMKAProcessCtrlMeasurement() const override;
+    float getMKAProcessCtrlPrecision() const override;
+    float getMKAStandardConcentration() const override;
+    float getMKABlank() const override;
+    float getMKASampleBasis() const override;
+    float mkaConvertResult(float molPerL) override;
+    void getSigMKAPointsToUI(QVariant volume, QVariant mV, QVariant calConc, QVariant precision, QVariant drift,
+                             QVariant slope, QVariant e0) override;
+    void getMKATitrationCompleted(QVariant conc, QVariant slope, QVariant spike) override;
     void updateProdType(const QString &prodType);
     void getLoadedMspVersion();
     bool isProbePresent() const { return m_temperatureProbePresent; }
@@ -262,12 +283,16 @@ private:
         float temperatureInput = 25.0f;
         float temperatureOffset = 0.0f;
         int currentMethodId = 99999;
+        int displayBrightness = 3;   // step 1 to 5
     };
     void loadSetupValues();
 
     // Steps of a finished run that belong to the record models.
     void bookRunResult(const std::array<double, 3> &volumesMl);
     void bookEndPointReadings(float ep1, float ep2);
+    void beginRunCycle();
+    void addRunPoint(float volumeMl, float value);
+    ConcentrationCalc::Sample mkaSample() const;
     // Ends a running fetch of a log list after its rows were deleted.
     void stopLogFetch(const QString &process);
 

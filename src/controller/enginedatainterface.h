@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 #include <array>
 
@@ -111,6 +112,21 @@ public:
     // The console text pipe.
     virtual void sendToConsole(const QString &text) = 0;
     virtual bool getConsoleMes(QString *text) = 0;
+
+    // Multiple known addition: the sample and the standard of the method.
+    virtual float getTotalSolutionVolume() const = 0;        // V0, mL
+    virtual float getMKAProcessCtrlConstant() const = 0;     // ΔE of "User Defined", mV
+    virtual float getMKAProcessCtrlMeasurement() const = 0;  // dE/dt of "User Defined", mV/min
+    virtual float getMKAProcessCtrlPrecision() const = 0;    // required precision, percent
+    virtual float getMKAStandardConcentration() const = 0;   // the standard, mol/L
+    virtual float getMKABlank() const = 0;                   // mol/L; 0 unless entered by hand
+    virtual float getMKASampleBasis() const = 0;
+    // A concentration in mol/L in the method's result unit.
+    virtual float mkaConvertResult(float molPerL) = 0;
+    // Each addition of a known-addition run, and its end.
+    virtual void getSigMKAPointsToUI(QVariant volume, QVariant mV, QVariant calConc, QVariant precision,
+                                     QVariant drift, QVariant slope, QVariant e0) = 0;
+    virtual void getMKATitrationCompleted(QVariant conc, QVariant slope, QVariant spike) = 0;
 
     // The engine's cyclic logs ("titration" and "rawTitration").
     virtual LogManager *titrationLogFile() = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/enginedatainterface.h"
+#include "models/concentrationcalc.h"
 
 #include <memory>
 #include <utility>
@@ -54,6 +55,16 @@ public:
     int brightness = 80;
     QString coreVersion;
     int valueChangedCount = 0;
+
+    // Multiple known addition.
+    float totalSolutionVolume = 50.f;
+    float mkaConstant = 18.f;
+    float mkaMeasurement = 3.f;
+    float mkaPrecision = 2.f;
+    float mkaStandard = 0.1f;
+    float mkaBlank = 0.f;
+    ConcentrationCalc::Sample mkaSample;   // result unit and sample amount
+    float servingSize = 1.f;
 
     QString deviceMode() const override { return mode; }
     void setDeviceMode(const QString &m) override { mode = m; }
@@ -118,6 +129,29 @@ public:
     int displayBrightness() const override { return brightness; }
     void setTitrationCoreVersion(const QString &v) override { coreVersion = v; }
     void notifyValueChanged() override { ++valueChangedCount; }
+
+    float getTotalSolutionVolume() const override { return totalSolutionVolume; }
+    float getMKAProcessCtrlConstant() const override { return mkaConstant; }
+    float getMKAProcessCtrlMeasurement() const override { return mkaMeasurement; }
+    float getMKAProcessCtrlPrecision() const override { return mkaPrecision; }
+    float getMKAStandardConcentration() const override { return mkaStandard; }
+    float getMKABlank() const override { return mkaBlank; }
+    float getMKASampleBasis() const override { return ConcentrationCalc::mkaSampleBasis(mkaSample, servingSize); }
+    void getSigMKAPointsToUI(QVariant volume, QVariant mV, QVariant calConc, QVariant precision, QVariant drift,
+                             QVariant slope, QVariant e0) override
+    {
+        mkaPoints.push_back({volume.toDouble(), mV.toDouble(), calConc.toDouble(), precision.toDouble(),
+                             drift.toDouble(), slope.toDouble(), e0.toDouble()});
+    }
+    void getMKATitrationCompleted(QVariant conc, QVariant slope, QVariant spike) override
+    {
+        mkaResult = {conc.toDouble(), slope.toDouble(), spike.toDouble()};
+        ++mkaCompletedCount;
+    }
+    std::vector<std::array<double, 7>> mkaPoints;
+    std::array<double, 3> mkaResult{{0, 0, 0}};
+    int mkaCompletedCount = 0;
+    float mkaConvertResult(float molPerL) override { return ConcentrationCalc::mkaConvertResult(molPerL, mkaSample); }
 
     void sendToConsole(const QString &text) override;
     bool getConsoleMes(QString *text) override;

@@ -1,5 +1,7 @@
 #include "controller/titrationcontroller.h"
 
+#include "controller/algorithms/titrationalgmka.h"
+
 #include "controller/algorithms/algorithmfactory.h"
 #include "controller/algorithms/temporaldatastore.h"
 #include "controller/algorithms/titrationalgorithmbase.h"
@@ -104,6 +106,7 @@ void TitrationController::startTitration()
     if (m_algorithm || m_temporal || m_volumetric) {
         qDebug() << "startTitration: the objects of an earlier run are released first";
         disconnect(bc, nullptr, m_algorithm, nullptr);
+        disconnect(m_algorithm, nullptr, nullptr, nullptr);
         releaseRunObjects();
     }
     m_state = TITRATION_STATE_STARTUP;
@@ -114,6 +117,17 @@ void TitrationController::startTitration()
     m_algorithm = AlgorithmFactory::create(technique, m_temporal, m_volumetric);
     if (AlgorithmFactory::feedsCurve(technique))
         connect(m_volumetric, &DataStoreBase::NewDataReceived, this, &TitrationController::volDataUpdated);
+    if (auto *mka = qobject_cast<TitrationAlgMKA *>(m_algorithm)) {
+        // The chart and the records of a known-addition run are fed by its own two signals.
+        connect(mka, &TitrationAlgMKA::sigMKAPointsToUI, mka,
+                [](QVariant volume, QVariant mV, QVariant calConc, QVariant precision, QVariant drift,
+                   QVariant slope, QVariant e0) {
+                    EngineData::get()->getSigMKAPointsToUI(volume, mV, calConc, precision, drift, slope, e0);
+                });
+        connect(mka, &TitrationAlgMKA::sigMKACompleteToUI, mka, [](QVariant conc, QVariant slope, QVariant spike) {
+            EngineData::get()->getMKATitrationCompleted(conc, slope, spike);
+        });
+    }
 
     connect(bc, &BuretteController::backendDispenseCompleted, m_algorithm,
             &TitrationAlgorithmBase::dispenseComplete);
@@ -151,6 +165,7 @@ void TitrationController::stopTitration()
     if (m_algorithm) {
         writeReasonForEnd();
         disconnect(bc, nullptr, m_algorithm, nullptr);
+        disconnect(m_algorithm, nullptr, nullptr, nullptr);
     }
     if (m_volumetric)
         disconnect(m_volumetric, nullptr, this, nullptr);

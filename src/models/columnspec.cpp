@@ -88,38 +88,55 @@ void ColumnTable::bindFrom(const QObject *model, QSqlQuery &query, const QString
     }
 }
 
-void ColumnTable::loadInto(QObject *model, const QSqlRecord &record) const
+namespace {
+
+// Writes a stored value into a property, converted to the property's type.
+void assign(QObject *model, const char *property, const QVariant &v)
 {
     const QMetaObject *meta = model->metaObject();
+    const int index = meta->indexOfProperty(property);
+    if (index < 0)
+        return;
+    QVariant converted;
+    switch (meta->property(index).userType()) {
+    case QMetaType::Float:
+        converted = QVariant::fromValue(v.toFloat());
+        break;
+    case QMetaType::Double:
+        converted = v.toDouble();
+        break;
+    case QMetaType::Int:
+        converted = v.toInt();
+        break;
+    case QMetaType::Bool:
+        converted = v.toInt() != 0;
+        break;
+    case QMetaType::QDateTime:
+        converted = v.toDateTime();
+        break;
+    default:
+        converted = v.toString();
+        break;
+    }
+    meta->property(index).write(model, converted);
+}
+
+} // namespace
+
+void ColumnTable::loadInto(QObject *model, const QSqlRecord &record) const
+{
     for (const ColumnSpec &c : m_columns) {
         const int field = record.indexOf(QString::fromLatin1(c.column));
-        if (field < 0)
-            continue;
-        const int index = meta->indexOfProperty(c.property);
-        if (index < 0)
-            continue;
-        const QVariant v = record.value(field);
-        QVariant converted;
-        switch (meta->property(index).userType()) {
-        case QMetaType::Float:
-            converted = QVariant::fromValue(v.toFloat());
-            break;
-        case QMetaType::Double:
-            converted = v.toDouble();
-            break;
-        case QMetaType::Int:
-            converted = v.toInt();
-            break;
-        case QMetaType::Bool:
-            converted = v.toInt() != 0;
-            break;
-        case QMetaType::QDateTime:
-            converted = v.toDateTime();
-            break;
-        default:
-            converted = v.toString();
-            break;
-        }
-        meta->property(index).write(model, converted);
+        if (field >= 0)
+            assign(model, c.property, record.value(field));
+    }
+}
+
+void ColumnTable::loadByPosition(QObject *model, const QSqlRecord &record, const QVector<int> &skip) const
+{
+    const int count = qMin(record.count(), m_columns.size());
+    for (int i = 0; i < count; ++i) {
+        if (!skip.contains(i))
+            assign(model, m_columns.at(i).property, record.value(i));
     }
 }

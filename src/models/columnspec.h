@@ -45,6 +45,9 @@ public:
     // Sets each property from the record, in column order, through the
     // property's setter; a column missing from the record is left alone.
     void loadInto(QObject *model, const QSqlRecord &record) const;
+    // The same by position: column i of the record is column i of the list,
+    // whatever its name; the positions in `skip` are left alone.
+    void loadByPosition(QObject *model, const QSqlRecord &record, const QVector<int> &skip = {}) const;
     const ColumnSpec *find(const QString &column) const;
 
 private:

@@ -4,7 +4,9 @@
 #include "models/dbutil.h"
 #include "models/electrodesetupmodel.h"
 #include "models/migrationframe.h"
+#include "models/concentrationcalc.h"
 #include "models/titrantsetupmodel.h"
+#include "models/titrationmodel.h"
 #include "models/titrationsetupmodel.h"
 
 #include <QDebug>
@@ -12,6 +14,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
+
+#include <cmath>
 
 const QString MethodModel::tableName = QStringLiteral("methodSetupTable");
 QStringList MethodModel::noMigrateList;
@@ -43,6 +47,13 @@ MethodModel::MethodModel(QObject *parent, bool ensureScratch)
     m_electrode = new ElectrodeSetupModel(this);
     m_titrant = new TitrantSetupModel(this);
     m_titration = new TitrationSetupModel(this);
+    m_run = new TitrationModel(this);
+    connect(m_run, &TitrationModel::runStored, this, [this](bool isTitration, const QString &when) {
+        if (isTitration)
+            setLastTitration(when);
+        else
+            setLastStandardization(when);
+    });
     m_titrant->setTitrantConcentrationValue(m_titrantConcentration);
     m_titration->setTitrantConcentration(m_titrantConcentration);
     m_titration->setBlankConcentration(m_blankConcentration);
@@ -442,4 +453,84 @@ void MethodModel::listToDb(const QVariantList &arr)
             entry->setId(id);
         }
     }
+}
+
+void MethodModel::titrationCompleted(const double resultUl[3], const QString &deviceMode, bool blankTitrationMode)
+{
+    static constexpr double uLtomL = 1000.0;
+    float volumes[3];
+    for (int i = 0; i < 3; ++i)
+        volumes[i] = ConcentrationCalc::finiteOrZero(resultUl[i] / uLtomL, "end-point volume");
+    updateTitrationCompletion(volumes, deviceMode, blankTitrationMode);
+}
+
+bool MethodModel::isStandardized(int methodId)
+{
+    QSqlQuery run;
+    run.prepare(QStringLiteral("SELECT * FROM titrationTable WHERE methodId = :id AND titrationType LIKE 'Standardization' "
+                               "order by datetime(mcreatedAt) DESC"));
+    run.bindValue(QStringLiteral(":id"), methodId);
+    if (!DbUtil::exec(run) || !run.next())
+        return false;
+    const QDateTime standardised = run.value(QStringLiteral("mupdatedAt")).toDateTime();
+    QSqlQuery titrant;
+    titrant.prepare(QStringLiteral("SELECT mupdatedAt FROM titrantSetupTable WHERE methodId = :id"));
+    titrant.bindValue(QStringLiteral(":id"), methodId);
+    if (!DbUtil::exec(titrant) || !titrant.next())
+        return true;
+    return standardised > titrant.value(0).toDateTime();
+}
+
+float MethodModel::titrantConcentrationForRun() const
+{
+    float conc = m_titrant->titrantConcentrationValue();
+    QString unit;
+    if (m_titrant->concInputMode() == QLatin1String("Manual Entry"))
+        unit = m_titrant->concInputMode_Unit();
+    else if (isStandardized(m_id))
+        unit = m_titrant->resultUnits();
+    else
+        unit = m_titrant->nominalConc_Unit();
+    if (unit == QLatin1String("mM"))
+        conc = static_cast<float>(static_cast<double>(conc) * 0.001);
+    return conc;
+}
+
+void MethodModel::updateTitrationCompletion(const float volumesMl[3], const QString &deviceMode, bool blank)
+{
+    if (deviceMode != QLatin1String("Titration")) {
+        const int index = qBound(0, m_titrant->noOfEndPoints() - 1, 2);
+        const float volume = volumesMl[index];
+        const float result = ConcentrationCalc::finiteOrZero(m_titrant->calculateTitrantConcentration(volume, m_id),
+                                                             "standardisation");
+        m_titrantConcentration = result;
+        emit valueChanged();
+        m_run->updateTitrationCompletion(result, volume);
+        return;
+    }
+
+    const float conc = titrantConcentrationForRun();
+    if (std::fabs(m_titration->titrantConcentration() - conc) > 1e-5f) {
+        qDebug() << " ******** ERROR:  titration-titrant-concentration did not have correct value ********";
+        qDebug() << " ******** corrected value: " << conc << " originally: " << m_titration->titrantConcentration();
+    }
+    m_titration->setTitrantConcentration(conc);
+
+    if (blank) {
+        const float volume = volumesMl[0];
+        const bool back = m_titration->titrationType() == QLatin1String("Back Titration");
+        const float ratio = back ? m_titration->titrantReactionRatio() : m_titration->reactionRatio();
+        const float blankMmol = ConcentrationCalc::blank(volume, conc, ratio);
+        m_blankConcentration = blankMmol;
+        emit valueChanged();
+        m_run->updateTitrationCompletion(blankMmol, volume);
+        return;
+    }
+
+    float results[3];
+    for (int i = 0; i < 3; ++i) {
+        qDebug() << "Endpoint " << i + 1 << volumesMl[i];
+        results[i] = m_titration->calculateResult(volumesMl[i]);
+    }
+    m_run->updateTitrationCompletion(results, volumesMl);
 }

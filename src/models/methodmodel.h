@@ -14,6 +14,7 @@
 class ElectrodeSetupModel;
 class TitrantSetupModel;
 class TitrationSetupModel;
+class TitrationModel;
 
 // One method: name, password and the three setup parts (electrode, titrant,
 // titration), each one row keyed by the method's id. The row 99999 is the
@@ -43,6 +44,7 @@ class MethodModel : public QObject
     Q_PROPERTY(ElectrodeSetupModel *electrodeSetupModel READ electrodeSetupModel CONSTANT)
     Q_PROPERTY(TitrantSetupModel *titrantSetupModel READ titrantSetupModel CONSTANT)
     Q_PROPERTY(TitrationSetupModel *titrationSetupModel READ titrationSetupModel CONSTANT)
+    Q_PROPERTY(TitrationModel *titrationModel READ titrationModel CONSTANT)
     Q_PROPERTY(QQmlListProperty<MethodModel> methods READ methods NOTIFY valueChanged)
 
 public:
@@ -77,6 +79,23 @@ public:
     ElectrodeSetupModel *electrodeSetupModel() const { return m_electrode; }
     TitrantSetupModel *titrantSetupModel() const { return m_titrant; }
     TitrationSetupModel *titrationSetupModel() const { return m_titration; }
+    // The run in progress of this method, with its cycles in memory.
+    TitrationModel *titrationModel() const { return m_run; }
+
+    // The end of a run: the engine's three end-point volumes in µL (a missing
+    // one is 0) become mL and go to updateTitrationCompletion. This is what
+    // the data layer's titrationCompleted() does with the run's results.
+    void titrationCompleted(const double resultUl[3], const QString &deviceMode, bool blankTitrationMode);
+    // Results of a finished cycle from the volumes in mL: a standardisation
+    // sets the titrant concentration, a blank run the blank, a titration
+    // the results at the three end points. Each goes to the current cycle.
+    void updateTitrationCompletion(const float volumesMl[3], const QString &deviceMode, bool blank);
+    // The titrant concentration in mol/L that a titration of this method
+    // uses, by the way the concentration is known and its unit.
+    float titrantConcentrationForRun() const;
+    // Whether the method's newest standardisation is newer than the last
+    // change of its titrant (true when the titrant has no row).
+    static bool isStandardized(int methodId);
 
     QQmlListProperty<MethodModel> methods();
     const QList<MethodModel *> &methodList() const { return m_methods; }
@@ -115,5 +134,6 @@ private:
     ElectrodeSetupModel *m_electrode = nullptr;
     TitrantSetupModel *m_titrant = nullptr;
     TitrationSetupModel *m_titration = nullptr;
+    TitrationModel *m_run = nullptr;
     QList<MethodModel *> m_methods;
 };

@@ -77,7 +77,8 @@ const ColumnTable &TitrationSetupModel::columnTable()
         {"threshold", "int", "threshold", ColumnSpec::AsNumber},
         {"avgConcentration", "varchar(30)", "avgConc", ColumnSpec::AsText},
         {"servingSize", "float", "servingSize", ColumnSpec::AsNumber},
-        {"servingUnit", "varchar(30)", "servingUnit", ColumnSpec::AsText},    });
+        {"servingUnit", "varchar(30)", "servingUnit", ColumnSpec::AsText},
+    });
     return table;
 }
 
@@ -142,7 +143,8 @@ void TitrationSetupModel::applyDefaults()
     setThreshold(100);
     setAvgConc(QString());
     setServingSize(1.0f);
-    setServingUnit(QStringLiteral("g"));    setIsTitrationChanged(false);
+    setServingUnit(QStringLiteral("g"));
+    setIsTitrationChanged(false);
     setFixedSampleVolumeValue(1.0f);
     setFixedSampleWeightValue(1.0f);
 }
@@ -327,7 +329,77 @@ void TitrationSetupModel::updateAvgConcentration(const QString &avg)
 float TitrationSetupModel::calculateBlankConcentration(float VtEP, int methodId)
 {
     Q_UNUSED(methodId)
-    return VtEP * m_titrantConcentration * m_reactionRatio;
+    return ConcentrationCalc::blank(VtEP, m_titrantConcentration, m_reactionRatio);
+}
+
+ConcentrationCalc::Sample TitrationSetupModel::sampleInputs() const
+{
+    ConcentrationCalc::Sample s;
+    s.resultUnits = m_resultUnits;
+    s.resultUnitsValue = m_resultUnitsValue;
+    s.sampleAmount = m_sampleAmount;
+    s.amount = m_sampleAmountValue;
+    s.density = m_sampleDensity;
+    s.molecularWeight = m_sampleMolecularWeight;
+    return s;
+}
+
+ConcentrationCalc::Direct TitrationSetupModel::directInputs(float volumeMl) const
+{
+    ConcentrationCalc::Direct d;
+    d.volume = volumeMl;
+    d.titrantConc = m_titrantConcentration;
+    d.reactionRatio = m_reactionRatio;
+    d.isReactionRatio = m_isReactionRatio;
+    d.blankRequired = m_blankRequired;
+    d.blankRequiredValue = m_blankRequiredValue;
+    d.blankConcentration = m_blankConcentration;
+    return d;
+}
+
+ConcentrationCalc::Back TitrationSetupModel::backInputs(float volumeMl) const
+{
+    ConcentrationCalc::Back b;
+    b.volume = volumeMl;
+    b.titrantConc = m_titrantConcentration;
+    b.titrantReactionRatio = m_titrantReactionRatio;
+    b.reagentReactionRatio = m_reagentReactionRatio;
+    b.reagentAmount = m_reagentAmount;
+    b.reagentAmountValue = m_reagentAmountValue;
+    b.blankConcentration = m_blankConcentration;
+    b.reagentConcentration = m_reagentConcentration;
+    b.reagentVolume = m_reagentVolume;
+    b.reagentWeight = m_reagentWeight;
+    b.reagentPurity = m_reagentPurity;
+    b.reagentMolecularWeight = m_reagentMolecularWeight;
+    return b;
+}
+
+float TitrationSetupModel::calculateConcentration(float volumeMl) const
+{
+    return ConcentrationCalc::directConcentration(sampleInputs(), directInputs(volumeMl));
+}
+
+float TitrationSetupModel::calculateBackConcentration(float volumeMl) const
+{
+    return ConcentrationCalc::backConcentration(sampleInputs(), backInputs(volumeMl));
+}
+
+float TitrationSetupModel::calculateResult(float volumeMl) const
+{
+    if (m_titrationType == QLatin1String("Back Titration"))
+        return calculateBackConcentration(volumeMl);
+    return calculateConcentration(volumeMl);
+}
+
+float TitrationSetupModel::mkaSampleBasis() const
+{
+    return ConcentrationCalc::mkaSampleBasis(sampleInputs(), m_servingSize);
+}
+
+float TitrationSetupModel::mkaConvertResult(float molPerL) const
+{
+    return ConcentrationCalc::mkaConvertResult(molPerL, sampleInputs());
 }
 
 void TitrationSetupModel::resetTitrationValues()

@@ -3,7 +3,10 @@
 #include "models/columnspec.h"
 #include "models/modelproperty.h"
 
+#include "models/concentrationcalc.h"
+
 #include <QDateTime>
+#include <QDebug>
 #include <QMap>
 #include <QObject>
 #include <QString>
@@ -61,16 +64,17 @@ class TitrationSetupModel : public QObject
     KESTRUM_MODEL_PROPERTY(float, titrantConcentration, setTitrantConcentration)
     KESTRUM_MODEL_PROPERTY(float, blankConcentration, setBlankConcentration)
     KESTRUM_MODEL_PROPERTY(QString, reagentWeightType, setReagentWeightType)
-    KESTRUM_MODEL_PROPERTY(float, deltaE, setDeltaE)
-    KESTRUM_MODEL_PROPERTY(float, deltaVmin, setDeltaVmin)
-    KESTRUM_MODEL_PROPERTY(float, deltaVmax, setDeltaVmax)
-    KESTRUM_MODEL_PROPERTY(float, stablityCriteria, setStablityCriteria)
-    KESTRUM_MODEL_PROPERTY(int, tMin, setTMin)
-    KESTRUM_MODEL_PROPERTY(int, tMax, setTMax)
+    KESTRUM_LOGGED_PROPERTY(float, deltaE, setDeltaE, "ΔE = ")
+    KESTRUM_LOGGED_PROPERTY(float, deltaVmin, setDeltaVmin, "ΔVmin = ")
+    KESTRUM_LOGGED_PROPERTY(float, deltaVmax, setDeltaVmax, "ΔVmax = ")
+    KESTRUM_LOGGED_PROPERTY(float, stablityCriteria, setStablityCriteria, "dE/dt = ")
+    KESTRUM_LOGGED_PROPERTY(int, tMin, setTMin, "tmin = ")
+    KESTRUM_LOGGED_PROPERTY(int, tMax, setTMax, "tMax = ")
     KESTRUM_MODEL_PROPERTY(int, threshold, setThreshold)
     KESTRUM_MODEL_PROPERTY(QString, avgConc, setAvgConc)
     KESTRUM_MODEL_PROPERTY(float, servingSize, setServingSize)
-    KESTRUM_MODEL_PROPERTY(QString, servingUnit, setServingUnit)    KESTRUM_MODEL_PROPERTY(bool, isTitrationChanged, setIsTitrationChanged)
+    KESTRUM_MODEL_PROPERTY(QString, servingUnit, setServingUnit)
+    KESTRUM_MODEL_PROPERTY(bool, isTitrationChanged, setIsTitrationChanged)
     KESTRUM_MODEL_PROPERTY(int, resultUnitsIndex, setResultUnitsIndex)
     KESTRUM_MODEL_PROPERTY(float, fixedSampleVolumeValue, setFixedSampleVolumeValue)
     KESTRUM_MODEL_PROPERTY(float, fixedSampleWeightValue, setFixedSampleWeightValue)
@@ -110,6 +114,20 @@ public:
     int makeIdUnique();
     // Stores the average shown on the summary screen.
     void updateAvgConcentration(const QString &avg);
+
+    // The inputs of the formulas, taken from the fields.
+    ConcentrationCalc::Sample sampleInputs() const;
+    ConcentrationCalc::Direct directInputs(float volumeMl) const;
+    ConcentrationCalc::Back backInputs(float volumeMl) const;
+    // The result of an end-point volume in mL by the direct formula, the back
+    // formula, or the one that `titrationType` names. Never infinite or NaN.
+    float calculateConcentration(float volumeMl) const;
+    float calculateBackConcentration(float volumeMl) const;
+    float calculateResult(float volumeMl) const;
+    // Multiple known addition: the sample basis, and a result in mol/L
+    // converted to the chosen unit.
+    float mkaSampleBasis() const;
+    float mkaConvertResult(float molPerL) const;
 
 public slots:
     void setTitrationSetupValues(const QString &electrodeType);

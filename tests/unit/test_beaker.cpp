@@ -197,3 +197,24 @@ TEST(Buffer, ReadsItsPHWithTheElectrodesOffsetAndSlope)
                                   25.0, 0.0, 100.0, &error));
     EXPECT_FALSE(error.isEmpty());
 }
+
+TEST(ScenarioFile, KnownAdditionScenariosRiseForCationsAndFallForAnions)
+{
+    // The shipped ion-selective scenarios serve a known-addition run: each
+    // standard addition moves the electrode by the Nernst step of the new
+    // concentration, up for a cation, down for an anion.
+    const QString dir = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/");
+    for (const char *name : {"sodium-ise.json", "chloride-ise.json"}) {
+        Scenario s;
+        QString error;
+        ASSERT_TRUE(Scenario::load(dir + QLatin1String(name), &s, &error)) << name << error.toStdString();
+        const IseBeaker *ise = dynamic_cast<const IseBeaker *>(s.beaker.get());
+        ASSERT_NE(ise, nullptr) << name;
+        const double sign = QLatin1String(name).startsWith(QLatin1String("sodium")) ? 1.0 : -1.0;
+        const double step = ise->potentialMv(1.0) - ise->potentialMv(0.0);
+        const double slope = step / std::log10(ise->concentration(1.0) / ise->concentration(0.0));
+        EXPECT_GT(slope * sign, 0.9 * Beaker::nernstSlope(25.0)) << name;
+        EXPECT_LE(slope * sign, Beaker::nernstSlope(25.0)) << name;
+        EXPECT_GT(step * sign, 1.0) << name;
+    }
+}

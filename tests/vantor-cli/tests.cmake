@@ -26,6 +26,7 @@ if(NOT KESTRUM_ASAN)
     ${asan_dir}/system/platform.cpp
     ${asan_dir}/system/clock.cpp
     ${asan_dir}/reports/logmanager.cpp
+    ${asan_dir}/models/concentrationcalc.cpp
     ${PROJECT_SOURCE_DIR}/tools/virtual-instrument/beaker.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../common/testsupport.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../main/gtest_qt_main.cpp

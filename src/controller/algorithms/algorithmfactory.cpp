@@ -1,8 +1,8 @@
 #include "controller/algorithms/algorithmfactory.h"
 
+#include "controller/algorithms/titrationalgendpoint.h"
 #include "controller/algorithms/titrationalgmillivolt.h"
-
-#include <QDebug>
+#include "controller/algorithms/titrationalgmka.h"
 
 namespace AlgorithmFactory {
 
@@ -11,15 +11,13 @@ TitrationAlgorithmBase *create(int technique, TemporalDataStore *temporal, Volum
 {
     switch (technique) {
     case PresetEndPoint:
-        qDebug() << "Technique \"Preset End Pt.\" is not yet available; titrating to the equivalence point";
-        break;
+        return new TitrationAlgEndPoint(temporal, volumetric, parent);
     case MultipleKnownAddition:
-        qDebug() << "Technique \"Multiple Known Addition\" is not yet available; titrating to the equivalence point";
-        break;
+        return new TitrationAlgMKA(temporal, volumetric, parent);
     default:
-        break;
+        // "Equivalence Pt." and "Engineering Basic pH"
+        return new TitrationAlgMillivolt(temporal, volumetric, parent);
     }
-    return new TitrationAlgMillivolt(temporal, volumetric, parent);
 }
 
 bool feedsCurve(int technique)
