@@ -14,7 +14,7 @@ STARTUP_NS = 1e9
 BUDGETS = {
     "bench_meter": (SAMPLE_BUDGET_NS, "per sample"),
     "bench_stores": (SAMPLE_BUDGET_NS, "per sample"),
-    "bench_algorithm": (SAMPLE_BUDGET_NS, "per sample"),
+    "bench_engine": (SAMPLE_BUDGET_NS, "per sample"),
     "bench_algorithms": (SAMPLE_BUDGET_NS, "per sample"),
     "bench_logs": (TICK_NS, "one tick"),
     "bench_startup": (STARTUP_NS, "start-up"),
