@@ -85,26 +85,31 @@ ChildResult runChild(const QString &sandbox)
     return r;
 }
 
-// A sandbox whose database the first start has made.
-bool prepareStartedSandbox(const QTemporaryDir &dir)
+// A sandbox whose database the first start has made, shared by the
+// benchmarks of this program; "" when the child did not come up.
+QString startedSandbox()
 {
-    if (!dir.isValid())
-        return false;
-    runChild(dir.path());
-    const ChildResult second = runChild(dir.path());
-    return second.ok && second.state == QLatin1String("ok");
+    static QTemporaryDir dir;
+    static const bool ready = [] {
+        if (!dir.isValid())
+            return false;
+        runChild(dir.path());
+        const ChildResult second = runChild(dir.path());
+        return second.ok && second.state == QLatin1String("ok");
+    }();
+    return ready ? dir.path() : QString();
 }
 
 // Inside the process: what the back end costs from main() on.
 void BM_StartupBackEnd(benchmark::State &state)
 {
-    QTemporaryDir dir;
-    if (!prepareStartedSandbox(dir)) {
+    const QString sandbox = startedSandbox();
+    if (sandbox.isEmpty()) {
         state.SkipWithError("the start-up child did not come up");
         return;
     }
     for (auto _ : state) {
-        const ChildResult r = runChild(dir.path());
+        const ChildResult r = runChild(sandbox);
         if (!r.ok || r.state != QLatin1String("ok")) {
             state.SkipWithError("the start-up child failed");
             return;
@@ -118,14 +123,14 @@ BENCHMARK(BM_StartupBackEnd)->UseManualTime()->Unit(benchmark::kMillisecond);
 // and the exit.
 void BM_StartupProcess(benchmark::State &state)
 {
-    QTemporaryDir dir;
-    if (!prepareStartedSandbox(dir)) {
+    const QString sandbox = startedSandbox();
+    if (sandbox.isEmpty()) {
         state.SkipWithError("the start-up child did not come up");
         return;
     }
     for (auto _ : state) {
         const auto t0 = std::chrono::steady_clock::now();
-        const ChildResult r = runChild(dir.path());
+        const ChildResult r = runChild(sandbox);
         const auto t1 = std::chrono::steady_clock::now();
         if (!r.ok) {
             state.SkipWithError("the start-up child failed");
