@@ -55,22 +55,28 @@ TEST(Soak, ThreeRunsInOneProcessEachRightWithTheirDescriptorsGivenBack)
     EXPECT_EQ(text.count(QStringLiteral("Reason for end: Reached final equivalence point at count: 1\n")), 3);
 
     const QRegularExpression resources(
-        QStringLiteral("Run ([0-9]+) of 3: peak resident kB ([0-9]+), heap kB ([0-9]+), open files ([0-9]+)\n"));
+        QStringLiteral("Run ([0-9]+) of 3: peak resident kB ([0-9]+), heap kB ([0-9]+), open files ([0-9]+), log files ([0-9]+)\n"));
     QList<int> runs;
     QList<int> files;
+    QList<int> logFiles;
     for (auto it = resources.globalMatch(text); it.hasNext();) {
         const QRegularExpressionMatch m = it.next();
         runs << m.captured(1).toInt();
         EXPECT_GT(m.captured(2).toInt(), 0);
         EXPECT_GT(m.captured(3).toInt(), 0);
         files << m.captured(4).toInt();
+        logFiles << m.captured(5).toInt();
     }
     ASSERT_EQ(runs, (QList<int>{1, 2, 3})) << text.toStdString();
     // Slave link, pseudo-terminal and logs of a run are closed with it.
     EXPECT_EQ(files.at(1), files.at(0));
     EXPECT_EQ(files.at(2), files.at(0));
 
-    // One file per run in each ring of the run, all in the one sandbox.
+    // Every run adds the same files to the rings of the one sandbox.
+    EXPECT_GT(logFiles.at(0), 0);
+    EXPECT_EQ(logFiles.at(1), 2 * logFiles.at(0));
+    EXPECT_EQ(logFiles.at(2), 3 * logFiles.at(0));
+    // One file per run in each ring of the run.
     const QString logs = sandbox.path() + QStringLiteral("/var/Kestrum/log/logFiles/");
     EXPECT_EQ(filesIn(logs + QStringLiteral("titrationLogs")), 3);
     EXPECT_EQ(filesIn(logs + QStringLiteral("rawTitrationLogs")), 3);

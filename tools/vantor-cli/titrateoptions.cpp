@@ -57,7 +57,8 @@ QString TitrateOptions::usage()
         "  --timeout S              give up after this many seconds of wall time (default 600)\n"
         "  --sandbox DIR            keep the run's logs below DIR (default: a temporary folder)\n"
         "  --runs N                 titrate N times back to back in this process, each run followed\n"
-        "                           by a line with the process's peak memory, heap and open files\n"
+        "                           by a line with the process's peak memory, heap, open files\n"
+        "                           and the number of cyclic log files\n"
         "  --verbose                show the engine's trail on standard error\n");
 }
 

@@ -16,6 +16,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -69,6 +70,19 @@ QString summaryOf(const QString &log)
     return text;
 }
 
+// The files of every cyclic log below the log root, the rings' index files
+// not counted.
+int logFileCount()
+{
+    int n = 0;
+    QDirIterator it(LogManager::logRoot(), {QStringLiteral("*.txt")}, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        if (QFileInfo(it.next()).fileName() != QLatin1String("nextFileNum.txt"))
+            ++n;
+    }
+    return n;
+}
+
 } // namespace
 
 TitrateRunner::TitrateRunner(const TitrateOptions &options)
@@ -99,7 +113,8 @@ int TitrateRunner::run(QTextStream &out, QTextStream &err)
         if (m_options.runs > 1) {
             out << "Run " << run << " of " << m_options.runs << ": peak resident kB "
                 << ProcessResources::peakResidentKb() << ", heap kB " << ProcessResources::heapInUseKb()
-                << ", open files " << ProcessResources::openFileDescriptors() << "\n";
+                << ", open files " << ProcessResources::openFileDescriptors() << ", log files "
+                << logFileCount() << "\n";
             out.flush();
         }
     }
