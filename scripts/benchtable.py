@@ -32,9 +32,9 @@ WHAT = {
     "BM_Fit5": "maths: one five-point cubic fit",
     "BM_VolumeAtValue": "maths: volume at a reading (end-point interpolation)",
     "BM_AlgorithmRunStep": "algorithm: one run() step, equivalence point, mean over whole runs",
-    "BM_AlgorithmRunStep:slowest": "algorithm: slowest run() step seen in a repetition",
+    "BM_AlgorithmRunStep:slowest": "algorithm: slowest run() step of a repetition, CPU time",
     "BM_EngineSample": "engine: temporal store point + run() step",
-    "BM_EngineSample:slowest": "engine: slowest sample seen in a repetition",
+    "BM_EngineSample:slowest": "engine: slowest sample of a repetition, CPU time",
     "BM_AlgorithmGetResults": "algorithm: getResults() with its fits, two end points",
     "BM_KnownAdditionFit": "MKA: one Nernst fit of a known-addition run",
     "BM_EndPointRunStep": "algorithm: one run() step, preset end point",
@@ -67,12 +67,14 @@ def main():
         for b in data.get("benchmarks", []):
             if b.get("run_type") != "aggregate":
                 continue
-            name = b["run_name"]
-            scale = UNIT_NS[b.get("time_unit", "ns")]
+            name = b["run_name"].replace("/manual_time", "")
+            aggregate = b["aggregate_name"]
+            # The coefficient of variation is a fraction, the others times.
+            scale = 1.0 if aggregate == "cv" else UNIT_NS[b.get("time_unit", "ns")]
             entry = by_name.setdefault(name, {})
-            entry[b["aggregate_name"]] = b["real_time"] * scale
-            if "slowest_us" in b:
-                entry.setdefault("slowest", {})[b["aggregate_name"]] = b["slowest_us"] * 1e3
+            entry[aggregate] = b["real_time"] * scale
+            if "slowest_cpu_us" in b:
+                entry.setdefault("slowest", {})[aggregate] = b["slowest_cpu_us"] * (1.0 if aggregate == "cv" else 1e3)
             if b.get("error_occurred"):
                 entry["error"] = b.get("error_message", "error")
         for name, agg in by_name.items():
@@ -89,6 +91,9 @@ def main():
           f"{machine.get('compiler', '?')}, {machine.get('build', '?')} build; "
           f"load average at the end {machine.get('load', '?')}.")
     print()
+    print("Margin: the instrument's 250 ms clock over the median for the per-sample and per-tick figures "
+          "(per-sample figures need 1000×), the start-up budget over the median for the start-up.")
+    print()
     print("| Figure | Binary | Median | Spread (σ, cv) | Budget | Margin | |")
     print("|---|---|---:|---:|---:|---:|---|")
     for binary, name, median, stddev, cv, budget, kind, error in rows:
@@ -100,7 +105,8 @@ def main():
         if budget is None:
             print(f"| {what} | {binary} | {fmt(median)} | {spread} | — | — | |")
             continue
-        margin = budget / median if median > 0 else float("inf")
+        reference = STARTUP_NS if kind == "start-up" else TICK_NS
+        margin = reference / median if median > 0 else float("inf")
         verdict = "ok" if median <= budget else "OVER BUDGET"
         print(f"| {what} | {binary} | {fmt(median)} | {spread} | {fmt(budget)} ({kind}) | {margin:,.0f}× | {verdict} |")
 
