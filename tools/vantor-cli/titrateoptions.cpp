@@ -56,6 +56,9 @@ QString TitrateOptions::usage()
         "  --speed FACTOR           instrument clock this many times real time (default 50)\n"
         "  --timeout S              give up after this many seconds of wall time (default 600)\n"
         "  --sandbox DIR            keep the run's logs below DIR (default: a temporary folder)\n"
+        "  --runs N                 titrate N times back to back in this process, each run followed\n"
+        "                           by a line with the process's peak memory, heap, open files\n"
+        "                           and the number of cyclic log files\n"
         "  --verbose                show the engine's trail on standard error\n");
 }
 
@@ -76,8 +79,9 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
     const QCommandLineOption timeoutOpt(QStringLiteral("timeout"), QString(), QStringLiteral("S"));
     const QCommandLineOption sandboxOpt(QStringLiteral("sandbox"), QString(), QStringLiteral("DIR"));
     const QCommandLineOption verboseOpt(QStringLiteral("verbose"));
+    const QCommandLineOption runsOpt(QStringLiteral("runs"), QString(), QStringLiteral("N"));
     p.addOptions({scenarioOpt, replayOpt, techniqueOpt, endpointsOpt, endpointMvOpt, controlOpt, maxOpt,
-                  preDoseOpt, preStirOpt, speedOpt, timeoutOpt, sandboxOpt, verboseOpt});
+                  preDoseOpt, preStirOpt, speedOpt, timeoutOpt, sandboxOpt, verboseOpt, runsOpt});
 
     if (!p.parse(QStringList{QStringLiteral("titrate")} + arguments)) {
         *error = p.errorText();
@@ -168,6 +172,13 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
             return false;
         }
         timeoutS = int(v);
+    }
+    if (p.isSet(runsOpt)) {
+        if (!number(p.value(runsOpt), 1, 100000, &v) || v != std::floor(v)) {
+            *error = QStringLiteral("--runs must be a whole number between 1 and 100000");
+            return false;
+        }
+        runs = int(v);
     }
     sandbox = p.value(sandboxOpt);
     verbose = p.isSet(verboseOpt);

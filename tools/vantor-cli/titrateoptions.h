@@ -20,6 +20,7 @@ struct TitrateOptions
     int timeoutS = 600;        // of wall time
     QString sandbox;           // where logs go; a temporary folder if empty
     bool verbose = false;
+    int runs = 1;              // titrations back to back in one process
 
     bool parse(const QStringList &arguments, QString *error);
     static QString usage();

@@ -4,6 +4,7 @@
 #include "controller/enginedatastandin.h"
 #include "controller/mspcontroller.h"
 #include "controller/slaveclock.h"
+#include "processresources.h"
 #include "pseudoterminal.h"
 #include "reports/logmanager.h"
 #include "scenario.h"
@@ -15,6 +16,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -69,6 +71,19 @@ QString summaryOf(const QString &log)
     return text;
 }
 
+// The files of every cyclic log below the log root, the rings' index files
+// not counted.
+int logFileCount()
+{
+    int n = 0;
+    QDirIterator it(LogManager::logRoot(), {QStringLiteral("*.txt")}, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        if (QFileInfo(it.next()).fileName() != QLatin1String("nextFileNum.txt"))
+            ++n;
+    }
+    return n;
+}
+
 } // namespace
 
 TitrateRunner::TitrateRunner(const TitrateOptions &options)
@@ -87,12 +102,27 @@ int TitrateRunner::run(QTextStream &out, QTextStream &err)
     }
     Platform::setSandboxRoot(root);
     Platform::prepareSandbox();
-    const int status = runInSandbox(err);
+    bool allCompleted = true;
+    int status = 0;
+    for (int run = 1; run <= m_options.runs; ++run) {
+        m_outcome = Outcome();
+        status = runInSandbox(err);
+        if (status == 2)
+            break;
+        report(out);
+        allCompleted = allCompleted && m_outcome.completed;
+        if (m_options.runs > 1) {
+            out << "Run " << run << " of " << m_options.runs << ": peak resident kB "
+                << ProcessResources::peakResidentKb() << ", heap kB " << ProcessResources::heapInUseKb()
+                << ", open files " << ProcessResources::openFileDescriptors() << ", log files "
+                << logFileCount() << "\n";
+            out.flush();
+        }
+    }
     Platform::setSandboxRoot(previousRoot);
     if (status == 2)
         return status;
-    report(out);
-    return m_outcome.completed ? 0 : 1;
+    return allCompleted ? 0 : 1;
 }
 
 int TitrateRunner::runInSandbox(QTextStream &err)

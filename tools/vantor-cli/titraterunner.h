@@ -9,7 +9,9 @@
 class QTextStream;
 
 // Runs one titration for "vantor-cli titrate" with the engine's own objects:
-// slave link, burette, run controller and algorithm. A live run starts the
+// slave link, burette, run controller and algorithm. With --runs, as many
+// back to back in this process, the objects made afresh for each and the
+// process's resources reported after each. A live run starts the
 // virtual instrument in this process on a pseudo-terminal with the
 // scenario's beaker and its clock `speed` times real time; a replay puts the
 // curve where the simulation path plays it. The run's logs go to a sandbox.
