@@ -2,16 +2,19 @@
 // against the virtual instrument on a pseudo-terminal: its electrode in its
 // beaker, the titrant or standard delivered by its burette, noise on, every
 // clock twenty times faster than real time. The algorithm is driven as the
-// run controller does it, and its time follows the slave's time stamps.
+// run controller does it, and its time follows the slave's time stamps. The
+// data manager serves the method stored in a fresh database.
 #include "controller/algorithms/temporaldatastore.h"
 #include "beaker.h"
 #include "controller/algorithms/titrationalgendpoint.h"
 #include "controller/algorithms/titrationalgmka.h"
 #include "controller/algorithms/volumetricdatastore.h"
 #include "controller/burettecontroller.h"
-#include "controller/enginedatastandin.h"
 #include "controller/mspcontroller.h"
+#include "datamanagerbase.h"
+#include "models/methoddraft.h"
 #include "system/clock.h"
+#include "testdatabase.h"
 #include "testsupport.h"
 #include "virtualinstrumentprocess.h"
 
@@ -28,15 +31,10 @@ class TechniqueOnTheInstrument : public ::testing::Test
 protected:
     void SetUp() override
     {
-        EngineData::set(&dm);
+        TestDatabase::exec(QStringLiteral("PRAGMA synchronous=OFF"));
         Clock::setSource(&clock);
-        dm.technique = 3;
-        dm.electrode = 2;
-        dm.maxVolmL = 20.f;
-        dm.buretteSizeMl = 20.f;
-        dm.totalSolutionVolume = 50.f;
-        dm.mkaStandard = 0.1f;
-        dm.mkaSample.amount = 50.f;
+        dm = std::make_unique<DataManagerBase>();
+        dm->DataManagerLegacyInit();
     }
     void TearDown() override
     {
@@ -44,7 +42,18 @@ protected:
         msp.reset();
         vi.stop();
         Clock::setSource(nullptr);
-        EngineData::set(nullptr);
+        dm.reset();
+    }
+
+    // The method stored and made current, as the method screens do.
+    void useMethod(const MethodDraft &draft)
+    {
+        QString error;
+        const int id = draft.save(QStringLiteral("On the slave"), &error);
+        ASSERT_GT(id, 0) << error.toStdString();
+        dm->setupModel()->setCurrentMethodId(id);
+        dm->reInitializeMethodModel(id);
+        dm->setDeviceMode(DataManagerBase::modeTitration);
     }
 
     void start(const QString &scenario)
@@ -85,9 +94,9 @@ protected:
             }
             if (algorithm.isFinished())
                 return;
-            if (dm.dispenseInProgress)
+            if (dm->getDispenseInProgress())
                 waitDispense = false;
-            if (!dm.dispenseInProgress && waitDispense)
+            if (!dm->getDispenseInProgress() && waitDispense)
                 return;
             const unsigned int dose = algorithm.run();
             if (dose > 0) {
@@ -100,7 +109,8 @@ protected:
         QObject::disconnect(bc.get(), nullptr, &algorithm, nullptr);
     }
 
-    EngineDataStandIn dm;
+    TestDatabase db;
+    std::unique_ptr<DataManagerBase> dm;
     ManualClock clock;
     VirtualInstrumentProcess vi;
     std::unique_ptr<mspController> msp;
@@ -109,6 +119,17 @@ protected:
 
 TEST_F(TechniqueOnTheInstrument, SodiumSampleWithinTwoPercent)
 {
+    // 50 mL of sample, all of the beaker, and a 0.1 mol/L standard.
+    MethodDraft draft;
+    draft.electrodeType = QStringLiteral("ISE-MKA");
+    draft.iseType = QStringLiteral("Sodium");
+    draft.technique = QStringLiteral("Multiple Known Addition");
+    draft.titrantMolPerL = 0.1f;
+    draft.totalSolutionMl = 50.f;
+    draft.sampleMl = 50.f;
+    useMethod(draft);
+    ASSERT_EQ(dm->getTitrationTechnique(), 3);
+    ASSERT_EQ(dm->getElectrode(), 2);
     start(QStringLiteral(R"({"burette_mL":20,
         "electrode":{"E0_mV":250,"slope_pct":98,"tau_s":2.0,"noise_mV":0.05},
         "beaker":{"kind":"ise","volume_mL":50,"ion":{"charge":1,"conc_mol_L":0.001},
@@ -130,9 +151,11 @@ TEST_F(TechniqueOnTheInstrument, HydrochloricAcidToAPresetMillivoltValue)
 {
     // 5 mL of 0.1 mol/L HCl in 50 mL with 0.1 mol/L NaOH, to -118 mV, about
     // pH 9 on the ideal electrode of the scenario.
-    dm.technique = 0;
-    dm.electrode = 0;
-    dm.endpoint[0] = -118.f;
+    MethodDraft draft;
+    draft.technique = QStringLiteral("Preset End Pt.");
+    draft.endPointMv[0] = -118.f;
+    useMethod(draft);
+    ASSERT_EQ(dm->getTitrationTechnique(), 0);
     start(QStringLiteral(R"({"burette_mL":20,
         "electrode":{"E0_mV":0,"slope_pct":100,"tau_s":1.0,"noise_mV":0.05},
         "beaker":{"kind":"acid-base","volume_mL":50,

@@ -1,17 +1,21 @@
 // Whole runs of the run controller with the real link, burette and
 // algorithm against the virtual instrument on a pseudo-terminal, the
 // instrument's clock fifty times real time, the engine's clock following
-// the slave's time stamps. Also the console runner as a user calls it.
+// the slave's time stamps. The data manager serves the engine from a method
+// stored in a fresh database. Also the console runner as a user calls it.
 
 #include "controller/algorithms/temporaldatastore.h"
 #include "controller/algorithms/titrationalgorithmbase.h"
 #include "controller/algorithms/volumetricdatastore.h"
 #include "controller/burettecontroller.h"
-#include "controller/enginedatastandin.h"
 #include "controller/mspcontroller.h"
 #include "controller/slaveclock.h"
+#include "datamanagerbase.h"
+#include "datamigrator.h"
+#include "models/methoddraft.h"
 #include "reports/logmanager.h"
 #include "system/clock.h"
+#include "testdatabase.h"
 #include "testsupport.h"
 #include "titrationcontrollerbase.h"
 #include "virtualinstrumentprocess.h"
@@ -21,6 +25,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QSqlQuery>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -41,10 +46,10 @@ class TitrationRun : public ::testing::Test
 protected:
     void SetUp() override
     {
-        EngineData::set(&data);
-        data.technique = 1;
-        data.maxVolmL = 20.f;
-        data.buretteSizeMl = 20.f;
+        // The content of the file is not what these runs check.
+        TestDatabase::exec(QStringLiteral("PRAGMA synchronous=OFF"));
+        dm = std::make_unique<DataManagerBase>();
+        dm->DataManagerLegacyInit();
     }
     void TearDown() override
     {
@@ -54,11 +59,27 @@ protected:
         bc.reset();
         msp.reset();
         vi.stop();
-        EngineData::set(nullptr);
+        dm.reset();
     }
 
-    void start(const char *scenario = kAcetic)
+    // The method stored and made current as the method screens do, and the
+    // run begun as the run screen does. By default 10 mL of sample by
+    // equivalence point with 0.1 mol/L titrant, at most 20 mL.
+    void useMethod(const MethodDraft &draft)
     {
+        QString error;
+        const int id = draft.save(QStringLiteral("Acetic acid"), &error);
+        ASSERT_GT(id, 0) << error.toStdString();
+        dm->setupModel()->setCurrentMethodId(id);
+        dm->reInitializeMethodModel(id);
+        dm->setDeviceMode(DataManagerBase::modeTitration);
+        dm->titrationModel()->setCycleno(1);
+        dm->titrationModel()->setTitrationType(QStringLiteral("Titration"));
+    }
+
+    void start(const MethodDraft &draft = MethodDraft(), const char *scenario = kAcetic)
+    {
+        useMethod(draft);
         ASSERT_TRUE(vi.start(QString::fromUtf8(scenario), kSpeed)) << vi.errorText().toStdString();
         msp = std::make_unique<mspController>(vi.device());
         msp->setPollInterval(int(250 / kSpeed));
@@ -109,7 +130,8 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return msp->msp->isBuretteAtLoad(); }, 10000));
     }
 
-    EngineDataStandIn data;
+    TestDatabase db;
+    std::unique_ptr<DataManagerBase> dm;
     VirtualInstrumentProcess vi;
     std::unique_ptr<mspController> msp;
     std::unique_ptr<BuretteController> bc;
@@ -125,21 +147,26 @@ TEST_F(TitrationRun, AceticAcidEndsWithinHalfAPercentOfTheTrueVolume)
     QSignalSpy notification(tc.get(), &TitrationController::titrationNotification);
     QSignalSpy points(tc.get(), &TitrationControllerBase::newPoint);
     tc->qmlStartTitration();
-    EXPECT_EQ(data.runRecordsBegun, 1);
+    ASSERT_EQ(dm->titrationModel()->titrationCyclesCount(), 1) << "the run's cycle is begun";
     ASSERT_TRUE(waitUntil([&] { return completed.count() == 1; }, 60000)) << "the run must end";
 
-    const double found = data.results[0];
+    const double found = dm->getResultArray()[0];
     EXPECT_NEAR(found, 10000.0, 50.0) << "within 0.5 % of 10.00 mL";
-    EXPECT_EQ(data.completedCount, 1) << "the data layer took the results";
+    // The data manager took the results: the cycle holds the volume and the
+    // sample's concentration (10 mL of 0.1 mol/L acid).
+    ASSERT_EQ(dm->titrationModel()->titrationCyclesCount(), 1);
+    const TitrationCycleModel *cycle = dm->titrationModel()->titrationCycle(0);
+    EXPECT_NEAR(cycle->veqp(), found / 1000.0, 1e-3);
+    EXPECT_NEAR(cycle->calCon(), 0.1, 0.0005);
     EXPECT_EQ(reasonAtEnd, QStringLiteral("Reached final equivalence point at count: 1"));
     ASSERT_EQ(notification.count(), 1);
     EXPECT_FALSE(notification.at(0).at(0).toBool()) << "not stopped by the volume limit";
-    EXPECT_TRUE(data.cancelled) << "the normal end passes through the stop";
+    EXPECT_TRUE(dm->getTitrationCancelled()) << "the normal end passes through the stop";
     EXPECT_GT(points.count(), 10);
-    EXPECT_EQ(int(data.runPoints.size()), points.count());
+    EXPECT_EQ(cycle->graphPoints().count(QLatin1Char('(')), points.count()) << "every point is on the curve";
 
     // The summary as the run log and the console have it.
-    QFile logFile(data.titrationLogFile()->currentFileName());
+    QFile logFile(dm->titrationLogFile()->currentFileName());
     ASSERT_TRUE(logFile.open(QIODevice::ReadOnly));
     const QString log = QString::fromUtf8(logFile.readAll()); // line ends as written
     EXPECT_TRUE(log.contains(QStringLiteral("\r\nTitration Summary\r\nTotal Vol Dispensed (ul):")));
@@ -166,23 +193,24 @@ TEST_F(TitrationRun, CancelDuringTheHomingPollStartsNothing)
     ASSERT_TRUE(waitUntil([&] { return !tc->homePollPending(); }, 10000));
     EXPECT_FALSE(tc->preStirring());
     EXPECT_EQ(lastStirCommand(), 0) << "the stirrer was never started";
-    EXPECT_FALSE(data.stirrerOn);
+    EXPECT_FALSE(dm->qmlStirrerState());
     EXPECT_TRUE(runObjectsGone());
     expectBuretteReset();
 }
 
 TEST_F(TitrationRun, CancelDuringThePreStirStopsTheTimerAndTheStirrer)
 {
-    data.preStir = 60;
-    data.stirSpeedIndex = 4;
-    start();
+    MethodDraft draft;
+    draft.preStirS = 60;
+    draft.stirSpeed = QStringLiteral("Fast");
+    start(draft);
     tc->qmlStartTitration();
     ASSERT_TRUE(waitUntil([&] { return tc->preStirring(); }, 10000));
     EXPECT_EQ(lastStirCommand(), 4);
     tc->qmlStopTitration();
     EXPECT_FALSE(tc->preStirring());
     EXPECT_TRUE(waitUntil([&] { return lastStirCommand() == 0; }, 5000));
-    EXPECT_FALSE(data.stirrerOn);
+    EXPECT_FALSE(dm->qmlStirrerState());
     EXPECT_TRUE(runObjectsGone());
     expectBuretteReset();
     EXPECT_EQ(tc->state(), TitrationController::TITRATION_STATE_IDLE);
@@ -203,7 +231,7 @@ TEST_F(TitrationRun, CancelDuringTheRunReleasesEverything)
     EXPECT_TRUE(temporal.isNull());
     EXPECT_TRUE(volumetric.isNull());
     EXPECT_TRUE(waitUntil([&] { return lastStirCommand() == 0; }, 5000));
-    EXPECT_TRUE(data.cancelled);
+    EXPECT_TRUE(dm->getTitrationCancelled());
     expectBuretteReset();
     // No sample reaches the controller after the stop.
     const int samples = tc->sampleCount();
@@ -236,6 +264,10 @@ TEST(VantorCli, TitratesTheAceticAcidScenario)
     const QRegularExpressionMatch m = ep.match(text);
     ASSERT_TRUE(m.hasMatch()) << text.toStdString();
     EXPECT_NEAR(m.captured(1).toDouble(), 10000.0, 50.0);
+    // 10 mL of sample unless told otherwise: the acid's 0.1 mol/L.
+    const QRegularExpressionMatch r = QRegularExpression(QStringLiteral("\nResult: ([0-9.e-]+) M\n")).match(text);
+    ASSERT_TRUE(r.hasMatch()) << text.toStdString();
+    EXPECT_NEAR(r.captured(1).toDouble(), 0.1, 0.0005);
     EXPECT_TRUE(text.contains(QStringLiteral("Reason for end: Reached final equivalence point at count: 1\n")));
     EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("Doses: [1-9][0-9]*\n"))));
     EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("Duration \\(s\\): [0-9]+\\.[0-9]\n"))));
@@ -260,6 +292,54 @@ TEST(VantorCli, KnownAdditionReportsTheSampleConcentration)
         QRegularExpression(QStringLiteral("Electrode slope \\(mV/decade\\): ([0-9.]+)\n")).match(text);
     ASSERT_TRUE(s.hasMatch()) << text.toStdString();
     EXPECT_NEAR(s.captured(1).toDouble(), 57.98, 1.0);
+    const QRegularExpressionMatch r = QRegularExpression(QStringLiteral("\nResult: ([0-9.e-]+) M\n")).match(text);
+    ASSERT_TRUE(r.hasMatch()) << text.toStdString();
+    EXPECT_DOUBLE_EQ(r.captured(1).toDouble(), c.captured(1).toDouble());
+}
+
+// A method stored in the sandbox's database beforehand (20 mL of sample)
+// runs by name, and its run and log entry land in that file.
+TEST(VantorCli, RunsAStoredMethodByNameAndStoresItsRun)
+{
+    TestDatabase db;
+    // A new file gets its version row on the application's second start.
+    DataMigrator::dmPtr()->migrate();
+    ASSERT_TRUE(DataMigrator::dmPtr()->migrate());
+    MethodDraft draft;
+    draft.sampleMl = 20.f;
+    QString error;
+    const int id = draft.save(QStringLiteral("Acetic 20 mL"), &error);
+    ASSERT_GT(id, 0) << error.toStdString();
+    db.close();
+    const QString root = Platform::sandboxRoot();
+    const QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json");
+
+    int code = 0;
+    QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"),
+                           QStringLiteral("Acetic 21 mL"), QStringLiteral("--sandbox"), root},
+                          &code);
+    EXPECT_EQ(code, 2) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("no method \"Acetic 21 mL\""))) << text.toStdString();
+
+    text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"),
+                   QStringLiteral("Acetic 20 mL"), QStringLiteral("--sandbox"), root, QStringLiteral("--speed"),
+                   QStringLiteral("50")},
+                  &code);
+    EXPECT_EQ(code, 0) << text.toStdString();
+    const QRegularExpressionMatch r = QRegularExpression(QStringLiteral("\nResult: ([0-9.e-]+) M\n")).match(text);
+    ASSERT_TRUE(r.hasMatch()) << text.toStdString();
+    EXPECT_NEAR(r.captured(1).toDouble(), 0.05, 0.00025) << "1 mmol of acid in 20 mL";
+
+    ASSERT_TRUE(db.open());
+    QSqlQuery run;
+    ASSERT_TRUE(run.exec(QStringLiteral("SELECT c.calCon FROM titrationTable t JOIN titrationCycleTable c "
+                                        "ON c.titrationId = t.id WHERE t.methodId = %1").arg(id)));
+    ASSERT_TRUE(run.next()) << "the run and its cycle are stored under the method";
+    EXPECT_NEAR(run.value(0).toDouble(), r.captured(1).toDouble(), 1e-6);
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("titrationLogTable"),
+                                     QStringLiteral("methodName = 'Acetic 20 mL'")), 1);
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("methodSetupTable"), QStringLiteral("id != 99999")), 1)
+        << "no method of the options was added";
 }
 
 TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
@@ -282,6 +362,10 @@ TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
         {QStringLiteral("titrate"), QStringLiteral("--replay"), QStringLiteral("/nonexistent/curve.txt")},
         {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--technique"),
          QStringLiteral("Multiple Known Addition")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"), QStringLiteral("A")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"), QStringLiteral("A"),
+         QStringLiteral("--sandbox"), QStringLiteral("/tmp"), QStringLiteral("--endpoints"), QStringLiteral("2")},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--sample-ml"), QStringLiteral("0")},
     };
     for (const QStringList &args : bad) {
         int code = 0;

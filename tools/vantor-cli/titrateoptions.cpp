@@ -53,6 +53,9 @@ QString TitrateOptions::usage()
         "  --max-volume-ml V        largest total dose (default 20)\n"
         "  --predose-ml V           dose given at once before titrating (default 0)\n"
         "  --prestir S              seconds of stirring before the run (default 0; 2 s are always added)\n"
+        "  --sample-ml V            the sample's volume, for the result (default 10)\n"
+        "  --method NAME            run the method of that name stored in the sandbox's database\n"
+        "                           (needs --sandbox; replaces the method options above)\n"
         "  --speed FACTOR           instrument clock this many times real time (default 50)\n"
         "  --timeout S              give up after this many seconds of wall time (default 600)\n"
         "  --sandbox DIR            keep the run's logs below DIR (default: a temporary folder)\n"
@@ -75,13 +78,16 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
     const QCommandLineOption maxOpt(QStringLiteral("max-volume-ml"), QString(), QStringLiteral("V"));
     const QCommandLineOption preDoseOpt(QStringLiteral("predose-ml"), QString(), QStringLiteral("V"));
     const QCommandLineOption preStirOpt(QStringLiteral("prestir"), QString(), QStringLiteral("S"));
+    const QCommandLineOption sampleOpt(QStringLiteral("sample-ml"), QString(), QStringLiteral("V"));
+    const QCommandLineOption methodOpt(QStringLiteral("method"), QString(), QStringLiteral("NAME"));
     const QCommandLineOption speedOpt(QStringLiteral("speed"), QString(), QStringLiteral("FACTOR"));
     const QCommandLineOption timeoutOpt(QStringLiteral("timeout"), QString(), QStringLiteral("S"));
     const QCommandLineOption sandboxOpt(QStringLiteral("sandbox"), QString(), QStringLiteral("DIR"));
     const QCommandLineOption verboseOpt(QStringLiteral("verbose"));
     const QCommandLineOption runsOpt(QStringLiteral("runs"), QString(), QStringLiteral("N"));
     p.addOptions({scenarioOpt, replayOpt, techniqueOpt, endpointsOpt, endpointMvOpt, controlOpt, maxOpt,
-                  preDoseOpt, preStirOpt, speedOpt, timeoutOpt, sandboxOpt, verboseOpt, runsOpt});
+                  preDoseOpt, preStirOpt, sampleOpt, methodOpt, speedOpt, timeoutOpt, sandboxOpt, verboseOpt,
+                  runsOpt});
 
     if (!p.parse(QStringList{QStringLiteral("titrate")} + arguments)) {
         *error = p.errorText();
@@ -159,6 +165,13 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
         }
         preStirS = int(v);
     }
+    if (p.isSet(sampleOpt)) {
+        if (!number(p.value(sampleOpt), 0.001, 1000, &v)) {
+            *error = QStringLiteral("--sample-ml must be above 0 and at most 1000");
+            return false;
+        }
+        sampleMl = float(v);
+    }
     if (p.isSet(speedOpt)) {
         if (!number(p.value(speedOpt), 0.1, 1000, &v)) {
             *error = QStringLiteral("--speed must be between 0.1 and 1000");
@@ -182,5 +195,24 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
     }
     sandbox = p.value(sandboxOpt);
     verbose = p.isSet(verboseOpt);
+    if (p.isSet(methodOpt)) {
+        methodName = p.value(methodOpt).trimmed();
+        if (methodName.isEmpty()) {
+            *error = QStringLiteral("--method needs the name of a stored method");
+            return false;
+        }
+        if (sandbox.isEmpty()) {
+            *error = QStringLiteral("--method runs a method stored in a sandbox: give --sandbox DIR");
+            return false;
+        }
+        for (const QCommandLineOption *o : {&techniqueOpt, &endpointsOpt, &endpointMvOpt, &controlOpt, &maxOpt,
+                                            &preDoseOpt, &preStirOpt, &sampleOpt}) {
+            if (p.isSet(*o)) {
+                *error = QStringLiteral("--%1 cannot be given with --method: the stored method decides")
+                             .arg(o->names().first());
+                return false;
+            }
+        }
+    }
     return true;
 }

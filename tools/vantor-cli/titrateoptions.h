@@ -16,6 +16,8 @@ struct TitrateOptions
     float maxVolumeMl = 20.f;
     float preDoseMl = 0.f;
     int preStirS = 0;
+    float sampleMl = 10.f;     // the sample, a fixed volume
+    QString methodName;        // run this stored method instead of building one
     double speed = 50.0;
     int timeoutS = 600;        // of wall time
     QString sandbox;           // where logs go; a temporary folder if empty

@@ -1,10 +1,18 @@
 #include "titraterunner.h"
 
+#include "appconstants.h"
+#include "beaker.h"
 #include "controller/burettecontroller.h"
-#include "controller/enginedatastandin.h"
 #include "controller/mspcontroller.h"
 #include "controller/slaveclock.h"
 #include "processresources.h"
+#include "datamanagerbase.h"
+#include "datamigrator.h"
+#include "models/dbutil.h"
+#include "models/methoddraft.h"
+#include "models/sysinfomodel.h"
+#include "models/titrationlogmodel.h"
+#include "models/titrationsetupmodel.h"
 #include "pseudoterminal.h"
 #include "reports/logmanager.h"
 #include "scenario.h"
@@ -21,6 +29,7 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlDatabase>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
@@ -32,29 +41,10 @@
 namespace {
 
 constexpr qint64 kMaxReplayBytes = 16 * 1024 * 1024;
-
-// The method of the run, as the data layer would answer it.
-void configure(EngineDataStandIn &data, const TitrateOptions &o)
-{
-    data.mode = QStringLiteral("Titration");
-    data.technique = o.technique;
-    data.noOfEndpoints = o.endpoints;
-    std::copy(o.endpointMv, o.endpointMv + 3, data.endpoint);
-    data.processCtrl = o.processControl;
-    data.maxVolmL = o.maxVolumeMl;
-    data.preDose = o.preDoseMl;
-    data.preStir = o.preStirS;
-    data.electrode = 0;
-    data.displayPh = false;
-    // "User Defined" takes the routine values unless a method says otherwise.
-    data.deltaE = 10.f;
-    data.deltaVmin = 0.01f;
-    data.deltaVmax = 0.4f;
-    data.stabilityCriteria = 8.f;
-    data.tMin = 2.f;
-    data.tMax = 8.f;
-    data.threshold = 200.f;
-}
+constexpr int kKnownAddition = 3;
+const char *const kTechniqueNames[] = {"Preset End Pt.", "Equivalence Pt.", "Engineering Basic pH",
+                                       "Multiple Known Addition"};
+const char *const kControlNames[] = {"Routine", "Quick", "Careful", "User Defined"};
 
 // The "Titration Summary" block of the run log, without the end banner.
 QString summaryOf(const QString &log)
@@ -84,6 +74,51 @@ int logFileCount()
     return n;
 }
 
+// The sandbox's database on the default connection, as the application
+// opens it, closed again when the run is over.
+class SandboxDatabase
+{
+public:
+    SandboxDatabase()
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+        db.setDatabaseName(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
+        m_open = db.open();
+    }
+    ~SandboxDatabase()
+    {
+        {
+            QSqlDatabase db = QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false);
+            db.close();
+        }
+        QSqlDatabase::removeDatabase(QLatin1String(QSqlDatabase::defaultConnection));
+    }
+    bool isOpen() const { return m_open; }
+
+private:
+    bool m_open = false;
+};
+
+// The start-up check of the application. A file it cannot bring forward is
+// saved to JSON and emptied, and the application restarts; the second pass
+// here stands for that restart. A new file takes the same way to its first
+// version row.
+bool migrateDatabase(QTextStream &err)
+{
+    const bool fresh = !DbUtil::tableExists(SysInfoModel::tableName);
+    if (DataMigrator::dmPtr()->migrate())
+        return true;
+    if (!fresh)
+        err << "vantor-cli: the database was of another version; it was saved to "
+            << DataMigrator::backupFilePath() << " and emptied\n";
+    return DataMigrator::dmPtr()->migrate();
+}
+
+const IseBeaker *iseBeaker(const Scenario &scenario)
+{
+    return dynamic_cast<const IseBeaker *>(scenario.beaker.get());
+}
+
 } // namespace
 
 TitrateRunner::TitrateRunner(const TitrateOptions &options)
@@ -102,21 +137,31 @@ int TitrateRunner::run(QTextStream &out, QTextStream &err)
     }
     Platform::setSandboxRoot(root);
     Platform::prepareSandbox();
+    int status = 2;
     bool allCompleted = true;
-    int status = 0;
-    for (int run = 1; run <= m_options.runs; ++run) {
-        m_outcome = Outcome();
-        status = runInSandbox(err);
-        if (status == 2)
-            break;
-        report(out);
-        allCompleted = allCompleted && m_outcome.completed;
-        if (m_options.runs > 1) {
-            out << "Run " << run << " of " << m_options.runs << ": peak resident kB "
-                << ProcessResources::peakResidentKb() << ", heap kB " << ProcessResources::heapInUseKb()
-                << ", open files " << ProcessResources::openFileDescriptors() << ", log files "
-                << logFileCount() << "\n";
-            out.flush();
+    {
+        SandboxDatabase database;
+        if (!database.isOpen()) {
+            err << "vantor-cli: cannot open the database " << Platform::path(QStringLiteral(DATABASE_FILE_NAME)) << "\n";
+        } else if (!migrateDatabase(err)) {
+            err << "vantor-cli: the database " << Platform::path(QStringLiteral(DATABASE_FILE_NAME))
+                << " is of another version and could not be brought forward\n";
+        } else {
+            for (int run = 1; run <= m_options.runs; ++run) {
+                m_outcome = Outcome();
+                status = runInSandbox(err);
+                if (status == 2)
+                    break;
+                report(out);
+                allCompleted = allCompleted && m_outcome.completed;
+                if (m_options.runs > 1) {
+                    out << "Run " << run << " of " << m_options.runs << ": peak resident kB "
+                        << ProcessResources::peakResidentKb() << ", heap kB " << ProcessResources::heapInUseKb()
+                        << ", open files " << ProcessResources::openFileDescriptors() << ", log files "
+                        << logFileCount() << "\n";
+                    out.flush();
+                }
+            }
         }
     }
     Platform::setSandboxRoot(previousRoot);
@@ -125,39 +170,144 @@ int TitrateRunner::run(QTextStream &out, QTextStream &err)
     return allCompleted ? 0 : 1;
 }
 
-int TitrateRunner::runInSandbox(QTextStream &err)
+int TitrateRunner::loadInput(Scenario &scenario, QTextStream &err)
 {
-    EngineDataStandIn data;
-    configure(data, m_options);
-    const bool live = !m_options.scenarioFile.isEmpty();
-    const double speed = m_options.speed;
-    const QString device = Platform::path(QStringLiteral("/dev/ttymxc2"));
-
-    Scenario scenario;
-    std::unique_ptr<VirtualSlave> slave;
-    std::unique_ptr<PseudoTerminal> pty;
-    std::unique_ptr<SlaveSession> session;
-    if (live) {
+    if (!m_options.scenarioFile.isEmpty()) {
         QString error;
         if (!Scenario::load(m_options.scenarioFile, &scenario, &error)) {
             err << "vantor-cli: scenario " << m_options.scenarioFile << ": " << error << "\n";
             return 2;
         }
-        data.buretteSizeMl = float(scenario.config.buretteMl);
-        if (const auto *ise = dynamic_cast<const IseBeaker *>(scenario.beaker.get())) {
-            // A known-addition run: the sample is the beaker, the standard the titrant,
-            // and the result is reported in mol/L of the sample.
-            const IseBeaker::Params &p = ise->params();
-            data.electrode = std::abs(p.charge) == 1 ? 2 : 3;
-            data.totalSolutionVolume = float(p.volumeMl);
-            data.mkaStandard = float(p.titrantConcentration);
-            data.mkaSample.resultUnits = QStringLiteral("M");
-            data.mkaSample.sampleAmount = QStringLiteral("Fixed Volume");
-            data.mkaSample.amount = float(p.volumeMl);
-        } else if (m_options.technique == 3) {
-            err << "vantor-cli: \"Multiple Known Addition\" needs an ion-selective scenario (\"kind\":\"ise\")\n";
-            return 2;
-        }
+        return 0;
+    }
+    QFile curve(m_options.replayFile);
+    if (!curve.open(QIODevice::ReadOnly) || curve.size() > kMaxReplayBytes) {
+        err << "vantor-cli: cannot read the curve " << m_options.replayFile
+            << (curve.size() > kMaxReplayBytes ? " (larger than 16 MiB)" : "") << "\n";
+        return 2;
+    }
+    const QString target = Platform::path(QStringLiteral("/var/Kestrum/log/simdata/data-1.txt"));
+    QDir().mkpath(QFileInfo(target).absolutePath());
+    QFile::remove(target);
+    QFile copy(target);
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(curve.readAll()) < 0) {
+        err << "vantor-cli: cannot place the curve at " << target << "\n";
+        return 2;
+    }
+    return 0;
+}
+
+MethodDraft TitrateRunner::draftOf(const Scenario &scenario) const
+{
+    const TitrateOptions &o = m_options;
+    MethodDraft d;
+    d.technique = QLatin1String(kTechniqueNames[o.technique]);
+    d.processControl = QLatin1String(kControlNames[o.processControl]);
+    d.endPoints = o.endpoints;
+    std::copy(o.endpointMv, o.endpointMv + 3, d.endPointMv);
+    d.maxVolumeMl = o.maxVolumeMl;
+    d.preDoseMl = o.preDoseMl;
+    d.preStirS = o.preStirS;
+    d.sampleMl = o.sampleMl;
+    if (const auto *ab = dynamic_cast<const AcidBaseBeaker *>(scenario.beaker.get())) {
+        d.titrantName = ab->params().titrantIsBase ? QStringLiteral("NaOH") : QStringLiteral("HCl");
+        d.titrantMolPerL = float(ab->params().titrantConcentration);
+    } else if (const auto *redox = dynamic_cast<const RedoxBeaker *>(scenario.beaker.get())) {
+        d.electrodeType = QStringLiteral("Redox");
+        d.titrantName = QStringLiteral("Oxidant");
+        d.titrantMolPerL = float(redox->params().titrantConcentration);
+    } else if (const IseBeaker *ise = iseBeaker(scenario)) {
+        // A known-addition run: the sample is the beaker, the standard the
+        // titrant, and the result is reported in mol/L of the sample.
+        const IseBeaker::Params &p = ise->params();
+        d.electrodeType = o.technique == kKnownAddition ? QStringLiteral("ISE-MKA") : QStringLiteral("ISE-Titration");
+        d.iseType = QStringLiteral("%1 %2").arg(std::abs(p.charge) == 1 ? QStringLiteral("Monovalent")
+                                                                         : QStringLiteral("Divalent"),
+                                                p.charge > 0 ? QStringLiteral("Cation") : QStringLiteral("Anion"));
+        d.titrantName = QStringLiteral("Standard");
+        d.titrantMolPerL = float(p.titrantConcentration);
+        d.totalSolutionMl = float(p.volumeMl);
+        d.sampleMl = float(p.volumeMl);
+    }
+    return d;
+}
+
+int TitrateRunner::methodOfRun(DataManagerBase &dm, const Scenario &scenario, QTextStream &err)
+{
+    const QString database = Platform::path(QStringLiteral(DATABASE_FILE_NAME));
+    int id = m_methodId;
+    if (id > 0) {
+        // Back-to-back runs use the method stored for the first.
+    } else if (!m_options.methodName.isEmpty()) {
+        id = MethodDraft::findByName(m_options.methodName);
+        if (id <= 0)
+            err << "vantor-cli: no method \"" << m_options.methodName << "\" is stored in " << database << "\n";
+    } else {
+        QString error;
+        id = draftOf(scenario).save(QStringLiteral("vantor-cli"), &error);
+        if (id <= 0)
+            err << "vantor-cli: the run's method cannot be stored in " << database << ": " << error << "\n";
+    }
+    if (id <= 0)
+        return 0;
+    m_methodId = id;
+    // Made current as the method screens do, then loaded by the data manager.
+    dm.setupModel()->setCurrentMethodId(id);
+    dm.setupModel()->setSetupValues();
+    dm.reInitializeMethodModel(id);
+    return dm.methodModel()->id() == id ? id : 0;
+}
+
+int TitrateRunner::runInSandbox(QTextStream &err)
+{
+    Scenario scenario;
+    if (loadInput(scenario, err) != 0)
+        return 2;
+    const bool live = !m_options.scenarioFile.isEmpty();
+    if (live && m_options.methodName.isEmpty() && m_options.technique == kKnownAddition && !iseBeaker(scenario)) {
+        err << "vantor-cli: \"Multiple Known Addition\" needs an ion-selective scenario (\"kind\":\"ise\")\n";
+        return 2;
+    }
+
+    DataManagerBase dm;
+    dm.DataManagerLegacyInit();
+    if (live)
+        dm.setupModel()->setBuretteSize(int(scenario.config.buretteMl));
+    if (methodOfRun(dm, scenario, err) <= 0)
+        return 2;
+    dm.setDeviceMode(DataManagerBase::modeTitration);
+    if (live && dm.getTitrationTechnique() == kKnownAddition && !iseBeaker(scenario)) {
+        err << "vantor-cli: the method \"" << dm.methodModel()->methodName()
+            << "\" adds a known standard and needs an ion-selective scenario (\"kind\":\"ise\")\n";
+        return 2;
+    }
+    // The run as the run screen starts it.
+    TitrationModel *run = dm.titrationModel();
+    run->setCycleno(1);
+    run->setTitrationType(DataManagerBase::modeTitration);
+    run->setMethodName(dm.methodModel()->methodName());
+    QObject::connect(&dm, &DataManagerBase::mkaTitrationCompleted, &dm,
+                     [this](const QString &conc, const QString &slope, const QString &spike) {
+                         m_outcome.knownAddition = true;
+                         m_outcome.mkaResult = {conc.toDouble(), slope.toDouble(), spike.toDouble()};
+                     });
+
+    const int status = runEngine(dm, scenario, err);
+    if (status == 0 && m_outcome.completed)
+        storeRun(dm);
+    return status;
+}
+
+int TitrateRunner::runEngine(DataManagerBase &dm, Scenario &scenario, QTextStream &err)
+{
+    const bool live = !m_options.scenarioFile.isEmpty();
+    const double speed = m_options.speed;
+    const QString device = Platform::path(QStringLiteral("/dev/ttymxc2"));
+
+    std::unique_ptr<VirtualSlave> slave;
+    std::unique_ptr<PseudoTerminal> pty;
+    std::unique_ptr<SlaveSession> session;
+    if (live) {
         slave = std::make_unique<VirtualSlave>(scenario.config, std::move(scenario.beaker));
         pty = std::make_unique<PseudoTerminal>();
         if (!pty->open(device)) {
@@ -165,98 +315,106 @@ int TitrateRunner::runInSandbox(QTextStream &err)
             return 2;
         }
         session = std::make_unique<SlaveSession>(pty.get(), slave.get(), speed);
-    } else {
-        QFile curve(m_options.replayFile);
-        if (!curve.open(QIODevice::ReadOnly) || curve.size() > kMaxReplayBytes) {
-            err << "vantor-cli: cannot read the curve " << m_options.replayFile
-                << (curve.size() > kMaxReplayBytes ? " (larger than 16 MiB)" : "") << "\n";
-            return 2;
-        }
-        const QString target = Platform::path(QStringLiteral("/var/Kestrum/log/simdata/data-1.txt"));
-        QDir().mkpath(QFileInfo(target).absolutePath());
-        QFile::remove(target);
-        QFile copy(target);
-        if (!copy.open(QIODevice::WriteOnly) || copy.write(curve.readAll()) < 0) {
-            err << "vantor-cli: cannot place the curve at " << target << "\n";
-            return 2;
-        }
     }
 
-    EngineData::set(&data);
-    {
-        mspController msp(device);
-        msp.setPollInterval(std::max(1, int(250 / speed)));
-        msp.setReadInterval(std::max(1, std::min(40, int(40 / speed))));
-        BuretteController burette(&msp);
-        burette.setTickInterval(std::max(1, int(250 / speed)));
-        SlaveClock clock(&msp);
-        if (live)
-            Clock::setSource(&clock);
-        TitrationControllerBase tc(&msp, &burette, nullptr);
-        tc.setTimeScale(speed);
+    mspController msp(device);
+    msp.setPollInterval(std::max(1, int(250 / speed)));
+    msp.setReadInterval(std::max(1, std::min(40, int(40 / speed))));
+    BuretteController burette(&msp);
+    burette.setTickInterval(std::max(1, int(250 / speed)));
+    SlaveClock clock(&msp);
+    if (live)
+        Clock::setSource(&clock);
+    TitrationControllerBase tc(&msp, &burette, nullptr);
+    tc.setTimeScale(speed);
 
-        QEventLoop loop;
-        bool completed = false;
-        // As the screens do: take the results, then stop inside the signal.
-        QObject::connect(&tc, &TitrationController::titrationCompletedSignal, &tc, [&] {
-            completed = true;
-            tc.qmlStopTitration();
-            loop.quit();
-        });
-        QTimer limit;
-        limit.setSingleShot(true);
-        QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
-        QElapsedTimer wall;
-        wall.start();
-        limit.start(m_options.timeoutS * 1000);
+    QEventLoop loop;
+    bool completed = false;
+    // As the screens do: the data manager took the results, then stop inside the signal.
+    QObject::connect(&tc, &TitrationController::titrationCompletedSignal, &tc, [&] {
+        completed = true;
+        tc.qmlStopTitration();
+        loop.quit();
+    });
+    QTimer limit;
+    limit.setSingleShot(true);
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    QElapsedTimer wall;
+    wall.start();
+    limit.start(m_options.timeoutS * 1000);
 
-        if (live) {
-            // The link is up when the slave answers and holds the configured burette.
-            bool sampled = false;
-            QObject::connect(&msp, &mspController::mspNewDataSignal, &loop, [&] {
-                mspInfoRecord info;
-                msp.msp->getInfo(info);
-                if (!sampled && info.buretteSize == int(data.buretteSizeMl)) {
-                    sampled = true;
-                    loop.quit();
-                }
-            });
-            loop.exec();
-            if (!sampled) {
-                err << "vantor-cli: the virtual instrument did not answer\n";
-                Clock::setSource(nullptr);
-                EngineData::set(nullptr);
-                return 2;
+    if (live) {
+        // The link is up when the slave answers and holds the configured burette.
+        bool sampled = false;
+        QObject::connect(&msp, &mspController::mspNewDataSignal, &loop, [&] {
+            mspInfoRecord info;
+            msp.msp->getInfo(info);
+            if (!sampled && info.buretteSize == int(dm.buretteSize())) {
+                sampled = true;
+                loop.quit();
             }
+        });
+        loop.exec();
+        if (!sampled) {
+            err << "vantor-cli: the virtual instrument did not answer\n";
+            Clock::setSource(nullptr);
+            return 2;
         }
-        tc.qmlStartTitration();
-        if (!completed)
-            loop.exec();
-        if (!completed) {
-            err << "vantor-cli: the run did not end within " << m_options.timeoutS << " s\n";
-            tc.qmlStopTitration();
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-
-        const TitrationController::RunRecord &r = tc.lastRun();
-        m_outcome.completed = completed;
-        m_outcome.reasonForEnd = r.reasonForEnd;
-        m_outcome.results = r.results;
-        m_outcome.doses = r.doses;
-        m_outcome.totalDispensedUl = r.totalDispensedUl;
-        m_outcome.durationS = double(r.durationMs) / 1000.0;
-        m_outcome.wallS = double(wall.elapsed()) / 1000.0;
-
-        m_outcome.knownAddition = data.mkaCompletedCount > 0;
-        m_outcome.mkaResult = data.mkaResult;
-
-        QFile log(data.titrationLogFile()->currentFileName());
-        if (log.open(QIODevice::ReadOnly))
-            m_outcome.summary = summaryOf(QString::fromUtf8(log.read(1 << 20)));
-        Clock::setSource(nullptr);
     }
-    EngineData::set(nullptr);
+    tc.qmlStartTitration();
+    if (!completed)
+        loop.exec();
+    if (!completed) {
+        err << "vantor-cli: the run did not end within " << m_options.timeoutS << " s\n";
+        tc.qmlStopTitration();
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    const TitrationController::RunRecord &r = tc.lastRun();
+    m_outcome.completed = completed;
+    m_outcome.reasonForEnd = r.reasonForEnd;
+    m_outcome.results = r.results;
+    m_outcome.doses = r.doses;
+    m_outcome.totalDispensedUl = r.totalDispensedUl;
+    m_outcome.durationS = double(r.durationMs) / 1000.0;
+    m_outcome.wallS = double(wall.elapsed()) / 1000.0;
+
+    QFile log(dm.titrationLogFile()->currentFileName());
+    if (log.open(QIODevice::ReadOnly))
+        m_outcome.summary = summaryOf(QString::fromUtf8(log.read(1 << 20)));
+    Clock::setSource(nullptr);
     return 0;
+}
+
+void TitrateRunner::storeRun(DataManagerBase &dm)
+{
+    const TitrationSetupModel *setup = dm.titrationSetupModel();
+    m_outcome.resultUnit = setup->resultUnits();
+    if (m_outcome.knownAddition) {
+        // The known-addition records are the screens' to write; the result
+        // is the one the data manager was handed.
+        m_outcome.storedResults = QStringList{QString::number(m_outcome.mkaResult[0], 'g', 6)};
+        return;
+    }
+    TitrationModel *run = dm.titrationModel();
+    TitrationCycleModel *cycle = run->titrationCycle(0);
+    if (!cycle)
+        return;
+    const float results[3] = {cycle->calCon(), cycle->calCon2(), cycle->calCon3()};
+    const int found = int(std::count_if(m_outcome.results.begin(), m_outcome.results.end(), [](double v) { return v > 0; }));
+    for (int i = 0; i < std::max(1, found); ++i)
+        m_outcome.storedResults << QString::number(double(results[i]), 'g', 6);
+
+    // The summary screen's part: the run with its cycle, and the log entry.
+    if (!run->setTitrationValues(false))
+        return;
+    TitrationLogModel entry;
+    dm.attachLogModel(&entry);
+    entry.saveLogValues(false);
+    entry.setAvgConc(m_outcome.storedResults.first());
+    entry.setRsd(QStringLiteral("0.00%"));
+    entry.updateLog();
+    dm.initializeTitration();
 }
 
 void TitrateRunner::report(QTextStream &out) const
@@ -265,6 +423,10 @@ void TitrateRunner::report(QTextStream &out) const
     if (m_outcome.knownAddition) {
         out << "Known addition concentration (mol/L): " << QString::number(m_outcome.mkaResult[0], 'g', 6) << "\n";
         out << "Electrode slope (mV/decade): " << QString::number(m_outcome.mkaResult[1], 'f', 2) << "\n";
+    }
+    for (int i = 0; i < m_outcome.storedResults.size(); ++i) {
+        out << (i == 0 ? QStringLiteral("Result: ") : QStringLiteral("Result %1: ").arg(i + 1))
+            << m_outcome.storedResults[i] << " " << m_outcome.resultUnit << "\n";
     }
     out << "Reason for end: " << m_outcome.reasonForEnd << "\n";
     out << "Doses: " << m_outcome.doses << "\n";

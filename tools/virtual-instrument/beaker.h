@@ -42,6 +42,7 @@ public:
         double slopePct = 100;
     };
     explicit AcidBaseBeaker(const Params &p);
+    const Params &params() const { return m_p; }
 
     double pH(double titrantMl) const;
     double potentialMv(double titrantMl) const override;
@@ -69,6 +70,7 @@ public:
         double e0Mv = 0;
     };
     explicit RedoxBeaker(const Params &p);
+    const Params &params() const { return m_p; }
     double potentialMv(double titrantMl) const override;
 
 private:
