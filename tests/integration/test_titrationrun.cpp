@@ -16,12 +16,14 @@
 #include "reports/logmanager.h"
 #include "system/clock.h"
 #include "testdatabase.h"
+#include "system/importexport.h"
 #include "testsupport.h"
 #include "titrationcontrollerbase.h"
 #include "virtualinstrumentprocess.h"
 
 #include <QFile>
 #include <QPointer>
+#include <QTemporaryDir>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -340,6 +342,54 @@ TEST(VantorCli, RunsAStoredMethodByNameAndStoresItsRun)
                                      QStringLiteral("methodName = 'Acetic 20 mL'")), 1);
     EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("methodSetupTable"), QStringLiteral("id != 99999")), 1)
         << "no method of the options was added";
+}
+
+// A method exported on one instrument (a method file: its rows of the four
+// method tables and systemInfo) runs on another: vantor-cli installs it into
+// a fresh database and the result follows the file's sample amount.
+TEST(VantorCli, RunsTheMethodOfAMethodFile)
+{
+    QTemporaryDir out;
+    const QString file = out.filePath(QStringLiteral("Acetic 25 mL.json"));
+    {
+        TestDatabase db;
+        DataMigrator::dmPtr()->migrate();
+        ASSERT_TRUE(DataMigrator::dmPtr()->migrate());
+        MethodDraft draft;
+        draft.sampleMl = 25.f;
+        QString error;
+        const int id = draft.save(QStringLiteral("Acetic 25 mL"), &error);
+        ASSERT_GT(id, 0) << error.toStdString();
+        ImportExport io(file);
+        ASSERT_TRUE(io.exportQueries(
+            {QStringLiteral("SELECT * FROM methodSetupTable WHERE id=%1").arg(id),
+             QStringLiteral("SELECT * FROM electrodeSetupTable WHERE methodId=%1").arg(id),
+             QStringLiteral("SELECT * FROM titrationSetupTable WHERE methodId=%1").arg(id),
+             QStringLiteral("SELECT * FROM titrantSetupTable WHERE methodId=%1").arg(id),
+             QStringLiteral("SELECT * FROM systemInfo")},
+            {QStringLiteral("methodSetupTable"), QStringLiteral("electrodeSetupTable"),
+             QStringLiteral("titrationSetupTable"), QStringLiteral("titrantSetupTable"), QStringLiteral("systemInfo")},
+            QString()));
+    }
+    const QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json");
+    int code = 0;
+    const QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario,
+                                 QStringLiteral("--method"), file, QStringLiteral("--speed"), QStringLiteral("50")},
+                                &code);
+    EXPECT_EQ(code, 0) << text.toStdString();
+    const QRegularExpressionMatch r = QRegularExpression(QStringLiteral("\nResult: ([0-9.e-]+) M\n")).match(text);
+    ASSERT_TRUE(r.hasMatch()) << text.toStdString();
+    EXPECT_NEAR(r.captured(1).toDouble(), 0.04, 0.0002) << "1 mmol of acid in 25 mL";
+
+    // A file that is not a method file is refused with a message.
+    const QString junk = out.filePath(QStringLiteral("junk.json"));
+    writeTextFile(junk, QStringLiteral("[1,2,3]"));
+    const QString refused = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario,
+                                    QStringLiteral("--method"), junk},
+                                   &code);
+    EXPECT_EQ(code, 2) << refused.toStdString();
+    EXPECT_TRUE(refused.contains(QStringLiteral("method file"))) << refused.toStdString();
+    EXPECT_FALSE(refused.contains(QStringLiteral("Titration Summary")));
 }
 
 TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)

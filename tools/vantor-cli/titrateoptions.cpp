@@ -1,5 +1,7 @@
 #include "titrateoptions.h"
 
+#include <QFileInfo>
+
 #include <QCommandLineParser>
 
 #include <cmath>
@@ -54,8 +56,9 @@ QString TitrateOptions::usage()
         "  --predose-ml V           dose given at once before titrating (default 0)\n"
         "  --prestir S              seconds of stirring before the run (default 0; 2 s are always added)\n"
         "  --sample-ml V            the sample's volume, for the result (default 10)\n"
+        "  --method FILE.json       install the method of a method file (JSON) and run it\n"
         "  --method NAME            run the method of that name stored in the sandbox's database\n"
-        "                           (needs --sandbox; replaces the method options above)\n"
+        "                           (needs --sandbox); either form replaces the method options above\n"
         "  --speed FACTOR           instrument clock this many times real time (default 50)\n"
         "  --timeout S              give up after this many seconds of wall time (default 600)\n"
         "  --sandbox DIR            keep the run's logs below DIR (default: a temporary folder)\n"
@@ -196,12 +199,16 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
     sandbox = p.value(sandboxOpt);
     verbose = p.isSet(verboseOpt);
     if (p.isSet(methodOpt)) {
-        methodName = p.value(methodOpt).trimmed();
-        if (methodName.isEmpty()) {
-            *error = QStringLiteral("--method needs the name of a stored method");
+        const QString value = p.value(methodOpt).trimmed();
+        if (value.isEmpty()) {
+            *error = QStringLiteral("--method needs a method file or the name of a stored method");
             return false;
         }
-        if (sandbox.isEmpty()) {
+        if (QFileInfo(value).isFile() || value.endsWith(QLatin1String(".json"), Qt::CaseInsensitive))
+            methodFile = value;
+        else
+            methodName = value;
+        if (methodFile.isEmpty() && sandbox.isEmpty()) {
             *error = QStringLiteral("--method runs a method stored in a sandbox: give --sandbox DIR");
             return false;
         }

@@ -18,6 +18,7 @@ struct TitrateOptions
     int preStirS = 0;
     float sampleMl = 10.f;     // the sample, a fixed volume
     QString methodName;        // run this stored method instead of building one
+    QString methodFile;        // or the method of this method file (JSON), installed first
     double speed = 50.0;
     int timeoutS = 600;        // of wall time
     QString sandbox;           // where logs go; a temporary folder if empty

@@ -10,6 +10,7 @@
 #include "datamigrator.h"
 #include "models/dbutil.h"
 #include "models/methoddraft.h"
+#include "models/methodmodel.h"
 #include "models/sysinfomodel.h"
 #include "models/titrationlogmodel.h"
 #include "models/titrationsetupmodel.h"
@@ -18,6 +19,7 @@
 #include "scenario.h"
 #include "slavesession.h"
 #include "system/clock.h"
+#include "system/importexport.h"
 #include "system/platform.h"
 #include "titrationcontrollerbase.h"
 #include "virtualslave.h"
@@ -112,6 +114,37 @@ bool migrateDatabase(QTextStream &err)
         err << "vantor-cli: the database was of another version; it was saved to "
             << DataMigrator::backupFilePath() << " and emptied\n";
     return DataMigrator::dmPtr()->migrate();
+}
+
+// Installs the method of a method file (the JSON of a method export: its
+// rows of the method, electrode, titrant and titration tables) as the
+// method screens install an imported method: staged in the "_temp" tables,
+// read back, then written to the live tables under a unique name. Its id, or
+// 0 with the reason.
+int installMethodFile(const QString &fileName, QString *error)
+{
+    if (!QFileInfo(fileName).isFile()) {
+        *error = QStringLiteral("cannot be read");
+        return 0;
+    }
+    ImportExport io(fileName);
+    io.clearTables(QStringLiteral("_temp"));
+    if (!io.importAll(ImportExport::Replace, QStringLiteral("_temp"))) {
+        *error = QStringLiteral("is not a method file (see the log with --verbose)");
+        return 0;
+    }
+    MethodModel staged(nullptr, false);
+    if (!staged.loadMethodsFromDb(QStringLiteral("_temp"), true) || staged.methodList().isEmpty()) {
+        *error = QStringLiteral("holds no method");
+        return 0;
+    }
+    MethodModel *entry = staged.methodList().first();
+    staged.listToDb({entry->id()});
+    io.clearTables(QStringLiteral("_temp"));
+    const int id = MethodDraft::findByName(entry->methodName());
+    if (id <= 0)
+        *error = QStringLiteral("its method could not be installed (at most %1 methods)").arg(MethodModel::maxMethods);
+    return id;
 }
 
 const IseBeaker *iseBeaker(const Scenario &scenario)
@@ -238,6 +271,11 @@ int TitrateRunner::methodOfRun(DataManagerBase &dm, const Scenario &scenario, QT
     int id = m_methodId;
     if (id > 0) {
         // Back-to-back runs use the method stored for the first.
+    } else if (!m_options.methodFile.isEmpty()) {
+        QString error;
+        id = installMethodFile(m_options.methodFile, &error);
+        if (id <= 0)
+            err << "vantor-cli: method file " << m_options.methodFile << ": " << error << "\n";
     } else if (!m_options.methodName.isEmpty()) {
         id = MethodDraft::findByName(m_options.methodName);
         if (id <= 0)
@@ -264,7 +302,7 @@ int TitrateRunner::runInSandbox(QTextStream &err)
     if (loadInput(scenario, err) != 0)
         return 2;
     const bool live = !m_options.scenarioFile.isEmpty();
-    if (live && m_options.methodName.isEmpty() && m_options.technique == kKnownAddition && !iseBeaker(scenario)) {
+    if (live && m_options.methodName.isEmpty() && m_options.methodFile.isEmpty() && m_options.technique == kKnownAddition && !iseBeaker(scenario)) {
         err << "vantor-cli: \"Multiple Known Addition\" needs an ion-selective scenario (\"kind\":\"ise\")\n";
         return 2;
     }
