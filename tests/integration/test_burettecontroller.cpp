@@ -4,8 +4,9 @@
 // the controller's own count.
 
 #include "controller/burettecontroller.h"
-#include "controller/enginedatastandin.h"
 #include "controller/mspcontroller.h"
+#include "models/setupmodel.h"
+#include "testdatalayer.h"
 #include "testsupport.h"
 #include "virtualinstrumentprocess.h"
 
@@ -29,18 +30,16 @@ QString scenario(int buretteMl, int lostSizeCommands = 0)
 class Burette : public ::testing::Test
 {
 protected:
-    void SetUp() override { EngineData::set(&data); }
     void TearDown() override
     {
         bc.reset();
         msp.reset();
         vi.stop();
-        EngineData::set(nullptr);
     }
 
     void start(int buretteMl, int configuredMl, int lostSizeCommands = 0)
     {
-        data.buretteSizeMl = float(configuredMl);
+        data.dm.setupModel()->setBuretteSize(configuredMl);
         ASSERT_TRUE(vi.start(scenario(buretteMl, lostSizeCommands), kSpeed)) << vi.errorText().toStdString();
         msp = std::make_unique<mspController>(vi.device());
         msp->setPollInterval(int(250 / kSpeed));
@@ -91,7 +90,7 @@ protected:
         }, 20000);
     }
 
-    EngineDataStandIn data;
+    TestDataLayer data;
     VirtualInstrumentProcess vi;
     std::unique_ptr<mspController> msp;
     std::unique_ptr<BuretteController> bc;
@@ -104,14 +103,14 @@ TEST_F(Burette, DoseLargerThanWhatIsLeftArrivesWholeAroundOneRefill)
 {
     start(10, 10);
     bc->dispense_ul(7000);
-    EXPECT_TRUE(data.dispenseInProgress);
+    EXPECT_TRUE(data.dm.getDispenseInProgress());
     ASSERT_TRUE(waitIdle(1));
-    EXPECT_FALSE(data.dispenseInProgress);
+    EXPECT_FALSE(data.dm.getDispenseInProgress());
 
     bc->dispense_ul(6000); // 3000 left in the cylinder
     EXPECT_EQ(bc->state(), BuretteController::BURETTE_LAST_PART);
     ASSERT_TRUE(waitUntil([&] { return bc->state() == BuretteController::BURETTE_REFILLING; }, 20000));
-    EXPECT_TRUE(data.dispenseInProgress); // the dose is not over during the refill
+    EXPECT_TRUE(data.dm.getDispenseInProgress()); // the dose is not over during the refill
     EXPECT_EQ(completed->count(), 1);
     ASSERT_TRUE(waitIdle(2));
     EXPECT_EQ(completed->count(), 2); // one completion for the split dose
@@ -120,7 +119,7 @@ TEST_F(Burette, DoseLargerThanWhatIsLeftArrivesWholeAroundOneRefill)
     EXPECT_EQ(bc->getTotalDispensed(), 13000);
     EXPECT_EQ(bc->position(), 3000);
     EXPECT_DOUBLE_EQ(instrumentTotal("dosed"), 13000.0);
-    EXPECT_TRUE(data.console.contains(QStringLiteral("Dispensing(ul): 3000\r\n")));
+    EXPECT_TRUE(data.console().contains(QStringLiteral("Dispensing(ul): 3000\r\n")));
 }
 
 TEST_F(Burette, DoseEndingExactlyAtCapacityIsNotSplit)
@@ -210,9 +209,9 @@ TEST_F(Burette, ManualDoseIsCappedAtOneCylinderAndGoesHome)
     QSignalSpy wait(bc.get(), &BuretteController::qmlDispenseWait);
     QSignalSpy done(bc.get(), &BuretteController::qmlDispenseCompleted);
     bc->dispense_manual_ul(25000);
-    EXPECT_TRUE(data.dispenseInProgress);
+    EXPECT_TRUE(data.dm.getDispenseInProgress());
     ASSERT_TRUE(waitUntil([&] { return wait.count() == 1; }, 20000));
-    EXPECT_FALSE(data.dispenseInProgress);
+    EXPECT_FALSE(data.dm.getDispenseInProgress());
     ASSERT_TRUE(waitUntil([&] { return done.count() == 1; }, 20000));
     EXPECT_EQ(motions(), (QStringList{"BDS 10000", "BHS"}));
     EXPECT_DOUBLE_EQ(instrumentTotal("dosed"), 10000.0);

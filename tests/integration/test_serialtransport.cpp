@@ -1,10 +1,10 @@
 // The serial transport and the slave controller on a real pseudo-terminal,
 // with the test playing the slave byte by byte.
 
-#include "controller/enginedatastandin.h"
 #include "controller/mspcontroller.h"
 #include "controller/serialport.h"
 #include "pseudoterminal.h"
+#include "testdatalayer.h"
 #include "testsupport.h"
 
 #include <QSignalSpy>
@@ -24,11 +24,7 @@ struct FakeSlave {
     bool got(const QByteArray &line) const { return received.contains(line); }
 };
 
-struct Link {
-    EngineDataStandIn data;
-    Link() { EngineData::set(&data); }
-    ~Link() { EngineData::set(nullptr); }
-};
+using Link = TestDataLayer;
 
 } // namespace
 
@@ -42,8 +38,8 @@ TEST(SerialTransport, AsksForTheVersionAndStoresIt)
     ASSERT_TRUE(msp.portIsOpen());
     ASSERT_TRUE(waitUntil([&] { return slave.received.count("SYSTEM\r\n") == 2; }));
     slave.pty.write("SYSTEM VANTOR MSP430 1.09 BUILD 0 SN VP400-7\r\n");
-    ASSERT_TRUE(waitUntil([&] { return link.data.mspVersion == "1.09"; }));
-    EXPECT_EQ(link.data.mfgSerialNum, "VP400-7");
+    ASSERT_TRUE(waitUntil([&] { return link.dm.getMspVersion() == QLatin1String("1.09"); }));
+    EXPECT_EQ(link.dm.getMfgSerialNum(), QStringLiteral("VP400-7"));
     mspInfoRecord info;
     msp.msp->getInfo(info);
     EXPECT_FALSE(info.newVersion); // handed over once
@@ -67,7 +63,7 @@ TEST(SerialTransport, FirstPollWaitsOneTickAndCarriesTheSlaveClock)
     ASSERT_TRUE(waitUntil([&] { return data.count() >= 1; }));
     EXPECT_EQ(data.first().at(0).value<long>(), 987654321L);
     EXPECT_DOUBLE_EQ(data.first().at(1).toDouble(), -42.5);
-    EXPECT_FLOAT_EQ(link.data.rawTemperature, 31.5f);
+    EXPECT_FLOAT_EQ(link.dm.temperatureRawCelcius(), 31.5f);
 }
 
 TEST(SerialTransport, ReplySplitOverTwoReads)
@@ -147,6 +143,6 @@ TEST(SerialTransport, SurvivesTheDeviceGoingAndComingBack)
     ASSERT_TRUE(waitUntil([&] { return msp.portIsOpen(); }));
     ASSERT_TRUE(waitUntil([&] { return slave->got("SYSTEM\r\n"); })); // who is it now?
     slave->pty.write("SYSTEM a b 3.00 c d e SN9\r");
-    ASSERT_TRUE(waitUntil([&] { return link.data.mspVersion == "3.00"; }));
+    ASSERT_TRUE(waitUntil([&] { return link.dm.getMspVersion() == QLatin1String("3.00"); }));
     ASSERT_TRUE(waitUntil([&] { return slave->got("MG\r\n"); }));
 }

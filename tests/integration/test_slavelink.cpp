@@ -3,8 +3,8 @@
 // and the link's timers shortened by the same factor.
 
 #include "beaker.h"
-#include "controller/enginedatastandin.h"
 #include "controller/mspcontroller.h"
+#include "testdatalayer.h"
 #include "testsupport.h"
 #include "virtualinstrumentprocess.h"
 
@@ -31,8 +31,6 @@ struct Samples {
 class SlaveLink : public ::testing::Test
 {
 protected:
-    void SetUp() override { EngineData::set(&data); }
-    void TearDown() override { EngineData::set(nullptr); }
 
     std::unique_ptr<mspController> connect(double speed)
     {
@@ -46,7 +44,7 @@ protected:
         return msp;
     }
 
-    EngineDataStandIn data;
+    TestDataLayer data;
     VirtualInstrumentProcess vi;
     Samples samples;
 };
@@ -57,8 +55,8 @@ TEST_F(SlaveLink, VersionAndSerialArrive)
 {
     ASSERT_TRUE(vi.start(kAcetic, 5)) << vi.errorText().toStdString();
     auto msp = connect(5);
-    ASSERT_TRUE(waitUntil([&] { return data.mspVersion == "1.07"; }));
-    EXPECT_EQ(data.mfgSerialNum, "VP400-0042");
+    ASSERT_TRUE(waitUntil([&] { return data.dm.getMspVersion() == QLatin1String("1.07"); }));
+    EXPECT_EQ(data.dm.getMfgSerialNum(), QStringLiteral("VP400-0042"));
 }
 
 TEST_F(SlaveLink, PollRunsEveryQuarterSecondOnTheInstrumentsClock)
@@ -132,7 +130,7 @@ TEST_F(SlaveLink, InstrumentGoneAndBack)
     QString other = QString::fromLatin1(kAcetic);
     other.replace(QStringLiteral("\"1.07\""), QStringLiteral("\"2.00\""));
     ASSERT_TRUE(vi.start(other, 10)) << vi.errorText().toStdString();
-    ASSERT_TRUE(waitUntil([&] { return data.mspVersion == "2.00"; }, 10000));
+    ASSERT_TRUE(waitUntil([&] { return data.dm.getMspVersion() == QLatin1String("2.00"); }, 10000));
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() > seen + 2; }));
 }
 
