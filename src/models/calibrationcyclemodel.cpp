@@ -44,13 +44,7 @@ bool CalibrationCycleModel::createTable()
 
 bool CalibrationCycleModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("CalibrationCycleModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.3"));
-    frame.tableThatMustExist = tableName;
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return MigrationFrame::dropOnOldVersions("CalibrationCycleModel", tableName, noMigrateList, "1.1", "1.3", fromVersion, true);
 }
 
 CalibrationCycleModel *CalibrationCycleModel::fromRecord(const QSqlRecord &record, QObject *parent)
@@ -66,15 +60,10 @@ bool CalibrationCycleModel::setcalibrationCycleValues(int id)
     setMcreatedAt(now);
     setMupdatedAt(now);
     setCalibrationID(id);
-    QStringList columns = columnTable().names();
-    columns.removeAll(QStringLiteral("id"));
-    columns.removeAll(QStringLiteral("cycleNo"));
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName, columns));
-    columnTable().bindFrom(this, insert, columns);
-    if (!DbUtil::exec(insert))
+    const int newId = columnTable().insertRowWithNewId(this, tableName, {QStringLiteral("cycleNo")});
+    if (newId < 0)
         return false;
-    setId(insert.lastInsertId().toInt());
+    setId(newId);
     return true;
 }
 

@@ -35,7 +35,7 @@ bool CalibrationLogModel::createTable()
 
 bool CalibrationLogModel::migrate(const QString &fromVersion)
 {
-    return LogSnapshot::migrateByDropping("CalibrationLogModel", tableName, noMigrateList, "1.1", "1.3", fromVersion);
+    return MigrationFrame::dropOnOldVersions("CalibrationLogModel", tableName, noMigrateList, "1.1", "1.3", fromVersion);
 }
 
 void CalibrationLogModel::setId(int id)

@@ -58,12 +58,7 @@ bool CalibrationModel::createTables()
 
 bool CalibrationModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("CalibrationModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.3"));
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return MigrationFrame::dropOnOldVersions("CalibrationModel", tableName, noMigrateList, "1.1", "1.3", fromVersion);
 }
 
 void CalibrationModel::load(const QSqlRecord &record)

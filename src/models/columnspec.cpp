@@ -151,6 +151,20 @@ bool ColumnTable::insertRow(const QObject *model, const QString &table, const QS
     return DbUtil::exec(insert);
 }
 
+int ColumnTable::insertRowWithNewId(const QObject *model, const QString &table, const QStringList &skip) const
+{
+    QStringList columns = names();
+    columns.removeAll(QStringLiteral("id"));
+    for (const QString &c : skip)
+        columns.removeAll(c);
+    QSqlQuery insert;
+    insert.prepare(insertSql(table, columns));
+    bindFrom(model, insert, columns);
+    if (!DbUtil::exec(insert))
+        return -1;
+    return insert.lastInsertId().toInt();
+}
+
 bool ColumnTable::updateRow(const QObject *model, const QString &table, const QStringList &columns, int id) const
 {
     QSqlQuery update;

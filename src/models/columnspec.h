@@ -53,6 +53,9 @@ public:
     // Inserts the named columns (all when empty) of the model into the table;
     // logs and answers false on failure.
     bool insertRow(const QObject *model, const QString &table, const QStringList &columns) const;
+    // The same for every column but `id`, which the table gives: the new
+    // row's id, or -1 (logged) on failure.
+    int insertRowWithNewId(const QObject *model, const QString &table, const QStringList &skip = {}) const;
     // Updates the named columns of the row whose `id` is `id`.
     bool updateRow(const QObject *model, const QString &table, const QStringList &columns, int id) const;
     // The first id from `id` upwards that no row of the table holds yet.

@@ -1,7 +1,5 @@
 #include "models/logsnapshot.h"
 
-#include "models/migrationframe.h"
-
 #include "models/dbutil.h"
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
@@ -125,13 +123,3 @@ QList<QSqlRecord> LogSnapshot::newestFirstRows(const QString &sql)
     return rows;
 }
 
-bool LogSnapshot::migrateByDropping(const char *modelName, const QString &table, const QStringList &noMigrateList,
-                                    const char *first, const char *last, const QString &fromVersion)
-{
-    MigrationFrame frame;
-    frame.modelName = QLatin1String(modelName);
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QLatin1String(first), QLatin1String(last));
-    frame.step = [table](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(table)); };
-    return frame.run(fromVersion);
-}

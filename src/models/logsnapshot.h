@@ -44,10 +44,6 @@ public:
     static QString newestFirstSql(const QString &table, const QString &columns = QStringLiteral("*"));
     // The stored rows of a newest-first query (empty when it fails).
     static QList<QSqlRecord> newestFirstRows(const QString &sql);
-    // A log of an older shape can't be reshaped: versions from `first` to
-    // `last` drop the table, which comes back empty.
-    static bool migrateByDropping(const char *modelName, const QString &table, const QStringList &noMigrateList,
-                                  const char *first, const char *last, const QString &fromVersion);
 
     // One model per stored row, newest first; `prepare` finishes each entry.
     template <typename Log, typename Prepare>

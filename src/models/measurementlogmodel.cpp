@@ -41,7 +41,7 @@ bool MeasurementLogModel::createTable()
 
 bool MeasurementLogModel::migrate(const QString &fromVersion)
 {
-    return LogSnapshot::migrateByDropping("MeasurementLogModel", tableName, noMigrateList, "1.1", "1.4", fromVersion);
+    return MigrationFrame::dropOnOldVersions("MeasurementLogModel", tableName, noMigrateList, "1.1", "1.4", fromVersion);
 }
 
 void MeasurementLogModel::setId(int id)

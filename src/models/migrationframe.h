@@ -18,4 +18,11 @@ struct MigrationFrame
     QString tableThatMustExist;
 
     bool run(const QString &fromVersion) const;
+
+    // A table of snapshots can't be reshaped: versions from `first` to
+    // `last` drop it, and it comes back empty. With `mustExist`, a missing
+    // table means there is nothing to migrate.
+    static bool dropOnOldVersions(const char *modelName, const QString &table, const QStringList &noMigrateList,
+                                  const char *first, const char *last, const QString &fromVersion,
+                                  bool mustExist = false);
 };

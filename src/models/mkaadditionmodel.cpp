@@ -72,13 +72,9 @@ bool MKAadditionModel::setMKAadditionValues(int id)
     setMcreatedAt(now);
     setMupdatedAt(now);
     setTitrationID(id);
-    QStringList columns = columnTable().names();
-    columns.removeAll(QStringLiteral("id"));
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName, columns));
-    columnTable().bindFrom(this, insert, columns);
-    if (!DbUtil::exec(insert))
+    const int newId = columnTable().insertRowWithNewId(this, tableName);
+    if (newId < 0)
         return false;
-    setId(insert.lastInsertId().toInt());
+    setId(newId);
     return true;
 }

@@ -93,13 +93,9 @@ bool MKATitrationCycleModel::setMKATitrationCycleValues(int id, const QDateTime 
     setMupdatedAt(now);
     setLastRunTime(CLocaleText::upperDateTime(createdAt, QStringLiteral("MM/dd/yyyy | hh:mm a")));
     setTitrationID(id);
-    QStringList columns = columnTable().names();
-    columns.removeAll(QStringLiteral("id"));
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName, columns));
-    columnTable().bindFrom(this, insert, columns);
-    if (!DbUtil::exec(insert))
+    const int newId = columnTable().insertRowWithNewId(this, tableName);
+    if (newId < 0)
         return false;
-    setId(insert.lastInsertId().toInt());
+    setId(newId);
     return true;
 }

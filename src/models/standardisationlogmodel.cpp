@@ -38,7 +38,7 @@ bool StandardisationLogModel::createTable()
 
 bool StandardisationLogModel::migrate(const QString &fromVersion)
 {
-    return LogSnapshot::migrateByDropping("StandardisationLogModel", tableName, noMigrateList, "1.1", "1.5", fromVersion);
+    return MigrationFrame::dropOnOldVersions("StandardisationLogModel", tableName, noMigrateList, "1.1", "1.5", fromVersion);
 }
 
 void StandardisationLogModel::setId(int id)

@@ -58,13 +58,7 @@ bool TitrationCycleModel::createTable()
 
 bool TitrationCycleModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("TitrationCycleModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.3"));
-    frame.tableThatMustExist = tableName;
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return MigrationFrame::dropOnOldVersions("TitrationCycleModel", tableName, noMigrateList, "1.1", "1.3", fromVersion, true);
 }
 
 TitrationCycleModel *TitrationCycleModel::fromRecord(const QSqlRecord &record, QObject *parent)
@@ -144,13 +138,9 @@ bool TitrationCycleModel::setTitrationCycleValues(int id, const QDateTime &creat
     setMupdatedAt(now);
     setLastRunTime(CLocaleText::upperDateTime(createdAt, QStringLiteral("MM/dd/yyyy | hh:mm a")));
     setTitrationId(id);
-    QStringList columns = columnTable().names();
-    columns.removeAll(QStringLiteral("id"));
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName, columns));
-    columnTable().bindFrom(this, insert, columns);
-    if (!DbUtil::exec(insert))
+    const int newId = columnTable().insertRowWithNewId(this, tableName);
+    if (newId < 0)
         return false;
-    setId(insert.lastInsertId().toInt());
+    setId(newId);
     return true;
 }

@@ -42,7 +42,7 @@ bool TitrationLogModel::createTable()
 
 bool TitrationLogModel::migrate(const QString &fromVersion)
 {
-    return LogSnapshot::migrateByDropping("TitrationLogModel", tableName, noMigrateList, "1.1", "1.5", fromVersion);
+    return MigrationFrame::dropOnOldVersions("TitrationLogModel", tableName, noMigrateList, "1.1", "1.5", fromVersion);
 }
 
 void TitrationLogModel::setId(int id)

@@ -61,12 +61,7 @@ bool TitrationModel::createTables()
 
 bool TitrationModel::migrate(const QString &fromVersion)
 {
-    MigrationFrame frame;
-    frame.modelName = QStringLiteral("TitrationModel");
-    frame.noMigrateList = noMigrateList;
-    frame.handledVersions = DbUtil::versionRange(QStringLiteral("1.1"), QStringLiteral("1.3"));
-    frame.step = [](const QString &) { return DbUtil::execText(QStringLiteral("DROP TABLE %1").arg(tableName)); };
-    return frame.run(fromVersion);
+    return MigrationFrame::dropOnOldVersions("TitrationModel", tableName, noMigrateList, "1.1", "1.3", fromVersion);
 }
 
 void TitrationModel::setCycleno(int cycleno)
@@ -161,14 +156,10 @@ bool TitrationModel::writeRun(bool isChangeFromHome)
     const QDateTime now = Clock::now();
     setMcreatedAt(now);
     setMupdatedAt(now);
-    QStringList columns = columnTable().names();
-    columns.removeAll(QStringLiteral("id"));
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName, columns));
-    columnTable().bindFrom(this, insert, columns);
-    if (!DbUtil::exec(insert))
+    const int newId = columnTable().insertRowWithNewId(this, tableName);
+    if (newId < 0)
         return false;
-    setId(insert.lastInsertId().toInt());
+    setId(newId);
 
     if (m_electrodeType != QLatin1String("ISE-MKA")) {
         for (TitrationCycleModel *cycle : qAsConst(m_titrationCycles)) {
