@@ -754,24 +754,9 @@ float DataManagerBase::getMKABlank() const
     return t->blankRequiredValue();
 }
 
-ConcentrationCalc::Sample DataManagerBase::mkaSample() const
-{
-    ConcentrationCalc::Sample s;
-    if (const TitrationSetupModel *t = titrationSetupModel()) {
-        s.resultUnits = t->resultUnits();
-        s.resultUnitsValue = t->resultUnitsValue();
-        s.sampleAmount = t->sampleAmount();
-        s.amount = t->sampleAmountValue();
-        s.density = t->sampleDensity();
-        s.molecularWeight = t->sampleMolecularWeight();
-    }
-    return s;
-}
-
 void DataManagerBase::getSigMKAPointsToUI(QVariant volume, QVariant mV, QVariant calConc, QVariant precision,
                                           QVariant drift, QVariant slope, QVariant e0)
 {
-    // The run record's known-addition rows take each addition once they exist.
     // The screens collect the additions and hand them to the run model.
     emit sigMKAPointsToUI(QString::number(volume.toDouble()), QString::number(mV.toDouble()),
                           QString::number(calConc.toDouble()), QString::number(precision.toDouble()),
@@ -787,13 +772,15 @@ void DataManagerBase::getMKATitrationCompleted(QVariant conc, QVariant slope, QV
 
 float DataManagerBase::getMKASampleBasis() const
 {
+    // Without a method the sample is the default one: 1 mL, result in mol/L.
     const TitrationSetupModel *t = titrationSetupModel();
-    return ConcentrationCalc::mkaSampleBasis(mkaSample(), t ? t->servingSize() : 1.0f);
+    return t ? t->mkaSampleBasis() : ConcentrationCalc::mkaSampleBasis(ConcentrationCalc::Sample(), 1.0f);
 }
 
 float DataManagerBase::mkaConvertResult(float molPerL)
 {
-    return ConcentrationCalc::mkaConvertResult(molPerL, mkaSample());
+    const TitrationSetupModel *t = titrationSetupModel();
+    return t ? t->mkaConvertResult(molPerL) : ConcentrationCalc::mkaConvertResult(molPerL, ConcentrationCalc::Sample());
 }
 
 int DataManagerBase::currentMethodId() const

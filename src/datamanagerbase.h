@@ -352,7 +352,6 @@ private:
     // of the curve while it runs.
     void beginRunCycle();
     void addRunPoint(float volumeMl, float value);
-    ConcentrationCalc::Sample mkaSample() const;
     // Ends a running fetch of a log list after its rows were deleted.
     void stopLogFetch(const QString &process);
 
