@@ -27,6 +27,21 @@ ApplicationWindow {
         anchors.centerIn: parent
         text: "Ready"
         font.pixelSize: 28
+        visible: dm.databaseMessage === ""
+    }
+
+    // A database file that could not be used: the session stores nothing.
+    Label {
+        objectName: "databaseMessage"
+        anchors.fill: parent
+        anchors.margins: 24
+        visible: dm.databaseMessage !== ""
+        text: dm.databaseMessage
+        wrapMode: Text.WordWrap
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        font.pixelSize: 20
+        color: "#b00020"
     }
 
     InputPanel {

@@ -76,10 +76,15 @@ class DataManagerBase : public QObject, public EngineDataInterface
     Q_PROPERTY(int rinseCycles READ rinseCycles WRITE setRinseCycles NOTIFY rinseCyclesChanged)
     Q_PROPERTY(int qmlStirSpeed READ qmlStirSpeed WRITE setQmlStirSpeed NOTIFY valueChanged)
     Q_PROPERTY(bool qmlStirrerState READ qmlStirrerState WRITE setQmlStirrerState NOTIFY valueChanged)
+    // Empty while the database file is in use; otherwise why the session
+    // stores nothing (the file could not be opened, read or migrated).
+    Q_PROPERTY(QString databaseMessage READ databaseMessage CONSTANT)
 
 public:
     static constexpr double uLtomL = 1000.0;
     static constexpr int kNotInThisMode = -999;
+    // The newest console text kept until it is read, in characters.
+    static constexpr int consoleLimit = 64 * 1024;
     static const QString modeTitration;
     static const QString modeStandardization;
 
@@ -219,6 +224,7 @@ public:
     QString titratorModelNo() const { return m_titratorModelNo; }
     void setTitratorModelNo(const QString &v);
     int productType() const { return 0; }
+    QString databaseMessage() const;
 
     // ---- Live state ----
     bool getDispenseInProgress() const override { return m_dispenseInProgress; }

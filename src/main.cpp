@@ -8,7 +8,7 @@
 #include "controller/metercontroller.h"
 #include "controller/mspcontroller.h"
 #include "datamanagerbase.h"
-#include "datamigrator.h"
+#include "databasestartup.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
 #include "models/electrodesetupmodel.h"
@@ -33,7 +33,6 @@
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
-#include <QSqlDatabase>
 #include <QtQml>
 
 namespace {
@@ -58,13 +57,10 @@ int main(int argc, char *argv[])
 
     // The database, before any application object exists.
     Platform::prepareSandbox();
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
-    db.setDatabaseName(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
-    db.open();
     // A file of another schema version is brought forward, or saved to JSON
-    // and emptied; the latter needs a restart of the service.
-    if (!DataMigrator::dmPtr()->migrate())
-        DataMigrator::dmPtr()->restartApp();
+    // and emptied (then the service restarts, once per boot at most). A file
+    // that can't be used is left alone and the session stores nothing.
+    DatabaseStartup::open(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
 
     qputenv("QT_IM_MODULE", QByteArray("qtvirtualkeyboard"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);

@@ -1,5 +1,7 @@
 #include "models/methodmodel.h"
 
+#include "models/modelproperty.h"
+
 #include "models/dbtransaction.h"
 #include "models/dbutil.h"
 #include "models/electrodesetupmodel.h"
@@ -108,6 +110,37 @@ bool MethodModel::ensureScratchMethod()
     return true;
 }
 
+// The id counter of the method table is raised to at least the highest
+// method id that a run or a log entry names, so that a new method never takes
+// the id of one whose records are still there. The counter is set directly:
+// a marker row with that id would collide with the method itself when it
+// still exists.
+bool MethodModel::raiseIdSequenceAboveRuns()
+{
+    qint64 highest = 0;
+    for (const char *table : {"titrationTable", "titrationLogTable", "standardisationLogTable", "calibrationLogTable"}) {
+        const QString name = QString::fromLatin1(table);
+        if (!DbUtil::tableExists(name) || !DbUtil::columnNames(name).contains(QStringLiteral("methodId")))
+            continue;
+        bool ok = false;
+        const QVariant v = DbUtil::scalar(QStringLiteral("SELECT MAX(CAST(methodId AS INTEGER)) FROM %1").arg(name), &ok);
+        if (!ok)
+            return false;
+        highest = qMax(highest, v.toLongLong());
+    }
+    if (highest <= 0)
+        return true;
+    QSqlQuery update;
+    update.prepare(QStringLiteral("UPDATE sqlite_sequence SET seq = :seq WHERE name = 'methodSetupTable' AND seq < :floor"));
+    update.bindValue(QStringLiteral(":seq"), highest);
+    update.bindValue(QStringLiteral(":floor"), highest);
+    QSqlQuery insert;
+    insert.prepare(QStringLiteral("INSERT INTO sqlite_sequence (name, seq) SELECT 'methodSetupTable', :seq "
+                                  "WHERE NOT EXISTS (SELECT 1 FROM sqlite_sequence WHERE name = 'methodSetupTable')"));
+    insert.bindValue(QStringLiteral(":seq"), highest);
+    return DbUtil::exec(update) && DbUtil::exec(insert);
+}
+
 bool MethodModel::migrate(const QString &fromVersion)
 {
     MigrationFrame frame;
@@ -129,14 +162,12 @@ bool MethodModel::migrate(const QString &fromVersion)
             columnTable().createSql(tableName, false),
             QStringLiteral("INSERT INTO methodSetupTable SELECT %1 FROM methodSetupTable_backup;").arg(columns),
             QStringLiteral("DROP TABLE methodSetupTable_backup"),
-            QStringLiteral("INSERT INTO methodSetupTable(id, blankConcentration) VALUES((SELECT MAX(methodID) FROM titrationTable), -42.0);"),
-            QStringLiteral("DELETE FROM methodSetupTable WHERE blankConcentration=-42.0;"),
         };
         DbTransaction unit;
         bool ok = true;
         for (const QString &s : statements)
             ok = DbUtil::execText(s) && ok;
-        return ok && unit.commit();
+        return ok && raiseIdSequenceAboveRuns() && unit.commit();
     };
     return frame.run(fromVersion);
 }
@@ -354,8 +385,7 @@ QQmlListProperty<MethodModel> MethodModel::methods()
 
 void MethodModel::clearMethods()
 {
-    qDeleteAll(m_methods);
-    m_methods.clear();
+    releaseLater(m_methods);
 }
 
 bool MethodModel::loadMethodsFromDb(const QString &tableSuffix, bool sanitize)

@@ -61,6 +61,7 @@ public:
 
     static bool createTables();
     static bool migrate(const QString &fromVersion);
+    static bool raiseIdSequenceAboveRuns();
     // Stored methods, the working method not counted.
     static int methodCount();
     // A name that no stored method has: a trailing "~N" is taken off and

@@ -1,8 +1,13 @@
-// A process killed at any step of a migration or of the wipe leaves a file
-// that opens and holds either the old data or the new, never a mixture, and
-// a JSON copy that is either the previous one or complete.
+// A process killed at any step of a migration, of the wipe, or of a
+// whole-log deletion leaves a file that opens and holds either the old data
+// or the new, never a mixture, and a JSON copy that is either the previous
+// one or complete.
 #include "datamigrator.h"
+#include "logrecords.h"
+#include "models/calibrationlogmodel.h"
+#include "models/logtables.h"
 #include "models/sysinfomodel.h"
+#include "models/titrationlogmodel.h"
 #include "testdatabase.h"
 
 #include <QFile>
@@ -16,6 +21,7 @@
 #include <sqlite3.h>
 
 #include <csignal>
+#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,10 +37,10 @@ int countOrKill(void *)
     return 0;
 }
 
-// Runs the start-up decision in a child process that dies at SQLite VM step
-// killAt (0: never). Returns the number of steps the child got through when
-// it finished, or -1 when it was killed.
-long migrateInChild(const QString &dbPath, long killAt, const QString &stepsFile)
+// Runs `work` in a child process that dies at SQLite VM step killAt (0:
+// never). Returns the number of steps the child got through when it
+// finished, or -1 when it was killed.
+long runInChild(const QString &dbPath, long killAt, const QString &stepsFile, const std::function<void()> &work)
 {
     const pid_t pid = ::fork();
     if (pid == 0) {
@@ -48,7 +54,7 @@ long migrateInChild(const QString &dbPath, long killAt, const QString &stepsFile
         g_steps = 0;
         g_killAt = killAt;
         sqlite3_progress_handler(*static_cast<sqlite3 *const *>(handle.data()), 1, &countOrKill, nullptr);
-        DataMigrator::dmPtr()->migrate();
+        work();
         writeTextFile(stepsFile, QString::number(g_steps));
         ::_exit(0);
     }
@@ -58,6 +64,11 @@ long migrateInChild(const QString &dbPath, long killAt, const QString &stepsFile
         return -1;
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
     return readTextFile(stepsFile).toLong();
+}
+
+long migrateInChild(const QString &dbPath, long killAt, const QString &stepsFile)
+{
+    return runInChild(dbPath, killAt, stepsFile, [] { DataMigrator::dmPtr()->migrate(); });
 }
 
 // The file as text. An emptied sqlite_sequence that VACUUM has not yet
@@ -144,5 +155,70 @@ INSTANTIATE_TEST_SUITE_P(
     [](const ::testing::TestParamInfo<const char *> &info) {
         return std::string(info.index == 0 ? "OlderVersion" : "UnknownVersion");
     });
+
+// A full log with its runs, cycles, calibrations, points and reports.
+void fillLogs()
+{
+    LogRecords::createTables();
+    TitrationLogModel::createTable();
+    CalibrationLogModel::createTable();
+    for (int i = 0; i < 30; ++i) {
+        const int run = LogRecords::addRun(QStringLiteral("Titration"), QStringLiteral("pH"), 2).value(QStringLiteral("id")).toInt();
+        LogRecords::addReport(QStringLiteral("Titration"), "titrationId", run);
+        TestDatabase::exec(QStringLiteral("INSERT INTO titrationLogTable (titration_Id, electrodeSetup_Type, logCreatedAt) "
+                                          "VALUES (%1, 'pH', '2026-01-01T00:00:00')").arg(run));
+        const int cal = LogRecords::addCalibration(QStringLiteral("pH"), 3).value(QStringLiteral("id")).toInt();
+        LogRecords::addReport(QStringLiteral("Calibration"), "calibrationId", cal);
+        TestDatabase::exec(QStringLiteral("INSERT INTO calibrationLogTable (calibration_Id, logCreatedAt) "
+                                          "VALUES (%1, '2026-01-01T00:00:00')").arg(cal));
+    }
+}
+
+class KilledLogDeletion : public ::testing::TestWithParam<int>
+{
+};
+
+TEST_P(KilledLogDeletion, LeavesTheLogWholeOrEmpty)
+{
+    const auto work = [log = GetParam()] {
+        if (log == LogTables::Titration)
+            LogTables::deleteTitrationLog();
+        else
+            LogTables::deleteCalibrationLog();
+    };
+    TestDatabase db;
+    fillLogs();
+    db.close();
+    const QString original = db.path() + QStringLiteral(".orig");
+    const QString stepsFile = db.path() + QStringLiteral(".steps");
+    ASSERT_TRUE(QFile::copy(db.path(), original));
+    const QString whole = dumpOf(db);
+    const long total = runInChild(db.path(), 0, stepsFile, work);
+    ASSERT_GT(total, 50);
+    const QString emptied = dumpOf(db);
+    ASSERT_NE(whole, emptied);
+
+    int killed = 0;
+    for (int i = 1; i <= 20; ++i) {
+        const long at = total * i / 21;
+        QFile::remove(db.path());
+        QFile::remove(db.path() + QStringLiteral("-journal"));
+        ASSERT_TRUE(QFile::copy(original, db.path()));
+        if (runInChild(db.path(), at, stepsFile, work) < 0)
+            ++killed;
+        ASSERT_TRUE(db.open());
+        EXPECT_EQ(integrity(), QStringLiteral("ok")) << "killed at step " << at;
+        db.close();
+        const QString dump = dumpOf(db);
+        EXPECT_TRUE(dump == whole || dump == emptied) << "killed at step " << at << " of " << total;
+    }
+    EXPECT_GT(killed, 15);
+    ASSERT_TRUE(db.open());
+}
+
+INSTANTIATE_TEST_SUITE_P(Logs, KilledLogDeletion, ::testing::Values(int(LogTables::Titration), int(LogTables::Calibration)),
+                         [](const ::testing::TestParamInfo<int> &info) {
+                             return std::string(info.param == LogTables::Titration ? "Titration" : "Calibration");
+                         });
 
 } // namespace
