@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <gtest/gtest.h>
@@ -88,13 +89,14 @@ TEST_P(UnusableDatabase, RunsWithoutStoringAndLeavesFileAndBackupAlone)
     // Two starts in the same boot: neither changes anything nor restarts.
     for (int start = 0; start < 2; ++start) {
         EXPECT_EQ(DatabaseStartup::open(file()), DatabaseStartup::State::ReadOnly);
-        EXPECT_TRUE(DatabaseStartup::message().contains(QLatin1String(GetParam().why))) << DatabaseStartup::message();
+        EXPECT_TRUE(DatabaseStartup::message().contains(QLatin1String(GetParam().why))) << DatabaseStartup::message().toStdString();
         // The session still has tables to stand on, in memory.
         EXPECT_TRUE(DbUtil::execText(QStringLiteral("CREATE TABLE IF NOT EXISTS probe (id integer primary key)")));
     }
     EXPECT_EQ(bytesOf(DataMigrator::backupFilePath()), goodCopy);
-    if (QFileInfo(file()).isFile())
+    if (QFileInfo(file()).isFile()) {
         EXPECT_EQ(bytesOf(file()), fileBefore);
+    }
     EXPECT_EQ(restartsRecorded(), 0);
 }
 

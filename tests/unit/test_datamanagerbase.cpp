@@ -326,12 +326,12 @@ TEST_F(DataManager, ConsolePipeHandsOverEachTextOnce)
     EXPECT_TRUE(empty.isEmpty());
 
     // Nobody reading: only the newest text is kept.
-    for (int i = 0; i < 2000; ++i)
+    for (int i = 0; i < 3000; ++i)
         dm->sendToConsole(QStringLiteral("line %1 of a run nobody reads\n").arg(i, 4, 10, QLatin1Char('0')));
     QString kept;
     EXPECT_TRUE(dm->getConsoleMes(&kept));
     EXPECT_EQ(kept.size(), DataManagerBase::consoleLimit);
-    EXPECT_TRUE(kept.endsWith(QStringLiteral("line 1999 of a run nobody reads\n")));
+    EXPECT_TRUE(kept.endsWith(QStringLiteral("line 2999 of a run nobody reads\n")));
 }
 
 TEST_F(DataManager, MethodListsAndRunCyclesDoNotPileUpObjects)

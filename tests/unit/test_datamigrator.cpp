@@ -1,3 +1,4 @@
+#include "datamanagerbase.h"
 #include "datamigrator.h"
 #include "models/dbutil.h"
 #include "models/methodmodel.h"
@@ -99,6 +100,11 @@ struct OldFile {
     int meterRowsLeft;
 };
 
+void PrintTo(const OldFile &file, std::ostream *os)
+{
+    *os << "version " << file.version;
+}
+
 class MigrationOfVersion : public Migration, public ::testing::WithParamInterface<OldFile>
 {
 };
@@ -126,13 +132,13 @@ TEST_P(MigrationOfVersion, KeepsEveryMethodAndWhatTheShapeAllows)
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         const QString &t = it.key();
         if (old.dropped.contains(t))
-            EXPECT_EQ(TestDatabase::rowCount(t), -1) << t;
+            EXPECT_EQ(TestDatabase::rowCount(t), -1) << t.toStdString();
         else if (t == QLatin1String("reportSetupTable"))
             EXPECT_EQ(TestDatabase::rowCount(t), old.reportsLeft);
         else if (t == QLatin1String("MeasurementTable"))
             EXPECT_EQ(TestDatabase::rowCount(t), old.meterRowsLeft);
         else
-            EXPECT_EQ(rowsOf(t, columns[t]), it.value()) << t;
+            EXPECT_EQ(rowsOf(t, columns[t]), it.value()) << t.toStdString();
     }
     EXPECT_TRUE(tableSql(QStringLiteral("methodSetupTable")).contains(QLatin1String("autoincrement"), Qt::CaseInsensitive));
     const QStringList titration = TestDatabase::columns(QStringLiteral("titrationSetupTable"));
@@ -142,6 +148,20 @@ TEST_P(MigrationOfVersion, KeepsEveryMethodAndWhatTheShapeAllows)
         EXPECT_EQ(sysInfo.mfgSerialNum(), QStringLiteral("SN-0042"));
     }
     EXPECT_EQ(SysInfoModel::readDbVersion(), QStringLiteral("1.8"));
+    // The data layer starts on the migrated file without a failed statement.
+    static QStringList failed;
+    failed.clear();
+    const QtMessageHandler previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+        if (text.contains(QLatin1String("SQL failed")))
+            failed << text;
+    });
+    {
+        DataManagerBase dm;
+        dm.DataManagerLegacyInit();
+        dm.updateProdType(QStringLiteral("All-in-one"));
+    }
+    qInstallMessageHandler(previous);
+    EXPECT_TRUE(failed.isEmpty()) << failed.join(QLatin1Char('\n')).toStdString();
 
     // A new method never takes an id that a run pointed to.
     MethodModel method;
