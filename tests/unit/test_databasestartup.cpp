@@ -75,6 +75,11 @@ struct UnusableFile {
     const char *why; // a word of the message
 };
 
+void PrintTo(const UnusableFile &file, std::ostream *os)
+{
+    *os << file.name;
+}
+
 class UnusableDatabase : public Startup, public ::testing::WithParamInterface<UnusableFile>
 {
 };
