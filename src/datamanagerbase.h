@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/enginedatainterface.h"
+#include "interfaces/meterdatainterface.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
 #include "models/concentrationcalc.h"
@@ -43,7 +44,7 @@ class TitrationSetupModel;
 // titration part of the method in "Titration" mode, the titrant part in
 // "Standardization" mode) and takes the results of a run. Published to the
 // screens as "dm".
-class DataManagerBase : public QObject, public EngineDataInterface
+class DataManagerBase : public QObject, public EngineDataInterface, public MeterDataInterface
 {
     Q_OBJECT
     Q_PROPERTY(QString deviceMode READ deviceMode WRITE setDeviceMode NOTIFY valueChanged)
@@ -106,7 +107,7 @@ public:
 
     // ---- Models ----
     MethodModel *methodModel() const { return m_methodModel; }
-    ElectrodeSetupModel *electrodeSetupModel() const;
+    ElectrodeSetupModel *electrodeSetupModel() const override;
     TitrantSetupModel *titrantSetupModel() const;
     TitrationSetupModel *titrationSetupModel() const;
     SysInfoModel *sysInfoModel() const { return m_sysInfoModel; }
@@ -139,8 +140,8 @@ public:
 
     // The meter's measurement engine, used for the mV and pH conversions.
     // Until one is set, a private one with an uncalibrated electrode serves.
-    void setMeasurementContext(CMeasurementContext *context);
-    CMeasurementContext *measurementContext() const { return m_MeasContext; }
+    void setMeasurementContext(CMeasurementContext *context) override;
+    CMeasurementContext *measurementContext() const override { return m_MeasContext; }
 
     // ---- Mode ----
     QString deviceMode() const override { return m_deviceMode; }
@@ -188,7 +189,7 @@ public:
     float millivoltsToPH(float millivolts) override;
     float phToMillivolts(float ph) override;
     float getMeasuredMillivolt(float millivolts);
-    float getTemperature() const { return m_temperatureCelcius; }
+    float getTemperature() const override { return m_temperatureCelcius; }
     float getMillivolts() const { return m_millivolts; }
 
     // ---- Results in ----
@@ -431,14 +432,14 @@ private:
 
 public:
     // Made on first use, with the meter state row loaded.
-    MeterRecords *meterRecords();
-    MeasurementModel *measurementModel();
-    CalibrationModel *calibrationModel();
-    CalibrationCycleModel *calibrationCycleModel();
+    MeterRecords *meterRecords() override;
+    MeasurementModel *measurementModel() override;
+    CalibrationModel *calibrationModel() override;
+    CalibrationCycleModel *calibrationCycleModel() override;
     QQmlListProperty<CalibrationCycleModel> calibrationcycles();
-    const QList<CalibrationCycleModel *> &calibrationCycleList();
+    const QList<CalibrationCycleModel *> &calibrationCycleList() override;
     // One finished point of the calibration in hand, into memory.
-    void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp);
+    void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp) override;
 
 public slots:
     void initiateCalibrationModelFromTitration();
@@ -446,7 +447,7 @@ public slots:
     void insertCalibrationValue();
     void getCalibrationCycles();
     void getCalibrationCyclesFromDb(int calId);
-    void loadLastCalibration(const QString &probeType, const QString &iseType);
+    void loadLastCalibration(const QString &probeType, const QString &iseType) override;
     void loadCalibrationPoints(int calId);
     void deleteCalibrationModelAndPoints();
     void insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset);

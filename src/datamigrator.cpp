@@ -18,7 +18,7 @@
 #include "models/titrationlogmodel.h"
 #include "models/titrationmodel.h"
 #include "models/titrationsetupmodel.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "system/platform.h"
 
 #include <QDebug>

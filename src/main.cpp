@@ -88,7 +88,7 @@ int main(int argc, char *argv[])
     DataManagerBase *dm = DataManagerBase::dmPtr(); // the data layer; the engine's from here on
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
-    MeterController *mc = MeterController::mcPtr(); // the measurement engine, lent to the data layer
+    MeterController *mc = MeterController::mcPtr(dm); // the measurement engine, lent to the data layer
     TitrationControllerBase *tc = TitrationControllerBase::tcPtr(); // the run controller; sets the backlight
     Q_UNUSED(msp)
 

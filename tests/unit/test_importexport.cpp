@@ -1,7 +1,7 @@
 #include "models/methodmodel.h"
 #include "models/sysinfomodel.h"
 #include "models/titrantsetupmodel.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "testdatabase.h"
 
 #include <QFile>

@@ -19,7 +19,7 @@
 #include "scenario.h"
 #include "slavesession.h"
 #include "system/clock.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "system/platform.h"
 #include "titrationcontrollerbase.h"
 #include "virtualslave.h"

@@ -1,4 +1,4 @@
-#include "system/importexport.h"
+#include "models/importexport.h"
 
 #include "models/dbtransaction.h"
 #include "models/dbutil.h"
