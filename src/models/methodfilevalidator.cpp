@@ -217,6 +217,8 @@ QString shown(const QVariant &v)
         return QStringLiteral("a list or object");
     if (v.userType() == QMetaType::Bool)
         return v.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    if (!isText(v) && v.canConvert<double>())
+        return QString::number(v.toDouble(), 'g', 10);
     QString text = v.toString();
     if (text.size() > 40)
         text = text.left(40) + QStringLiteral("...");
@@ -437,6 +439,12 @@ QString MethodFileValidator::checkFile(const QString &fileName) const
         return QStringLiteral("is not a method file: it holds no JSON object");
 
     const QJsonObject root = doc.object();
+    // Keys name tables and columns: never anything but plain names. A column
+    // that this version doesn't have (a newer file) is left out on import.
+    for (const QString &key : root.keys()) {
+        if (!DbUtil::isPlainIdentifier(key))
+            return QStringLiteral("is not a method file: \"%1\" is not a table name").arg(key.left(40));
+    }
     QVariantMap rows[PartCount];
     int methodId = 0;
     for (int p = 0; p < PartCount; ++p) {
@@ -452,6 +460,10 @@ QString MethodFileValidator::checkFile(const QString &fileName) const
         const QJsonValue row = tableRows.constBegin().value();
         if (!row.isObject())
             return QStringLiteral("the %1 part is not a row of values").arg(QLatin1String(kPartNames[p]));
+        for (const QString &key : row.toObject().keys()) {
+            if (!DbUtil::isPlainIdentifier(key))
+                return QStringLiteral("%1 part: \"%2\" is not a column name").arg(QLatin1String(kPartNames[p]), key.left(40));
+        }
         rows[p] = rowFromJson(row.toObject());
         const QString why = p == MethodPart ? idProblem(rows[p].value(QStringLiteral("id")), &methodId)
                                             : partProblem(Part(p), rows[p].value(QStringLiteral("methodId")), methodId);
