@@ -8,18 +8,16 @@
 #include "models/runwithlog.h"
 #include "models/titrationlogmodel.h"
 #include "models/titrationmodel.h"
+#include "killedchild.h"
 #include "testdatabase.h"
 
 #include <QFile>
-#include <QSqlDatabase>
-#include <QSqlDriver>
 #include <QSqlQuery>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
 #include <csignal>
 #include <fcntl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -27,7 +25,6 @@ namespace {
 constexpr int kKills = 20;
 constexpr int kRunsPerChild = 3;
 
-sqlite3 *g_db = nullptr;
 long g_steps = 0;
 long g_killAt = 0;
 // Which step the kill is due at: a step of all the work (at once, or at the
@@ -39,23 +36,22 @@ long g_saveSteps = 0;
 const char *g_markFile = nullptr;
 
 // Dies when the kill is due; notes whether a transaction was open.
-int countOrKill(void *)
+void countOrKill(sqlite3 *db)
 {
     ++g_steps;
     g_saveSteps += g_inMethodSave ? 1 : 0;
     const long step = g_when == KillWhen::InMethodSave ? (g_inMethodSave ? g_saveSteps : 0) : g_steps;
     if (g_killAt <= 0 || step < g_killAt)
-        return 0;
-    const bool inTransaction = sqlite3_get_autocommit(g_db) == 0;
+        return;
+    const bool inTransaction = sqlite3_get_autocommit(db) == 0;
     if (g_when == KillWhen::InTransaction && !inTransaction)
-        return 0;
+        return;
     const int fd = ::open(g_markFile, O_WRONLY | O_CREAT | O_TRUNC, 0600);
     if (fd >= 0) {
         (void)!::write(fd, inTransaction ? "T" : "A", 1);
         ::close(fd);
     }
     ::raise(SIGKILL);
-    return 0;
 }
 
 // What the summary path of a run does, `runs` times, each run after the save
@@ -94,27 +90,17 @@ void storeRuns(int runs)
 long runInChild(const QString &dbPath, long killAt, KillWhen when, const QString &stepsFile)
 {
     const QByteArray mark = (dbPath + QStringLiteral(".mark")).toLocal8Bit();
-    const pid_t pid = ::fork();
-    if (pid == 0) {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
-        db.setDatabaseName(dbPath);
-        if (!db.open())
-            ::_exit(3);
-        g_db = *static_cast<sqlite3 *const *>(db.driver()->handle().data());
-        g_steps = 0;
-        g_killAt = killAt;
-        g_when = when;
-        g_markFile = mark.constData();
-        sqlite3_progress_handler(g_db, 1, &countOrKill, nullptr);
+    g_steps = 0;
+    g_saveSteps = 0;
+    g_killAt = killAt;
+    g_when = when;
+    g_markFile = mark.constData();
+    const bool killed = KilledChild::run(dbPath, &countOrKill, [&] {
         storeRuns(kRunsPerChild);
         writeTextFile(stepsFile, QStringLiteral("%1 %2").arg(g_steps).arg(g_saveSteps));
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(pid, &status, 0);
-    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
+    });
+    if (killed)
         return -1;
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
     return readTextFile(stepsFile).section(QLatin1Char(' '), when == KillWhen::InMethodSave ? 1 : 0, 0).toLong();
 }
 

@@ -1,6 +1,7 @@
 # The crash tests reach below QtSql to SQLite itself, to stop a child
 # process at a chosen step of a statement.
 find_package(SQLite3 REQUIRED)
+# (tests/common/killedchild does this for the tests that use it.)
 foreach(t integration_migrationkill integration_runkill)
   if(TARGET ${t})
     target_link_libraries(${t} PRIVATE SQLite::SQLite3)
