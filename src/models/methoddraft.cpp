@@ -47,7 +47,7 @@ int MethodDraft::save(const QString &name, QString *error) const
     s->setTotalSolutionVolume(totalSolutionMl);
     s->setResultUnits(resultUnits);
     s->setReactionRatio(1.0f);
-    s->setBlankRequired(QStringLiteral("None"));
+    s->setBlankRequired(QStringLiteral("No"));
     s->setPreDoseTitrantVolume(preDoseMl);
     s->setMaxTotalTitrantVolume(maxVolumeMl);
     s->setPreStirDuration(float(preStirS));

@@ -3,6 +3,7 @@
 // or the new, never a mixture, and a JSON copy that is either the previous
 // one or complete.
 #include "datamigrator.h"
+#include "killedchild.h"
 #include "logrecords.h"
 #include "models/calibrationlogmodel.h"
 #include "models/logtables.h"
@@ -15,55 +16,35 @@
 #include <QJsonObject>
 #include <QRandomGenerator>
 #include <QSqlDatabase>
-#include <QSqlDriver>
 #include <QSqlQuery>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <csignal>
 #include <functional>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
 long g_steps = 0;
 long g_killAt = 0;
 
-int countOrKill(void *)
-{
-    if (++g_steps == g_killAt)
-        ::raise(SIGKILL);
-    return 0;
-}
-
 // Runs `work` in a child process that dies at SQLite VM step killAt (0:
 // never). Returns the number of steps the child got through when it
 // finished, or -1 when it was killed.
 long runInChild(const QString &dbPath, long killAt, const QString &stepsFile, const std::function<void()> &work)
 {
-    const pid_t pid = ::fork();
-    if (pid == 0) {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
-        db.setDatabaseName(dbPath);
-        if (!db.open())
-            ::_exit(3);
-        const QVariant handle = db.driver()->handle();
-        if (qstrcmp(handle.typeName(), "sqlite3*") != 0)
-            ::_exit(4);
-        g_steps = 0;
-        g_killAt = killAt;
-        sqlite3_progress_handler(*static_cast<sqlite3 *const *>(handle.data()), 1, &countOrKill, nullptr);
-        work();
-        writeTextFile(stepsFile, QString::number(g_steps));
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(pid, &status, 0);
-    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
-        return -1;
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-    return readTextFile(stepsFile).toLong();
+    g_steps = 0;
+    g_killAt = killAt;
+    const bool killed = KilledChild::run(
+        dbPath,
+        [](sqlite3 *) {
+            if (++g_steps == g_killAt)
+                ::raise(SIGKILL);
+        },
+        [&] {
+            work();
+            writeTextFile(stepsFile, QString::number(g_steps));
+        });
+    return killed ? -1 : readTextFile(stepsFile).toLong();
 }
 
 long migrateInChild(const QString &dbPath, long killAt, const QString &stepsFile)
