@@ -1,12 +1,7 @@
 # The crash tests reach below QtSql to SQLite itself, to stop a child
-# process at a chosen step of a statement.
+# process at a chosen step of a statement (tests/common/killedchild).
 find_package(SQLite3 REQUIRED)
-# (tests/common/killedchild does this for the tests that use it.)
-foreach(t integration_runkill)
-  if(TARGET ${t})
-    target_link_libraries(${t} PRIVATE SQLite::SQLite3)
-  endif()
-endforeach()
+target_link_libraries(kestrum_testsupport PUBLIC SQLite::SQLite3)
 # Tests that start the console runner need it built first.
 foreach(t integration_methodfiles)
   if(TARGET ${t})
