@@ -2,8 +2,8 @@
 // start to the home screen on show, through the UI driver's socket; and a
 // section switch of the side bar until the frame is drawn.
 // Each start is a process of its own (build/bin/Kestrum) on a sandbox whose
-// first start is done, with the offscreen platform: what is measured is the
-// program's work, not an X server's.
+// first start is done, with the offscreen platform and the software renderer:
+// what is measured is the program's work, not an X server's or a GPU's.
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QJsonDocument>
@@ -31,6 +31,7 @@ QProcessEnvironment environmentFor(const QString &sandbox)
     env.insert(QStringLiteral("KESTRUM_SANDBOX"), sandbox);
     env.insert(QStringLiteral("KESTRUM_UI_DRIVER"), QStringLiteral("1"));
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    env.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
     return env;
 }
 

@@ -106,8 +106,11 @@ Item {
         "User Defined Titrant Name": qsTr("Enter the name of your own titrant.")
     })
 
+    // Whether a tip is on show.
+    property bool shown: false
+
     anchors.fill: parent
-    visible: container.visible
+    visible: shown
 
     function presentTipsFor(pageTitle) {
         title = pageTitle
@@ -117,28 +120,27 @@ Item {
         titleLongText.text = title.length < maximumLength ? qsTr(title) + ls.translatedText : ""
         container.anchors.leftMargin = pageTitle === "Cycle screen" ? 20 : 104
         headerText.anchors.leftMargin = pageTitle === "Standardization Reaction Ratio" ? 0 : 30
-        container.visible = tipText.text !== "Tips not found"
+        shown = tipText.text !== "Tips not found"
     }
 
     function dismiss() {
-        container.visible = false
+        shown = false
     }
 
     MouseArea {
         anchors.fill: parent
-        enabled: container.visible
         onClicked: tips.dismiss()
     }
 
     Rectangle {
         id: container
-        visible: false
         anchors.left: parent.left
         anchors.leftMargin: 104
         anchors.right: parent.right
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
-        height: 300
+        // As tall as the text needs, scrolling beyond 340 pixels.
+        height: Math.min(340, closeButton.height + tipText.implicitHeight + 24)
         radius: 6
         color: Colors.whiteColor
         border.color: Colors.summerSkyColor

@@ -7,7 +7,14 @@
 #include "controller/mspcontroller.h"
 #include "controller/reportcontroller.h"
 #include "datamanagerbase.h"
+#include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
+#include "models/electrodesetupmodel.h"
+#include "models/methodmodel.h"
+#include "models/setupmodel.h"
+#include "models/titrantsetupmodel.h"
+#include "models/titrationmodel.h"
+#include "models/titrationsetupmodel.h"
 #include "models/measurementlogmodel.h"
 #include "models/measurementmodel.h"
 #include "models/reportmodel.h"
@@ -203,6 +210,7 @@ TEST_F(Screens, ViewLogOpensTheLogsInForce)
 {
     call("skipToHome");
     call("calibrationNotificationQmlSlot", 7);
+    QTest::qWait(100); // a frame: the popup's buttons are laid out
     UiScene scene(root);
     QQuickItem *viewLog = scene.itemWithText(QStringLiteral("View Log"));
     ASSERT_TRUE(viewLog);
@@ -217,6 +225,8 @@ TEST_F(Screens, ViewLogOpensTheLogsInForce)
 int main(int argc, char **argv)
 {
     qputenv("QT_IM_MODULE", QByteArray("qtvirtualkeyboard"));
+    // The offscreen platform has no OpenGL: the software renderer draws.
+    QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     QGuiApplication app(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Material"));
     ::testing::InitGoogleTest(&argc, argv);
