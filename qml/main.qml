@@ -1,5 +1,6 @@
 import QtQuick 2.12
 import QtQuick.Controls 2.12
+import QtQuick.Controls.Material 2.12
 import QtQuick.Window 2.12
 import QtQuick.VirtualKeyboard 2.1
 import "Constants/Colors.js" as Colors
@@ -55,6 +56,8 @@ ApplicationWindow {
     title: "Vantor Pro V400"
     color: Colors.deeptangaroaColor
     font.family: "Roboto"
+    Material.theme: Material.Light
+    Material.accent: Colors.summerSkyColor
 
     onCurrentStackChanged: tips.dismiss()
     onCurrentStackDepthChanged: tips.dismiss()

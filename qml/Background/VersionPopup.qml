@@ -46,12 +46,10 @@ Rectangle {
         }
     }
 
-    Grid {
+    Column {
         x: 24
         y: 72
-        columns: 2
-        columnSpacing: 24
-        rowSpacing: 10
+        spacing: 10
         Repeater {
             model: [
                 [qsTr("IP") + ls.translatedText, rm.ipAddress],
@@ -63,7 +61,7 @@ Rectangle {
             delegate: Row {
                 spacing: 24
                 Text { width: 160; color: Colors.paleSkyColor; font.family: "Roboto"; font.pixelSize: 17; text: modelData[0] }
-                Text { width: 360; color: Colors.whiteColor; font.family: "Roboto"; font.pixelSize: 17; elide: Text.ElideRight; text: String(modelData[1]) }
+                Text { width: 400; color: Colors.whiteColor; font.family: "Roboto"; font.pixelSize: 17; elide: Text.ElideRight; text: String(modelData[1]) }
             }
         }
     }

@@ -44,7 +44,8 @@ Rectangle {
         id: panel
         visible: true
         title: busy.header
-        height: 52 + 20 + Math.max(indicator.height, messageText.implicitHeight) + 24 + closeButton.height + 20
+        height: 52 + 20 + Math.max(busy.working ? indicator.height : 0, messageText.implicitHeight)
+                + (busy.working ? 0 : 24 + closeButton.height) + 20
 
         BusyIndicator {
             id: indicator
@@ -58,6 +59,7 @@ Rectangle {
             anchors.left: busy.working ? indicator.right : parent.left
             anchors.leftMargin: busy.working ? 16 : 0
             anchors.right: parent.right
+            anchors.verticalCenter: busy.working ? indicator.verticalCenter : undefined
             wrapMode: Text.WordWrap
             color: Colors.deeptangaroaColor
             font.family: "Roboto"

@@ -105,6 +105,16 @@ protected:
     }
     QObject *byId(const QString &id) { return qmlContext(root)->contextProperty(id).value<QObject *>(); }
     QString warnings() const { return driver->warnings().join(QLatin1Char('\n')); }
+    // With KESTRUM_UI_SHOTS set, a picture of the window into that folder, to
+    // look at (on a display: the offscreen platform draws no picture).
+    void saveShot(const QString &name)
+    {
+        const QString dir = qEnvironmentVariable("KESTRUM_UI_SHOTS");
+        QTest::qWait(100);
+        if (!dir.isEmpty()) {
+            root->grabWindow().save(dir + QLatin1Char('/') + name);
+        }
+    }
 
     TestDatabase db;
     std::unique_ptr<DataManagerBase> dm;
@@ -217,6 +227,43 @@ TEST_F(Screens, ViewLogOpensTheLogsInForce)
     scene.tap(viewLog);
     EXPECT_EQ(root->property("currentStack").value<QObject *>(), byId(QStringLiteral("logStack")));
     EXPECT_FALSE(scene.showsText(QStringLiteral("Measurement Log Full")));
+    EXPECT_EQ(warnings(), QString());
+}
+
+TEST_F(Screens, VersionPageOnlyForServiceInstruments)
+{
+    call("skipToHome");
+    QObject *versionPopup = byId(QStringLiteral("versionPopup"));
+    for (const char *name : {"Bench 1", "", "Kestrum Tester ", "PtQrBenchHandy", "Kestrum Tester"}) {
+        versionPopup->setProperty("visible", false);
+        dm->setupModel()->setInstrumentName(QString::fromLatin1(name));
+        call("openVersionPage");
+        const bool service = QByteArray(name) == "PtQrBenchHandy" || QByteArray(name) == "Kestrum Tester";
+        EXPECT_EQ(versionPopup->property("visible").toBool(), service) << name;
+    }
+    saveShot(QStringLiteral("version.png"));
+    EXPECT_EQ(warnings(), QString());
+}
+
+TEST_F(Screens, BusyPopupStates)
+{
+    call("skipToHome");
+    QObject *busy = byId(QStringLiteral("busy_popup"));
+    UiScene scene(root);
+    QMetaObject::invokeMethod(busy, "showPopupMultiInput", Q_ARG(QVariant, QStringLiteral("reportsMoved")),
+                              Q_ARG(QVariant, 3), Q_ARG(QVariant, QStringLiteral("VantorPro/Reports")));
+    EXPECT_TRUE(scene.showsText(QStringLiteral("3 Reports Moved To VantorPro/Reports")));
+    EXPECT_TRUE(scene.showsText(QStringLiteral("Report Moved")));
+    QMetaObject::invokeMethod(busy, "present", Q_ARG(QVariant, QStringLiteral("exportStart")));
+    saveShot(QStringLiteral("busy-export.png"));
+    EXPECT_FALSE(scene.itemWithText(QStringLiteral("Close"))) << "no way out while work goes on";
+    QMetaObject::invokeMethod(busy, "present", Q_ARG(QVariant, QStringLiteral("usbNotReady")));
+    QTest::qWait(100);
+    saveShot(QStringLiteral("busy-usb.png"));
+    QQuickItem *close = scene.itemWithText(QStringLiteral("Close"));
+    ASSERT_TRUE(close);
+    scene.tap(close);
+    EXPECT_FALSE(busy->property("visible").toBool());
     EXPECT_EQ(warnings(), QString());
 }
 
