@@ -272,6 +272,9 @@ TEST_F(Screens, BusyPopupStates)
 int main(int argc, char **argv)
 {
     qputenv("QT_IM_MODULE", QByteArray("qtvirtualkeyboard"));
+    // Listing the tests needs no display either.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", QByteArray("offscreen"));
     // The offscreen platform has no OpenGL: the software renderer draws.
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     QGuiApplication app(argc, argv);
