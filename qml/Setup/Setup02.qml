@@ -7,4 +7,6 @@ SetupBackground {
     title: qsTr("Select Language") + ls.translatedText
     stepText: qsTr("Setup | Step 1 of 13") + ls.translatedText
     backVisible: false
+    // Next comes with the language list.
+    nextVisible: false
 }

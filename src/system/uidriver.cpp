@@ -1,5 +1,6 @@
 #include "system/uidriver.h"
 
+#include "reports/logmanager.h"
 #include "system/platform.h"
 #include "system/uiscene.h"
 
@@ -97,6 +98,10 @@ void UiDriver::attach(QQuickWindow *window)
     setWindow(window);
     const QString path = Platform::path(QStringLiteral("/run/ui.sock"));
     QString error;
+    m_trail = new LogManager(this);
+    m_trail->setLogfileDir(QStringLiteral("logFiles/uiDriverLogs"));
+    m_trail->setLogfileBasename(QStringLiteral("uiDriver"));
+    m_trail->newCyclicFile(100);
     if (listen(path, &error))
         qDebug() << "Kestrum: UI driver listening on" << path;
     else
@@ -136,7 +141,11 @@ void UiDriver::onReadable(QLocalSocket *socket)
     while (!m_busy && socket->canReadLine()) {
         const QByteArray line = socket->readLine(MaxLineBytes).trimmed();
         QPointer<QLocalSocket> guard(socket);
-        execute(QString::fromUtf8(line), [this, guard](bool ok, const QString &text) {
+        const QString command = QString::fromUtf8(line);
+        execute(command, [this, guard, command](bool ok, const QString &text) {
+            if (m_trail)
+                m_trail->writeStamped((ok ? QStringLiteral("ok   ") : QStringLiteral("FAIL ")) + command
+                                      + (ok ? QString() : QStringLiteral(": ") + text));
             if (!guard)
                 return;
             QJsonObject answer{{QStringLiteral("ok"), ok}, {QStringLiteral("text"), text}};

@@ -8,6 +8,7 @@
 
 #include <functional>
 
+class LogManager;
 class QLocalServer;
 class QLocalSocket;
 class QQmlEngine;
@@ -18,7 +19,8 @@ class QQuickWindow;
 // line: {"ok":true,"text":"..."}). The commands it runs itself:
 //   tap TEXT | tap #NAME, type TEXT, wait TEXT [SECONDS], expect TEXT,
 //   absent TEXT, texts, shot FILE, nowarnings
-// The client (vantor-cli ui) keeps sleep and beaker for itself.
+// The client (vantor-cli ui) keeps sleep and beaker for itself. Each command
+// and its answer is kept in a cyclic log file of the sandbox.
 class UiDriver : public QObject
 {
     Q_OBJECT
@@ -71,4 +73,7 @@ private:
     Pending m_pending;
     QElapsedTimer m_elapsed;
     QTimer m_poll;
+    // The session's trail: every command and its answer, in a cyclic log file
+    // ("logFiles/uiDriverLogs", one file per start of the application).
+    LogManager *m_trail = nullptr;
 };

@@ -32,6 +32,7 @@
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQmlContext>
+#include <QQmlInfo>
 #include <QQuickItem>
 #include <QQuickStyle>
 #include <QQuickWindow>
@@ -105,6 +106,7 @@ protected:
     }
     QObject *byId(const QString &id) { return qmlContext(root)->contextProperty(id).value<QObject *>(); }
     QString warnings() const { return driver->warnings().join(QLatin1Char('\n')); }
+
     // With KESTRUM_UI_SHOTS set, a picture of the window into that folder, to
     // look at (on a display: the offscreen platform draws no picture).
     void saveShot(const QString &name)
@@ -265,6 +267,65 @@ TEST_F(Screens, BusyPopupStates)
     scene.tap(close);
     EXPECT_FALSE(busy->property("visible").toBool());
     EXPECT_EQ(warnings(), QString());
+}
+
+// The driver's answers, as a script sees them.
+TEST_F(Screens, DriverAnswers)
+{
+    call("skipToHome");
+    driver->setWindow(root);
+    QTest::qWait(100);
+    auto run = [&](const QString &line) -> QPair<bool, QString> {
+        QPair<bool, QString> answer{false, QStringLiteral("no answer")};
+        bool done = false;
+        driver->execute(line, [&](bool ok, const QString &text) {
+            answer = {ok, text};
+            done = true;
+        });
+        QTest::qWaitFor([&] { return done; }, 8000);
+        return answer;
+    };
+    struct Row {
+        const char *line;
+        bool ok;
+        const char *text; // contained in the answer
+    } rows[] = {
+        {"expect Home", true, ""},
+        {"expect \"Home\"", true, ""},
+        {"absent Data Logs", true, ""},
+        {"absent Hom", false, "\"Home\" is on show"},
+        {"wait Data Logs 0.2", false, "no text contains \"Data Logs\" after 0.2 s; on show: "},
+        {"wait Home 0", false, "time limit"},
+        {"texts", true, "Home"},
+        {"tap #settingsButton", true, ""},
+        {"wait Settings 2", true, ""},
+        {"tap Settings", true, ""}, // a title takes the tap and does nothing
+        {"shot relative.png", false, "absolute"},
+        {"frobnicate", false, "unknown command"},
+        {"nowarnings", true, ""},
+    };
+    for (const Row &row : rows) {
+        const auto answer = run(QString::fromUtf8(row.line));
+        EXPECT_EQ(answer.first, row.ok) << row.line << ": " << answer.second.toStdString();
+        EXPECT_TRUE(answer.second.contains(QString::fromUtf8(row.text))) << row.line << ": " << answer.second.toStdString();
+    }
+    // Key presses reach the focused field.
+    QQmlComponent fieldComponent(engine.get());
+    fieldComponent.setData("import QtQuick 2.12\nTextInput { width: 200; height: 40; focus: true }", QUrl());
+    auto *field = qobject_cast<QQuickItem *>(fieldComponent.create(qmlContext(root)));
+    ASSERT_TRUE(field);
+    field->setParentItem(root->contentItem());
+    root->requestActivate();
+    field->forceActiveFocus();
+    EXPECT_TRUE(run(QStringLiteral("type Lab 1-b")).first);
+    EXPECT_EQ(field->property("text").toString(), QStringLiteral("Lab 1-b"));
+    delete field;
+    // Icon glyphs are no texts; the home glyph's button is found by its id.
+    EXPECT_FALSE(run(QStringLiteral("texts")).second.contains(QChar(0xe88a)));
+    qmlWarning(root) << "a warning of the screens";
+    const auto warned = run(QStringLiteral("nowarnings"));
+    EXPECT_FALSE(warned.first);
+    EXPECT_TRUE(warned.second.contains(QStringLiteral("a warning of the screens"))) << warned.second.toStdString();
 }
 
 } // namespace
