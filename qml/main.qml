@@ -115,6 +115,8 @@ ApplicationWindow {
 
     // ---- popups -----------------------------------------------------------
     function presentPopup(popup) {
+        // The tip is about the page; a modal popup takes its place.
+        tips.dismiss()
         popupFrame.visible = true
         currentPopup = popup
         popup.visible = true
@@ -484,8 +486,15 @@ ApplicationWindow {
         color: "#1f2d36"
         opacity: 0.96
         visible: false
-        // A tap beside the popup does nothing but keep it.
-        MouseArea { anchors.fill: parent }
+        // A tap beside the popup keeps it, but for the question before a
+        // process is cancelled, where it means "Go Back".
+        MouseArea {
+            anchors.fill: parent
+            onClicked: {
+                if (mainWindow.currentPopup === processDestroyConfirmationPopup)
+                    mainWindow.hidePopup()
+            }
+        }
         Item { id: popupContainer; anchors.fill: parent }
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
