@@ -58,6 +58,7 @@ TEST(UiScript, LocalCommandsAndVerdicts)
         {"# comment\n\nsleep 0\nbeaker {\"kind\":\"buffer\",\"pH\":4.01}\n", 0, "OK 2 commands"},
         {"sleep 0\n# two\n\nbeaker {\"kind\":\n", 1, "FAIL line 4: beaker {\"kind\":: not one JSON object"},
         {"sleep -1\n", 1, "FAIL line 1: sleep -1: sleep takes seconds"},
+        {"beaker {\"kind\":\"nonsense\"}\n", 1, "FAIL line 1: beaker {\"kind\":\"nonsense\"}: unknown beaker kind"},
         {"sleep 0\nexpect Home\n", 2, "cannot reach the application"},
     };
     for (const Row &row : rows) {

@@ -1,5 +1,6 @@
 #include "uiscript.h"
 
+#include "beaker.h"
 #include "system/platform.h"
 
 #include <QDir>
@@ -131,6 +132,13 @@ bool UiScript::beaker(const QString &json, QString *why) const
     const QJsonDocument doc = QJsonDocument::fromJson(json.toUtf8(), &parseError);
     if (!doc.isObject()) {
         *why = QStringLiteral("not one JSON object: %1").arg(parseError.errorString());
+        return false;
+    }
+    // The instrument answers on its own output, which the script does not
+    // see: a beaker it would refuse is refused here, with its words.
+    QString refused;
+    if (!Beaker::fromJson(doc.object(), 25.0, 0.0, 100.0, &refused)) {
+        *why = refused;
         return false;
     }
     // A FIFO that the virtual instrument holds open; never block on one that nobody reads.
