@@ -5,9 +5,9 @@
 
 #include "appconstants.h"
 #include "controller/burettecontroller.h"
-#include "controller/reportcontroller.h"
 #include "controller/metercontroller.h"
 #include "controller/mspcontroller.h"
+#include "controller/reportcontroller.h"
 #include "datamanagerbase.h"
 #include "datamigrator.h"
 #include "models/calibrationcyclemodel.h"
