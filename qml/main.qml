@@ -26,6 +26,11 @@ import "TitrationPages"
 ApplicationWindow {
     id: mainWindow
 
+    property alias settingsStack: settingsStack
+    property alias logStack: logStack
+    property alias methodStack: methodStack
+    property alias buretteStack: buretteStack
+    property alias measureStack: measureStack
     property var currentStack: null
     property var previousStack: null
     property int currentStackDepth: currentStack ? currentStack.depth : 0
