@@ -46,3 +46,8 @@ if(NOT KESTRUM_ASAN)
   set_tests_properties(asan.RunController PROPERTIES LABELS unit
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0:abort_on_error=1")
 endif()
+
+# The UI driver's script runner lives in the console's library.
+if(TARGET unit_uiscript)
+  target_link_libraries(unit_uiscript PRIVATE vantorcli)
+endif()

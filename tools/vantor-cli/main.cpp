@@ -3,6 +3,7 @@
 
 #include "titrateoptions.h"
 #include "titraterunner.h"
+#include "uiscript.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -26,8 +27,9 @@ QString mainUsage()
 {
     return QStringLiteral("usage: vantor-cli COMMAND [options]\n"
                           "commands:\n"
-                          "  titrate   run one titration against the virtual instrument, or replay a curve\n\n")
-           + TitrateOptions::usage();
+                          "  titrate   run one titration against the virtual instrument, or replay a curve\n"
+                          "  ui        run a UI driver script against the running application\n\n")
+           + TitrateOptions::usage() + QStringLiteral("\n") + UiScript::usage();
 }
 
 } // namespace
@@ -46,6 +48,20 @@ int main(int argc, char *argv[])
         return args.isEmpty() ? 2 : 0;
     }
     const QString command = args.takeFirst();
+    if (command == QLatin1String("ui")) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << UiScript::usage();
+            return 0;
+        }
+        UiScript::Options uiOptions;
+        QString uiError;
+        if (!UiScript::parse(args, &uiOptions, &uiError)) {
+            err << "vantor-cli ui: " << uiError << "\n" << UiScript::usage();
+            return 2;
+        }
+        UiScript script(uiOptions);
+        return script.run(out, err);
+    }
     if (command != QLatin1String("titrate")) {
         err << "vantor-cli: unknown command \"" << command << "\"\n" << mainUsage();
         return 2;
