@@ -21,7 +21,6 @@
 
 #include <QDateTime>
 #include <QDebug>
-#include <QRegularExpression>
 #include <QSqlQuery>
 #include <QSqlRecord>
 
@@ -33,20 +32,6 @@ const QString DataManagerBase::modeStandardization = QStringLiteral("Standardiza
 namespace {
 
 constexpr float kNoProbeCelsius = 125.0f;
-
-struct Identity {
-    const char *productType;
-    const char *modelString;
-    const char *modelNo;
-};
-
-// The first row is the default for an unknown product type.
-constexpr Identity kIdentities[] = {
-    {"All-in-one", "Vantor Pro V440 All-in-One", "V440"},
-    {"pH", "Vantor Pro V410 pH", "V410"},
-    {"Redox", "Vantor Pro V420 Redox", "V420"},
-    {"ISE", "Vantor Pro V430 Ion", "V430"},
-};
 
 } // namespace
 
@@ -60,22 +45,27 @@ DataManagerBase *DataManagerBase::dmPtr()
     return instance;
 }
 
-QString DataManagerBase::buildString()
-{
-    return QStringLiteral("V" KESTRUM_VERSION);
-}
-
 DataManagerBase::DataManagerBase(QObject *parent)
     : QObject(parent),
       m_ownContext(std::make_unique<CMeasurementContext>())
 {
     m_MeasContext = m_ownContext.get();
-    m_sysInfoModel = new SysInfoModel(this);
-    m_sysInfoModel->setAppVersion(buildString());
-    m_titratorModelNo = QStringLiteral("V400");
+    m_identity = new ProductIdentity(this);
+    connect(m_identity, &ProductIdentity::changed, this, &DataManagerBase::valueChanged);
+    connect(m_identity, &ProductIdentity::mspVersionUpdated, this, &DataManagerBase::mspVersionUpdated);
+    connect(m_identity, &ProductIdentity::modelStringChanged, this, &DataManagerBase::titratorModelStringChanged);
+    connect(m_identity, &ProductIdentity::modelNoChanged, this, &DataManagerBase::titratorModelNoChanged);
+    connect(m_identity, &ProductIdentity::serialChanged, this, &DataManagerBase::mfgSerialNumChanged);
     connect(this, &DataManagerBase::freshDataAvailable, this, &DataManagerBase::qmlFreshDataAvailable);
     connect(this, &DataManagerBase::temperatureDataAvailable, this, &DataManagerBase::qmlTemperatureDataAvailable);
-    makeLogFetches();
+    m_logLists = new LogLists(this);
+    connect(m_logLists, &LogLists::titrationChanged, this, &DataManagerBase::titrationLogListChanged);
+    connect(m_logLists, &LogLists::standardisationChanged, this, &DataManagerBase::standLogListChanged);
+    connect(m_logLists, &LogLists::calibrationChanged, this, &DataManagerBase::calibrationLogListChanged);
+    connect(m_logLists, &LogLists::measurementChanged, this, &DataManagerBase::measuresChanged);
+    m_runCycles = new RunCycleLists([this] { return titrationModel(); }, this);
+    m_standardisation = new StandardisationRecords(this);
+    connect(m_standardisation, &StandardisationRecords::changed, this, &DataManagerBase::valueChanged);
     EngineData::set(this);
 }
 
@@ -89,26 +79,28 @@ DataManagerBase::~DataManagerBase()
 
 void DataManagerBase::DataManagerLegacyInit()
 {
-    m_methodModel = new MethodModel(this);
+    m_library = new MethodLibrary(this);
+    m_methodModel = m_library->current();
     m_setupModel = new SetupModel(this);
+    m_library->setSetup(m_setupModel);
+    connect(m_library, &MethodLibrary::changed, this, [this] {
+        setMethodCount(m_library->count());
+        emit valueChanged();
+    });
     DataLogSetting::setSource([this] { return m_setupModel->isDatalogFullNotifOn(); });
 
     m_temperatureCelcius = 25.0f;
     m_temperatureRawCelcius = 25.0f;
     m_slopeTarget = 0.25f;
-    m_mspVersionString = tr("Unknown Version");
-    m_mfgSerialNum = QStringLiteral("Unknown");
 
     titrationLogFile();
     rawTitrationLogFile();
 
-    m_titrationQMLVersion = QStringLiteral("10.08.17.1");
 
     getLastUpdatedMethod();
     reInitializeMethodModel(currentMethodId());
     getMethodsFromDB();
 
-    m_buildNumber = buildString();
 }
 
 ElectrodeSetupModel *DataManagerBase::electrodeSetupModel() const
@@ -126,9 +118,15 @@ TitrationSetupModel *DataManagerBase::titrationSetupModel() const
     return m_methodModel ? m_methodModel->titrationSetupModel() : nullptr;
 }
 
-QQmlListProperty<MethodModel> DataManagerBase::methods()
+ObjectListModel *DataManagerBase::methods() const
 {
-    return QQmlListProperty<MethodModel>(this, &m_methods);
+    return m_library ? m_library->view() : nullptr;
+}
+
+const QList<MethodModel *> &DataManagerBase::methodList() const
+{
+    static const QList<MethodModel *> none;
+    return m_library ? m_library->methods() : none;
 }
 
 void DataManagerBase::setMethodCount(int count)
@@ -172,10 +170,7 @@ void DataManagerBase::setIsCalibrationFromMeasurement(bool on)
 
 void DataManagerBase::setIsStandardizedVal(bool on)
 {
-    if (m_isStandardizedVal == on)
-        return;
-    m_isStandardizedVal = on;
-    emit valueChanged();
+    m_standardisation->setStandardized(on);
 }
 
 // ---- The engine's method parameters ----
@@ -515,83 +510,9 @@ void DataManagerBase::addRunPoint(float volumeMl, float value)
     cycle->addPoint(volumeMl, value, electrodeSetupModel()->resolution(), titrationSetupModel()->displayUnits());
 }
 
-void DataManagerBase::setMspVersion(const QString &version)
-{
-    m_mspVersionString = version;
-    emit mspVersionUpdated();
-}
-
-QString DataManagerBase::getMspVersion() const
-{
-    return tr(m_mspVersionString.toUtf8().constData());
-}
-
-void DataManagerBase::setMfgSerialNum(const QString &serial)
-{
-    if (m_mfgSerialNum == serial)
-        return;
-    m_mfgSerialNum = serial;
-    emit mfgSerialNumChanged();
-}
-
-// ---- Versions and identity ----
-
-void DataManagerBase::setTitrationQMLVersion(const QString &v)
-{
-    m_titrationQMLVersion = v;
-    emit valueChanged();
-}
-
-void DataManagerBase::setTitrationQMLCoreVersion(const QString &v)
-{
-    m_titrationQMLCoreVersion = v;
-    emit valueChanged();
-}
-
-void DataManagerBase::setMspQmlVersion(const QString &v)
-{
-    m_mspQmlVersion = v;
-    emit valueChanged();
-}
-
-void DataManagerBase::setBuildNumber(const QString &v)
-{
-    m_buildNumber = v;
-    emit valueChanged();
-}
-
-QString DataManagerBase::appVersionNumber() const
-{
-    QString number = m_buildNumber;
-    return number.remove(QRegularExpression(QStringLiteral("-g.*")));
-}
-
-void DataManagerBase::setTitratorModelString(const QString &v)
-{
-    if (m_titratorModelString == v)
-        return;
-    m_titratorModelString = v;
-    emit titratorModelStringChanged();
-}
-
-void DataManagerBase::setTitratorModelNo(const QString &v)
-{
-    if (m_titratorModelNo == v)
-        return;
-    m_titratorModelNo = v;
-    emit titratorModelNoChanged();
-}
-
 void DataManagerBase::updateProdType(const QString &prodType)
 {
-    const Identity *identity = &kIdentities[0];
-    for (const Identity &candidate : kIdentities) {
-        if (prodType == QLatin1String(candidate.productType))
-            identity = &candidate;
-    }
-    m_sysInfoModel->setProductType(QLatin1String(identity->productType));
-    setTitratorModelString(QLatin1String(identity->modelString));
-    setTitratorModelNo(QLatin1String(identity->modelNo));
+    m_identity->setProductType(prodType);
     // The report controller takes the model string, and the home screen the
     // last pH calibration, once those exist.
     meterRecords(); // made with the meter's stored row
@@ -599,8 +520,7 @@ void DataManagerBase::updateProdType(const QString &prodType)
 
 void DataManagerBase::getLoadedMspVersion()
 {
-    m_mspQmlVersion = getMspVersion();
-    emit valueChanged();
+    m_identity->showMspVersion();
 }
 
 // ---- Live state ----
@@ -636,27 +556,6 @@ void DataManagerBase::setProbeTemp(float t)
 }
 
 // ---- Console pipe ----
-
-void DataManagerBase::sendToConsole(const QString &text)
-{
-    // Unread text is bounded: until the remote port reads it, only the
-    // newest part is kept, so a run with nobody listening can't grow it.
-    m_console += text;
-    if (m_console.size() > consoleLimit)
-        m_console.remove(0, m_console.size() - consoleLimit);
-    m_consoleNew = true;
-}
-
-bool DataManagerBase::getConsoleMes(QString *text)
-{
-    if (!m_consoleNew)
-        return false;
-    if (text)
-        text->append(m_console);
-    m_console.clear();
-    m_consoleNew = false;
-    return true;
-}
 
 // ---- The engine's cyclic logs ----
 
@@ -696,6 +595,7 @@ void DataManagerBase::beginRunRecords()
         t->setIsTitrantChanged(false);
     if (TitrationSetupModel *t = titrationSetupModel())
         t->setIsTitrationChanged(false);
+    m_runCycles->showRun();
     beginRunCycle();
 }
 
@@ -789,119 +689,34 @@ float DataManagerBase::mkaConvertResult(float molPerL)
 
 int DataManagerBase::currentMethodId() const
 {
-    return m_setupModel ? m_setupModel->currentMethodId() : MethodModel::scratchMethodId;
+    return m_library ? m_library->currentMethodId() : MethodModel::scratchMethodId;
 }
 
 void DataManagerBase::getLastUpdatedMethod()
 {
-    QSqlQuery query;
-    if (query.exec(QStringLiteral("SELECT *  FROM methodSetupTable order  by datetime(mupdatedAt) DESC limit 1"))
-        && query.next())
-        m_setupModel->setCurrentMethodId(query.value(QStringLiteral("id")).toInt());
+    m_library->selectLastUpdated();
 }
 
 void DataManagerBase::reInitializeMethodModel(int id)
 {
-    m_methodModel->updateMethodModel(id);
-    emitSignalsToUI();
-}
-
-void DataManagerBase::emitSignalsToUI()
-{
-    getMethodsFromDB();
-    emit m_methodModel->valueChanged();
-    emit electrodeSetupModel()->valueChanged();
-    emit titrantSetupModel()->valueChanged();
-    emit titrationSetupModel()->valueChanged();
-    emit valueChanged();
+    m_library->reload(id);
 }
 
 void DataManagerBase::getMethodsFromDB()
 {
-    QSqlQuery query;
-    if (!query.exec(QStringLiteral(
-            "SELECT *  FROM methodSetupTable WHERE id != 99999 order  by datetime(mcreatedAt) DESC")))
-        return;
-    QList<MethodModel *> list;
-    while (query.next()) {
-        auto *entry = new MethodModel(this, false);
-        entry->setId(query.value(QStringLiteral("id")).toInt());
-        entry->setMethodName(query.value(QStringLiteral("methodName")).toString());
-        entry->setMethodPassword(query.value(QStringLiteral("methodPassword")).toString());
-        list.append(entry);
-    }
-    // The old entries go once the screens have moved to the new list.
-    QList<MethodModel *> old = m_methods;
-    m_methods = list;
-    setMethodCount(m_methods.size());
-    emit valueChanged();
-    releaseLater(old);
+    m_library->loadList();
 }
 
 // ---- Standardisation ----
 
 bool DataManagerBase::getStandardizedFetch(int methodId)
 {
-    setIsStandardizedVal(false);
-    QSqlQuery run;
-    run.prepare(QStringLiteral("SELECT * FROM titrationTable WHERE methodId = :id AND titrationType LIKE "
-                               "'Standardization' order by datetime(mcreatedAt) DESC"));
-    run.bindValue(QStringLiteral(":id"), methodId);
-    if (!run.exec() || !run.next())
-        return false;
-    const QDateTime standardised = run.value(QStringLiteral("mupdatedAt")).toDateTime();
-    run.finish();
-
-    QSqlQuery titrant;
-    titrant.prepare(QStringLiteral("SELECT mupdatedAt FROM titrantSetupTable WHERE methodId = :id"));
-    titrant.bindValue(QStringLiteral(":id"), methodId);
-    if (titrant.exec() && titrant.next())
-        setIsStandardizedVal(standardised > titrant.value(0).toDateTime());
-    else
-        setIsStandardizedVal(true);
-    return m_isStandardizedVal;
+    return m_standardisation->fetch(methodId);
 }
 
 bool DataManagerBase::copyStandardization(int originalMethodId, int newMethodId)
 {
-    QSqlQuery run;
-    run.prepare(QStringLiteral("SELECT * FROM titrationTable WHERE methodId = :id AND titrationType LIKE "
-                               "'Standardization' order by datetime(mcreatedAt) DESC"));
-    run.bindValue(QStringLiteral(":id"), originalMethodId);
-    if (!run.exec()) {
-        qDebug() << "copyStandardization: query failed for method" << originalMethodId;
-        return false;
-    }
-    if (!run.next())
-        return false;
-    const QSqlRecord record = run.record();
-    run.finish();
-
-    QStringList columns;
-    for (int i = 0; i < record.count(); ++i) {
-        const QString name = record.fieldName(i);
-        if (name != QLatin1String("id") && DbUtil::isPlainIdentifier(name))
-            columns << name;
-    }
-    QStringList placeholders;
-    for (int i = 0; i < columns.size(); ++i)
-        placeholders << QStringLiteral("?");
-    QSqlQuery insert;
-    insert.prepare(QStringLiteral("INSERT INTO titrationTable (%1) VALUES (%2)")
-                       .arg(columns.join(QStringLiteral(", ")), placeholders.join(QStringLiteral(", "))));
-    for (const QString &name : columns) {
-        if (name == QLatin1String("methodId"))
-            insert.addBindValue(newMethodId);
-        else if (name == QLatin1String("mupdatedAt"))
-            insert.addBindValue(QDateTime::currentDateTime());
-        else
-            insert.addBindValue(record.value(name));
-    }
-    if (!DbUtil::exec(insert)) {
-        qDebug() << "copyStandardization: insert failed for method" << newMethodId;
-        return false;
-    }
-    return true;
+    return StandardisationRecords::copy(originalMethodId, newMethodId);
 }
 
 bool DataManagerBase::resetSquenceIds(const QStringList &tables)
@@ -913,249 +728,104 @@ bool DataManagerBase::resetSquenceIds(const QStringList &tables)
 
 bool DataManagerBase::checkDB()
 {
-    return LogTables::anyLogRow();
+    return m_logLists->anyRow();
 }
 
 int DataManagerBase::logMethods(int log)
 {
-    if (log >= LogTables::Titration && log <= LogTables::Measurement)
-        m_count = qMax(0, LogTables::rowCount(LogTables::Log(log)));
-    return m_count;
+    return m_logLists->rows(log);
 }
 
 void DataManagerBase::deleteTitrationLog()
 {
-    LogTables::deleteTitrationLog();
-    stopLogFetch(QStringLiteral("TITRATION"));
+    m_logLists->deleteLog(QStringLiteral("TITRATION"));
 }
 
 void DataManagerBase::deleteTitrantLog()
 {
-    LogTables::deleteTitrantLog();
-    stopLogFetch(QStringLiteral("STANDARDIZATION"));
+    m_logLists->deleteLog(QStringLiteral("STANDARDIZATION"));
 }
 
 void DataManagerBase::deleteCalibrationLog()
 {
-    LogTables::deleteCalibrationLog();
-    stopLogFetch(QStringLiteral("CALIBRATION"));
+    m_logLists->deleteLog(QStringLiteral("CALIBRATION"));
 }
 
 void DataManagerBase::deleteMeasurementLog()
 {
-    LogTables::deleteMeasurementLog();
-    stopLogFetch(QStringLiteral("MEASUREMENT"));
-}
-
-void DataManagerBase::makeLogFetches()
-{
-    m_titrationLogs = std::make_unique<LogListFetch<TitrationLogModel>>(
-        [](const QSqlRecord &row) {
-            auto *entry = new TitrationLogModel();
-            entry->loadFromRecord(row);
-            entry->setCount(entry->id());
-            return entry;
-        },
-        [this] { emit titrationLogListChanged(); });
-    m_standLogs = std::make_unique<LogListFetch<StandardisationLogModel>>(
-        [](const QSqlRecord &row) {
-            auto *entry = new StandardisationLogModel();
-            entry->loadFromRecord(row);
-            return entry;
-        },
-        [this] { emit standLogListChanged(); });
-    m_calibrationLogs = std::make_unique<LogListFetch<CalibrationLogModel>>(
-        [](const QSqlRecord &row) {
-            auto *entry = new CalibrationLogModel();
-            entry->loadFromRecord(row);
-            entry->refreshSlope();
-            return entry;
-        },
-        [this] { emit calibrationLogListChanged(); });
-    m_measurementLogs = std::make_unique<LogListFetch<MeasurementLogModel>>(
-        [this](const QSqlRecord &row) {
-            auto *entry = new MeasurementLogModel();
-            entry->loadFromRecord(row);
-            entry->measurementModel()->setSno(res_length--);
-            return entry;
-        },
-        [this] { emit measuresChanged(); });
+    m_logLists->deleteLog(QStringLiteral("MEASUREMENT"));
 }
 
 void DataManagerBase::startLogFetch(const QString &process)
 {
-    if (process == QLatin1String("TITRATION")) {
-        m_titrationLogs->start(TitrationLogModel::newestFirstSql());
-    } else if (process == QLatin1String("STANDARDIZATION")) {
-        m_standLogs->start(StandardisationLogModel::newestFirstSql());
-    } else if (process == QLatin1String("CALIBRATION")) {
-        m_calibrationLogs->start(CalibrationLogModel::newestFirstSql());
-    } else if (process == QLatin1String("MEASUREMENT")) {
-        res_length = 0;
-        m_measurementLogs->start(MeasurementLogModel::newestFirstSql(), [this](QSqlQuery &query) {
-            if (query.last())
-                res_length = query.at() + 1;
-            query.first();
-            query.previous();
-        });
-    } else {
-        qDebug() << "Error::::Invalid Process Type Selected";
-    }
+    m_logLists->start(process);
 }
 
 void DataManagerBase::getTitrationLogListFromDb()
 {
-    m_titrationLogs->tick();
+    m_logLists->tickTitration();
 }
 
 void DataManagerBase::getStandardizationLogListFromDb()
 {
-    m_standLogs->tick();
+    m_logLists->tickStandardisation();
 }
 
 void DataManagerBase::getcalibrationLogListFromDb()
 {
-    m_calibrationLogs->tick();
+    m_logLists->tickCalibration();
 }
 
 void DataManagerBase::getMeasurementLogListFromDb()
 {
-    m_measurementLogs->tick();
-}
-
-bool DataManagerBase::logFetchRunning(const QString &process) const
-{
-    if (process == QLatin1String("TITRATION"))
-        return m_titrationLogs->running();
-    if (process == QLatin1String("STANDARDIZATION"))
-        return m_standLogs->running();
-    if (process == QLatin1String("CALIBRATION"))
-        return m_calibrationLogs->running();
-    if (process == QLatin1String("MEASUREMENT"))
-        return m_measurementLogs->running();
-    return false;
-}
-
-void DataManagerBase::stopLogFetch(const QString &process)
-{
-    if (process == QLatin1String("TITRATION"))
-        m_titrationLogs->stop();
-    else if (process == QLatin1String("STANDARDIZATION"))
-        m_standLogs->stop();
-    else if (process == QLatin1String("CALIBRATION"))
-        m_calibrationLogs->stop();
-    else if (process == QLatin1String("MEASUREMENT"))
-        m_measurementLogs->stop();
-}
-
-QQmlListProperty<TitrationLogModel> DataManagerBase::titrationLogList()
-{
-    return QQmlListProperty<TitrationLogModel>(this, &m_titrationLogs->list());
-}
-
-QQmlListProperty<StandardisationLogModel> DataManagerBase::standLogList()
-{
-    return QQmlListProperty<StandardisationLogModel>(this, &m_standLogs->list());
-}
-
-QQmlListProperty<CalibrationLogModel> DataManagerBase::calibratoinLogList()
-{
-    return QQmlListProperty<CalibrationLogModel>(this, &m_calibrationLogs->list());
-}
-
-QQmlListProperty<MeasurementLogModel> DataManagerBase::measures()
-{
-    return QQmlListProperty<MeasurementLogModel>(this, &m_measurementLogs->list());
+    m_logLists->tickMeasurement();
 }
 
 void DataManagerBase::attachLogModel(TitrationLogModel *log)
 {
-    log->setCurrentMethod(m_methodModel);
-    log->setStandardizedFetch([this](int methodId) { return getStandardizedFetch(methodId); });
+    m_library->attach(log, [this](int methodId) { return getStandardizedFetch(methodId); });
 }
 
 void DataManagerBase::attachLogModel(StandardisationLogModel *log)
 {
-    log->setCurrentMethod(m_methodModel);
+    m_library->attach(log);
 }
 
 // ---- Cycle lists ----
 
-bool DataManagerBase::fromLog(bool &flag)
-{
-    const bool was = flag;
-    flag = false;
-    return was;
-}
-
 QQmlListProperty<TitrationCycleModel> DataManagerBase::titrationcycles()
 {
-    if (fromLog(fromTitrationLog))
-        return QQmlListProperty<TitrationCycleModel>(this, &m_storedCycles);
-    m_titrationcycles = titrationModel() ? titrationModel()->titrationCycles() : QList<TitrationCycleModel *>();
-    return QQmlListProperty<TitrationCycleModel>(this, &m_titrationcycles);
+    return m_runCycles->titrationCycles();
 }
 
 QQmlListProperty<MKATitrationCycleModel> DataManagerBase::mkaTitrationCycle()
 {
-    if (fromLog(fromMkaCycleLog))
-        return QQmlListProperty<MKATitrationCycleModel>(this, &m_storedMkaCycles);
-    m_mkaTitrationCycle = titrationModel() ? titrationModel()->mkaTitrationCycles() : QList<MKATitrationCycleModel *>();
-    return QQmlListProperty<MKATitrationCycleModel>(this, &m_mkaTitrationCycle);
+    return m_runCycles->mkaCycles();
 }
 
 QQmlListProperty<MKAadditionModel> DataManagerBase::mkaAdditionCycle()
 {
-    if (fromLog(fromMkaAdditionLog))
-        return QQmlListProperty<MKAadditionModel>(this, &m_storedMkaAdditions);
-    m_mkaAdditionCycle = titrationModel() ? titrationModel()->mkaAdditionCycles() : QList<MKAadditionModel *>();
-    return QQmlListProperty<MKAadditionModel>(this, &m_mkaAdditionCycle);
+    return m_runCycles->mkaAdditions();
 }
-
-namespace {
-
-// Rows of a run's table as objects, replacing (and freeing) the old ones.
-template <class Entry>
-void loadStored(QList<Entry *> &list, const QString &sql, int titrationId)
-{
-    for (Entry *old : qAsConst(list))
-        old->deleteLater();
-    list.clear();
-    QSqlQuery query;
-    query.prepare(sql);
-    query.bindValue(QStringLiteral(":id"), titrationId);
-    if (!DbUtil::exec(query))
-        return;
-    while (query.next())
-        list.append(Entry::fromRecord(query.record()));
-}
-
-} // namespace
 
 void DataManagerBase::getTitrationCycleLogFromDb(int titrationId)
 {
-    loadStored(m_storedCycles, QStringLiteral("SELECT * FROM titrationCycleTable where titrationId = :id ORDER BY cycleNo"),
-               titrationId);
-    fromTitrationLog = true;
+    m_runCycles->loadStoredCycles(titrationId);
 }
 
 void DataManagerBase::getMKAtitrationCycleFromDB(int titrationId)
 {
-    loadStored(m_storedMkaCycles,
-               QStringLiteral("SELECT * FROM mkaTitrationCycleTable where titrationID = :id ORDER BY cycleNo"), titrationId);
-    fromMkaCycleLog = true;
+    m_runCycles->loadStoredMkaCycles(titrationId);
 }
 
 void DataManagerBase::getMKAadditionFromDB(int titrationId)
 {
-    loadStored(m_storedMkaAdditions,
-               QStringLiteral("SELECT * FROM mkaAdditionTable where titrationID = :id order by cycleNo, datetime(mcreatedAt)"),
-               titrationId);
-    fromMkaAdditionLog = true;
+    m_runCycles->loadStoredMkaAdditions(titrationId);
 }
 
 void DataManagerBase::initializeTitration()
 {
+    m_runCycles->showRun();
     if (TitrationModel *run = titrationModel())
         run->clearTitrationCycles();
     emit valueChanged();

@@ -5,7 +5,6 @@
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
 #include "models/concentrationcalc.h"
-#include "models/loglistfetch.h"
 #include "models/measurementlogmodel.h"
 #include "models/measurementmodel.h"
 #include "models/methodmodel.h"
@@ -16,6 +15,12 @@
 #include "models/titrationcyclemodel.h"
 #include "models/titrationlogmodel.h"
 #include "models/titrationmodel.h"
+#include "consolepipe.h"
+#include "loglists.h"
+#include "methodlibrary.h"
+#include "productidentity.h"
+#include "runcyclelists.h"
+#include "standardisationrecords.h"
 
 #include <QList>
 #include <QObject>
@@ -58,11 +63,12 @@ class DataManagerBase : public QObject, public EngineDataInterface, public Meter
     Q_PROPERTY(QQmlListProperty<TitrationCycleModel> titrationcycles READ titrationcycles)
     Q_PROPERTY(QQmlListProperty<MKATitrationCycleModel> mkaTitrationCycle READ mkaTitrationCycle)
     Q_PROPERTY(QQmlListProperty<MKAadditionModel> mkaAdditionCycle READ mkaAdditionCycle)
-    Q_PROPERTY(QQmlListProperty<TitrationLogModel> titrationLogList READ titrationLogList NOTIFY titrationLogListChanged)
-    Q_PROPERTY(QQmlListProperty<StandardisationLogModel> standLogList READ standLogList NOTIFY standLogListChanged)
-    Q_PROPERTY(QQmlListProperty<CalibrationLogModel> calibratoinLogList READ calibratoinLogList NOTIFY calibrationLogListChanged)
-    Q_PROPERTY(QQmlListProperty<MeasurementLogModel> measures READ measures NOTIFY measuresChanged)
-    Q_PROPERTY(QQmlListProperty<MethodModel> methods READ methods NOTIFY valueChanged)
+    // The log lists as view models (role "modelData"), filled a row at a time.
+    Q_PROPERTY(ObjectListModel *titrationLogList READ titrationLogList NOTIFY titrationLogListChanged)
+    Q_PROPERTY(ObjectListModel *standLogList READ standLogList NOTIFY standLogListChanged)
+    Q_PROPERTY(ObjectListModel *calibratoinLogList READ calibratoinLogList NOTIFY calibrationLogListChanged)
+    Q_PROPERTY(ObjectListModel *measures READ measures NOTIFY measuresChanged)
+    Q_PROPERTY(ObjectListModel *methods READ methods NOTIFY valueChanged)
     Q_PROPERTY(int methodCount READ methodCount WRITE setMethodCount NOTIFY valueChanged)
     Q_PROPERTY(QString titrationQMLVersion READ titrationQMLVersion WRITE setTitrationQMLVersion NOTIFY valueChanged)
     Q_PROPERTY(QString titrationQMLCoreVersion READ titrationQMLCoreVersion WRITE setTitrationQMLCoreVersion NOTIFY valueChanged)
@@ -85,7 +91,7 @@ public:
     static constexpr double uLtomL = 1000.0;
     static constexpr int kNotInThisMode = -999;
     // The newest console text kept until it is read, in characters.
-    static constexpr int consoleLimit = 64 * 1024;
+    static constexpr int consoleLimit = ConsolePipe::limit;
     static const QString modeTitration;
     static const QString modeStandardization;
 
@@ -103,38 +109,41 @@ public:
     void DataManagerLegacyInit();
 
     // The application's build string, as stored in `systemInfo`.
-    static QString buildString();
+    static QString buildString() { return ProductIdentity::buildString(); }
 
     // ---- Models ----
     MethodModel *methodModel() const { return m_methodModel; }
     ElectrodeSetupModel *electrodeSetupModel() const override;
     TitrantSetupModel *titrantSetupModel() const;
     TitrationSetupModel *titrationSetupModel() const;
-    SysInfoModel *sysInfoModel() const { return m_sysInfoModel; }
+    SysInfoModel *sysInfoModel() const { return m_identity->sysInfo(); }
+    ProductIdentity *identity() const { return m_identity; }
     // The run in progress of the current method, with its cycles.
     TitrationModel *titrationModel() const;
     SetupModel *setupModel() const { return m_setupModel; }
     MeasurementModel *measure() const { return m_measure; }
-    // The cycles of the run in progress, or once after
-    // getTitrationCycleLogFromDb() the cycles of a stored run.
+    // The cycles of the run in progress, or after getTitrationCycleLogFromDb()
+    // the cycles of that stored run until the screens return to the run.
     QQmlListProperty<TitrationCycleModel> titrationcycles();
     QQmlListProperty<MKATitrationCycleModel> mkaTitrationCycle();
     QQmlListProperty<MKAadditionModel> mkaAdditionCycle();
-    QQmlListProperty<TitrationLogModel> titrationLogList();
-    QQmlListProperty<StandardisationLogModel> standLogList();
-    QQmlListProperty<CalibrationLogModel> calibratoinLogList();
-    QQmlListProperty<MeasurementLogModel> measures();
-    const QList<TitrationLogModel *> &titrationLogEntries() const { return m_titrationLogs->list(); }
-    const QList<StandardisationLogModel *> &standardisationLogEntries() const { return m_standLogs->list(); }
-    const QList<CalibrationLogModel *> &calibrationLogEntries() const { return m_calibrationLogs->list(); }
-    const QList<MeasurementLogModel *> &measurementLogEntries() const { return m_measurementLogs->list(); }
-    bool logFetchRunning(const QString &process) const;
+    ObjectListModel *titrationLogList() const { return m_logLists->titrationView(); }
+    ObjectListModel *standLogList() const { return m_logLists->standardisationView(); }
+    ObjectListModel *calibratoinLogList() const { return m_logLists->calibrationView(); }
+    ObjectListModel *measures() const { return m_logLists->measurementView(); }
+    LogLists *logLists() const { return m_logLists; }
+    const QList<TitrationLogModel *> &titrationLogEntries() const { return m_logLists->titrationEntries(); }
+    const QList<StandardisationLogModel *> &standardisationLogEntries() const { return m_logLists->standardisationEntries(); }
+    const QList<CalibrationLogModel *> &calibrationLogEntries() const { return m_logLists->calibrationEntries(); }
+    const QList<MeasurementLogModel *> &measurementLogEntries() const { return m_logLists->measurementEntries(); }
+    bool logFetchRunning(const QString &process) const { return m_logLists->running(process); }
     // A log model of the screens saves the current method's run and asks
     // here whether a method counts as standardised.
     void attachLogModel(TitrationLogModel *log);
     void attachLogModel(StandardisationLogModel *log);
-    QQmlListProperty<MethodModel> methods();
-    const QList<MethodModel *> &methodList() const { return m_methods; }
+    ObjectListModel *methods() const;
+    const QList<MethodModel *> &methodList() const;
+    MethodLibrary *methodLibrary() const { return m_library; }
     int methodCount() const { return m_methodCount; }
     void setMethodCount(int count);
 
@@ -150,7 +159,7 @@ public:
     void setBlankTitrationMode(bool on);
     bool isCalibrationFromMeasurement() const { return m_isCalibrationFromMeasurement; }
     void setIsCalibrationFromMeasurement(bool on);
-    bool isStandardizedVal() const { return m_isStandardizedVal; }
+    bool isStandardizedVal() const { return m_standardisation->isStandardized(); }
     void setIsStandardizedVal(bool on);
 
     // ---- The engine's method parameters ----
@@ -203,27 +212,27 @@ public:
     void setEpResult2(float value) override;
     float epResult1() const { return m_epResult1; }
     float epResult2() const { return m_epResult2; }
-    void setMspVersion(const QString &version) override;
-    QString getMspVersion() const override;
-    void setMfgSerialNum(const QString &serial) override;
-    QString getMfgSerialNum() const override { return m_mfgSerialNum; }
+    void setMspVersion(const QString &version) override { m_identity->setMspVersion(version); }
+    QString getMspVersion() const override { return m_identity->mspVersion(); }
+    void setMfgSerialNum(const QString &serial) override { m_identity->setMfgSerialNum(serial); }
+    QString getMfgSerialNum() const override { return m_identity->mfgSerialNum(); }
 
     // ---- Versions and identity ----
-    QString titrationQMLVersion() const { return m_titrationQMLVersion; }
-    void setTitrationQMLVersion(const QString &v);
-    QString titrationQMLCoreVersion() const { return m_titrationQMLCoreVersion; }
-    void setTitrationQMLCoreVersion(const QString &v);
-    QString getTitrationCoreVersion() const { return m_titrationCoreVersion; }
-    void setTitrationCoreVersion(const QString &v) override { m_titrationCoreVersion = v; }
-    QString mspQmlVersion() const { return m_mspQmlVersion; }
-    void setMspQmlVersion(const QString &v);
-    QString buildNumber() const { return m_buildNumber; }
-    void setBuildNumber(const QString &v);
-    QString appVersionNumber() const;
-    QString titratorModelString() const { return m_titratorModelString; }
-    void setTitratorModelString(const QString &v);
-    QString titratorModelNo() const { return m_titratorModelNo; }
-    void setTitratorModelNo(const QString &v);
+    QString titrationQMLVersion() const { return m_identity->titrationQMLVersion(); }
+    void setTitrationQMLVersion(const QString &v) { m_identity->setTitrationQMLVersion(v); }
+    QString titrationQMLCoreVersion() const { return m_identity->titrationQMLCoreVersion(); }
+    void setTitrationQMLCoreVersion(const QString &v) { m_identity->setTitrationQMLCoreVersion(v); }
+    QString getTitrationCoreVersion() const { return m_identity->titrationCoreVersion(); }
+    void setTitrationCoreVersion(const QString &v) override { m_identity->setTitrationCoreVersion(v); }
+    QString mspQmlVersion() const { return m_identity->mspQmlVersion(); }
+    void setMspQmlVersion(const QString &v) { m_identity->setMspQmlVersion(v); }
+    QString buildNumber() const { return m_identity->buildNumber(); }
+    void setBuildNumber(const QString &v) { m_identity->setBuildNumber(v); }
+    QString appVersionNumber() const { return m_identity->appVersionNumber(); }
+    QString titratorModelString() const { return m_identity->titratorModelString(); }
+    void setTitratorModelString(const QString &v) { m_identity->setTitratorModelString(v); }
+    QString titratorModelNo() const { return m_identity->titratorModelNo(); }
+    void setTitratorModelNo(const QString &v) { m_identity->setTitratorModelNo(v); }
     int productType() const { return 0; }
     QString databaseMessage() const;
 
@@ -245,8 +254,8 @@ public:
     bool isTemperatureProbePresent() const { return m_temperatureProbePresent; }
 
     // ---- Console pipe ----
-    void sendToConsole(const QString &text) override;
-    bool getConsoleMes(QString *text) override;
+    void sendToConsole(const QString &text) override { m_console.send(text); }
+    bool getConsoleMes(QString *text) override { return m_console.take(text); }
 
     // ---- The engine's cyclic logs ----
     LogManager *titrationLogFile() override;
@@ -342,7 +351,6 @@ private slots:
     void qmlTemperatureDataAvailable(float celsius);
 
 private:
-    void emitSignalsToUI();
     bool inTitration() const { return m_deviceMode == modeTitration; }
     bool inStandardization() const { return m_deviceMode == modeStandardization; }
     bool backTitration() const;
@@ -352,47 +360,29 @@ private:
     float byMode(float (*fromTitration)(const TitrationSetupModel &),
                  float (*fromTitrant)(const TitrantSetupModel &)) const;
 
-    void makeLogFetches();
-    bool fromLog(bool &flag);
 
     // The run's cycle in the run model: a new one at the start, the points
     // of the curve while it runs.
     void beginRunCycle();
     void addRunPoint(float volumeMl, float value);
-    // Ends a running fetch of a log list after its rows were deleted.
-    void stopLogFetch(const QString &process);
 
     MethodModel *m_methodModel = nullptr;
-    SysInfoModel *m_sysInfoModel = nullptr;
+    ProductIdentity *m_identity = nullptr;
     std::unique_ptr<CMeasurementContext> m_ownContext;
     CMeasurementContext *m_MeasContext = nullptr;
     std::unique_ptr<LogManager> m_titrationLogFile;
     std::unique_ptr<LogManager> m_rawTitrationLogFile;
-    QList<MethodModel *> m_methods;
+    MethodLibrary *m_library = nullptr;
     SetupModel *m_setupModel = nullptr;
     MeasurementModel *m_measure = nullptr;
 
-    // Cycle lists for the screens: the run's, or a stored run's once.
-    QList<TitrationCycleModel *> m_titrationcycles;
-    QList<TitrationCycleModel *> m_storedCycles;
-    QList<MKATitrationCycleModel *> m_mkaTitrationCycle;
-    QList<MKATitrationCycleModel *> m_storedMkaCycles;
-    QList<MKAadditionModel *> m_mkaAdditionCycle;
-    QList<MKAadditionModel *> m_storedMkaAdditions;
-    bool fromTitrationLog = false;
-    bool fromMkaCycleLog = false;
-    bool fromMkaAdditionLog = false;
-
-    std::unique_ptr<LogListFetch<TitrationLogModel>> m_titrationLogs;
-    std::unique_ptr<LogListFetch<StandardisationLogModel>> m_standLogs;
-    std::unique_ptr<LogListFetch<CalibrationLogModel>> m_calibrationLogs;
-    std::unique_ptr<LogListFetch<MeasurementLogModel>> m_measurementLogs;
-    int res_length = 0;
+    LogLists *m_logLists = nullptr;
+    RunCycleLists *m_runCycles = nullptr;
+    StandardisationRecords *m_standardisation = nullptr;
 
     QString m_deviceMode;
     bool m_blankTitrationMode = false;
     bool m_isCalibrationFromMeasurement = false;
-    bool m_isStandardizedVal = false;
     std::array<double, 3> m_resultArray{{0.0, 0.0, 0.0}};
     float m_epResult1 = 0.0f;
     float m_epResult2 = 0.0f;
@@ -409,20 +399,9 @@ private:
     int m_qmlStirSpeed = 3;
     bool m_qmlStirrerState = false;
     int m_methodCount = 0;
-    int m_count = 1;
 
-    QString m_mspVersionString;
-    QString m_mfgSerialNum;
-    QString m_titrationQMLVersion;
-    QString m_titrationQMLCoreVersion;
-    QString m_titrationCoreVersion;
-    QString m_mspQmlVersion;
-    QString m_buildNumber;
-    QString m_titratorModelString;
-    QString m_titratorModelNo;
 
-    QString m_console;
-    bool m_consoleNew = false;
+    ConsolePipe m_console;
 
     // ---- The meter's records: measurement state and electrode calibration ----
     Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel NOTIFY valueChanged)

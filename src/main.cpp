@@ -17,6 +17,7 @@
 #include "models/measurementmodel.h"
 #include "models/mkaadditionmodel.h"
 #include "models/mkatitrationcyclemodel.h"
+#include "models/objectlistmodel.h"
 #include "models/reportmodel.h"
 #include "models/setupmodel.h"
 #include "models/standardisationlogmodel.h"
@@ -88,6 +89,7 @@ int main(int argc, char *argv[])
     qmlRegisterAnonymousType<StandardisationLogModel>("Kestrum", 1);
     qmlRegisterAnonymousType<MKATitrationCycleModel>("Kestrum", 1);
     qmlRegisterAnonymousType<MKAadditionModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<ObjectListModel>("Kestrum", 1);
     qmlRegisterType<MethodModel>("qmllisttest", 1, 0, "MethodModel");
 
     // The back end, strictly in this order: each constructor reaches for

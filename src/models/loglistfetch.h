@@ -34,6 +34,8 @@ public:
     LogListFetch(const LogListFetch &) = delete;
     LogListFetch &operator=(const LogListFetch &) = delete;
 
+    // Called after each row added to the list.
+    void setChanged(std::function<void()> changed) { m_changed = std::move(changed); }
     QList<Entry *> &list() { return m_list; }
     bool running() const { return m_timer.isActive(); }
 
@@ -62,7 +64,8 @@ public:
             const QSqlRecord row = m_query->record();
             if (Entry *entry = m_build(row)) {
                 m_list.append(entry);
-                m_changed();
+                if (m_changed)
+                    m_changed();
             }
             return true;
         }

@@ -1,0 +1,75 @@
+#include "methodlibrary.h"
+
+#include "models/dbutil.h"
+#include "models/electrodesetupmodel.h"
+#include "models/methodmodel.h"
+#include "models/modelproperty.h"
+#include "models/setupmodel.h"
+#include "models/standardisationlogmodel.h"
+#include "models/titrantsetupmodel.h"
+#include "models/titrationlogmodel.h"
+#include "models/titrationsetupmodel.h"
+
+#include <QSqlQuery>
+
+MethodLibrary::MethodLibrary(QObject *parent)
+    : QObject(parent)
+    , m_current(new MethodModel(this))
+    , m_view(new ObjectListModel(this))
+{
+}
+
+int MethodLibrary::currentMethodId() const
+{
+    return m_setup ? m_setup->currentMethodId() : MethodModel::scratchMethodId;
+}
+
+void MethodLibrary::loadList()
+{
+    QSqlQuery query;
+    if (!DbUtil::exec(query, QStringLiteral("SELECT *  FROM methodSetupTable WHERE id != 99999 order  by datetime(mcreatedAt) DESC")))
+        return;
+    QList<MethodModel *> list;
+    while (query.next()) {
+        auto *entry = new MethodModel(this, false);
+        entry->setId(query.value(QStringLiteral("id")).toInt());
+        entry->setMethodName(query.value(QStringLiteral("methodName")).toString());
+        entry->setMethodPassword(query.value(QStringLiteral("methodPassword")).toString());
+        list.append(entry);
+    }
+    QList<MethodModel *> old = m_methods;
+    m_methods = list;
+    m_view->reset(m_methods);
+    emit changed();
+    releaseLater(old);
+}
+
+void MethodLibrary::selectLastUpdated()
+{
+    QSqlQuery query;
+    if (query.exec(QStringLiteral("SELECT *  FROM methodSetupTable order  by datetime(mupdatedAt) DESC limit 1"))
+        && query.next() && m_setup)
+        m_setup->setCurrentMethodId(query.value(QStringLiteral("id")).toInt());
+}
+
+void MethodLibrary::reload(int id)
+{
+    m_current->updateMethodModel(id);
+    loadList();
+    emit m_current->valueChanged();
+    emit m_current->electrodeSetupModel()->valueChanged();
+    emit m_current->titrantSetupModel()->valueChanged();
+    emit m_current->titrationSetupModel()->valueChanged();
+    emit changed();
+}
+
+void MethodLibrary::attach(TitrationLogModel *log, std::function<bool(int)> standardised)
+{
+    log->setCurrentMethod(m_current);
+    log->setStandardizedFetch(std::move(standardised));
+}
+
+void MethodLibrary::attach(StandardisationLogModel *log)
+{
+    log->setCurrentMethod(m_current);
+}

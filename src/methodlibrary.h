@@ -1,0 +1,51 @@
+#pragma once
+
+#include "models/objectlistmodel.h"
+
+#include <QList>
+#include <QObject>
+
+#include <functional>
+
+class MethodModel;
+class SetupModel;
+class StandardisationLogModel;
+class TitrationLogModel;
+
+// The method library as the screens see it: the current method (the one
+// the settings row names, with its electrode, titrant and titration parts
+// and its run) and the list of stored methods, newest first, as a view model.
+class MethodLibrary : public QObject
+{
+    Q_OBJECT
+public:
+    explicit MethodLibrary(QObject *parent = nullptr);
+    // The settings row that names the current method.
+    void setSetup(SetupModel *setup) { m_setup = setup; }
+
+    MethodModel *current() const { return m_current; }
+    ObjectListModel *view() const { return m_view; }
+    const QList<MethodModel *> &methods() const { return m_methods; }
+    int count() const { return m_methods.size(); }
+    int currentMethodId() const;
+
+    // The stored methods, read anew; the entries they replace go once the
+    // screens have moved to the new ones.
+    void loadList();
+    // Makes the method last changed the current one in the settings.
+    void selectLastUpdated();
+    // Loads a method as the current one and tells the screens.
+    void reload(int id);
+    // A log model of the screens saves the current method's run.
+    void attach(TitrationLogModel *log, std::function<bool(int)> standardised);
+    void attach(StandardisationLogModel *log);
+
+signals:
+    void changed();
+
+private:
+    SetupModel *m_setup = nullptr;
+    MethodModel *m_current;
+    ObjectListModel *m_view;
+    QList<MethodModel *> m_methods;
+};
