@@ -349,6 +349,8 @@ TEST_F(DataManager, MethodListsAndRunCyclesDoNotPileUpObjects)
         dm->getMethodsFromDB();
     EXPECT_EQ(methodObjects(), once);
     EXPECT_EQ(dm->methodCount(), 2);
+    ASSERT_EQ(dm->methods()->count(), 2);
+    EXPECT_TRUE(qobject_cast<MethodModel *>(dm->methods()->get(1))->methodName().contains(QLatin1String("a")));
 
     // The points of a cycle stay on it, whatever its number says.
     TitrationModel *run = dm->titrationModel();
@@ -367,6 +369,20 @@ TEST_F(DataManager, MethodListsAndRunCyclesDoNotPileUpObjects)
     dm->recordRunPoint(0.0f);
     ASSERT_EQ(run->titrationCycles().size(), 2);
     EXPECT_EQ(run->titrationCycles().last()->graphPoints().count(QLatin1Char('(')), 1);
+
+    // A stored run's cycles stay shown, however often they are read, until
+    // the screens go back to the run.
+    const auto shown = [&] {
+        QQmlListProperty<TitrationCycleModel> list = dm->titrationcycles();
+        return list.count(&list);
+    };
+    for (int c = 1; c <= 3; ++c)
+        ASSERT_TRUE(TestDatabase::exec(QStringLiteral("INSERT INTO titrationCycleTable (titrationId, cycleNo, inclInAvg) VALUES (77, %1, 1)").arg(c)));
+    dm->getTitrationCycleLogFromDb(77);
+    EXPECT_EQ(shown(), 3);
+    EXPECT_EQ(shown(), 3);
+    dm->initializeTitration();
+    EXPECT_EQ(shown(), 0);
 }
 
 TEST_F(DataManager, RunStateVersionsAndIdentity)
