@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 #include "interfaces/meterdatainterface.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"

@@ -26,11 +26,11 @@
 #include "models/titrationmodel.h"
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
-#include "system/hostspeed.h"
+#include "hostspeed.h"
 #include "system/languageselector.h"
 #include "system/platform.h"
 #include "system/resourcemanager.h"
-#include "system/uidriver.h"
+#include "uidriver.h"
 #include "titrationcontrollerbase.h"
 
 #include <QApplication>

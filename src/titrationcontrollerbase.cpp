@@ -1,9 +1,9 @@
 #include "titrationcontrollerbase.h"
 
 #include "controller/burettecontroller.h"
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 #include "controller/mspcontroller.h"
-#include "controller/runmeterinterface.h"
+#include "interfaces/runmeterinterface.h"
 #include "system/platform.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "controller/burettecontroller.h"
 
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 #include "controller/mspcontroller.h"
 
 #include <QDebug>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 #include "models/concentrationcalc.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controller/runmeterinterface.h"
+#include "interfaces/runmeterinterface.h"
 #include "interfaces/meterdatainterface.h"
 
 #include <QObject>

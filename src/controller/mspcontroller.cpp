@@ -1,6 +1,6 @@
 #include "controller/mspcontroller.h"
 
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 #include "controller/serialport.h"
 #include "system/platform.h"
 

@@ -7,7 +7,7 @@
 #include "controller/algorithms/titrationalgorithmbase.h"
 #include "controller/algorithms/volumetricdatastore.h"
 #include "controller/burettecontroller.h"
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 #include "controller/mspcontroller.h"
 #include "reports/logmanager.h"
 #include "system/clock.h"

@@ -22,8 +22,8 @@
 #include "models/titrationlogmodel.h"
 #include "system/languageselector.h"
 #include "system/resourcemanager.h"
-#include "system/uidriver.h"
-#include "system/uiscene.h"
+#include "uidriver.h"
+#include "uiscene.h"
 #include "testdatabase.h"
 #include "titrationcontrollerbase.h"
 

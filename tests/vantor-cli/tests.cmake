@@ -19,7 +19,8 @@ if(NOT KESTRUM_ASAN)
   file(GLOB ASAN_ENGINE_SOURCES CONFIGURE_DEPENDS
     ${asan_dir}/controller/*.cpp
     ${asan_dir}/controller/algorithms/*.cpp
-    ${asan_dir}/controller/algorithms/maths/*.cpp)
+    ${asan_dir}/controller/algorithms/maths/*.cpp
+    ${asan_dir}/interfaces/*.cpp)
   # The meter controller leans on the data layer, which the copy leaves out.
   list(FILTER ASAN_ENGINE_SOURCES EXCLUDE REGEX "/metercontroller\\.cpp$")
   add_executable(asan_titrationcontroller

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controller/algorithms/maths/volumeseries.h"
+
 #include <QObject>
 
 #include <map>
@@ -15,7 +17,7 @@ struct DataPoint
 
 // The common store of a run's series: points under a running index from 0.
 // An absent point reads as time stamp -1, volume -1.0 and data -1.0.
-class DataStoreBase : public QObject
+class DataStoreBase : public QObject, public VolumeSeries
 {
     Q_OBJECT
 public:
@@ -25,7 +27,7 @@ public:
 public slots:
     virtual void addPoint(long timeStamp, double volume, double data);
     virtual bool getPoint(int index, long &timeStamp, double &volume, double &data) const;
-    virtual int size() const;
+    int size() const override;
     virtual bool getLastPoint(long &timeStamp, double &volume, double &data) const;
 
 public:
@@ -36,8 +38,8 @@ public:
     double volumeBackFromLast(int n) const;
 
     // Plain reads for the stores' own arithmetic; -1.0 for an absent point.
-    double volumeAt(int index) const;
-    double dataAt(int index) const;
+    double volumeAt(int index) const override;
+    double dataAt(int index) const override;
 
 signals:
     void NewDataReceived();

@@ -4,7 +4,7 @@
 #include "controller/algorithms/maths/volumetricmath.h"
 #include "controller/algorithms/temporaldatastore.h"
 #include "controller/algorithms/volumetricdatastore.h"
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 
 #include <QDebug>
 

@@ -3,7 +3,7 @@
 #include "controller/algorithms/maths/unsignedvolume.h"
 #include "controller/algorithms/maths/volumetricmath.h"
 #include "controller/algorithms/volumetricdatastore.h"
-#include "controller/enginedatainterface.h"
+#include "interfaces/enginedatainterface.h"
 
 #include <QDebug>
 

@@ -1,6 +1,5 @@
 #include "controller/algorithms/maths/volumetricmath.h"
 
-#include "controller/algorithms/datastorebase.h"
 
 #include <QtGlobal>
 
@@ -17,7 +16,7 @@ namespace {
 // then expanded back to powers of x. In powers of x directly, points 10 µL
 // apart at 50 mL make a matrix that the decomposition finds rank deficient.
 template <int Rows, int Cols>
-Eigen::Matrix<double, Cols, 1> fitPoints(const DataStoreBase &store, int first)
+Eigen::Matrix<double, Cols, 1> fitPoints(const VolumeSeries &store, int first)
 {
     using Result = Eigen::Matrix<double, Cols, 1>;
     if (first < 0 || first > store.size() - Rows)
@@ -26,10 +25,8 @@ Eigen::Matrix<double, Cols, 1> fitPoints(const DataStoreBase &store, int first)
     double x[Rows];
     Eigen::Matrix<double, Rows, 1> y;
     for (int k = 0; k < Rows; ++k) {
-        double volume = 0.0, data = 0.0;
-        store.getVolumeAndData(first + k, volume, data);
-        x[k] = volume / 1000.0;
-        y(k) = data;
+        x[k] = store.volumeAt(first + k) / 1000.0;
+        y(k) = store.dataAt(first + k);
     }
 
     const double x0 = x[0];
@@ -68,27 +65,27 @@ Eigen::Matrix<double, Cols, 1> fitPoints(const DataStoreBase &store, int first)
 
 } // namespace
 
-VolumetricMath::Line VolumetricMath::fit3(const DataStoreBase &store, int i)
+VolumetricMath::Line VolumetricMath::fit3(const VolumeSeries &store, int i)
 {
     return fitPoints<3, 2>(store, i);
 }
 
-VolumetricMath::Cubic VolumetricMath::fit4(const DataStoreBase &store, int i)
+VolumetricMath::Cubic VolumetricMath::fit4(const VolumeSeries &store, int i)
 {
     return fitPoints<4, 4>(store, i);
 }
 
-VolumetricMath::Cubic VolumetricMath::fit5(const DataStoreBase &store, int i)
+VolumetricMath::Cubic VolumetricMath::fit5(const VolumeSeries &store, int i)
 {
     return fitPoints<5, 4>(store, i);
 }
 
-double VolumetricMath::lastSlope(const DataStoreBase &store)
+double VolumetricMath::lastSlope(const VolumeSeries &store)
 {
     return fit3(store, store.size() - 3)(1) * 0.001;
 }
 
-bool VolumetricMath::volumeAtValue(const DataStoreBase &store, double target, double &volume)
+bool VolumetricMath::volumeAtValue(const VolumeSeries &store, double target, double &volume)
 {
     const int n = store.size();
     int i = 0;

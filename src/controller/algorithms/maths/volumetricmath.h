@@ -1,12 +1,12 @@
 #pragma once
 
+#include "controller/algorithms/maths/volumeseries.h"
+
 #include <QObject>
 
 #include <Eigen/Core>
 
 #include <cmath>
-
-class DataStoreBase;
 
 // The small polynomial fits of a titration curve. Volumes go into the fits in
 // mL (stored µL / 1000), the data as it is. Coefficients come constant first,
@@ -22,14 +22,14 @@ public:
     explicit VolumetricMath(QObject *parent = nullptr) : QObject(parent) {}
 
     // Straight line through points i to i + 2, least squares.
-    static Line fit3(const DataStoreBase &store, int i);
+    static Line fit3(const VolumeSeries &store, int i);
     // Cubic through points i to i + 3.
-    static Cubic fit4(const DataStoreBase &store, int i);
+    static Cubic fit4(const VolumeSeries &store, int i);
     // Cubic over points i to i + 4, least squares.
-    static Cubic fit5(const DataStoreBase &store, int i);
+    static Cubic fit5(const VolumeSeries &store, int i);
 
     // dE/dV at the end of the curve in mV per µL, from the last three points.
-    static double lastSlope(const DataStoreBase &store);
+    static double lastSlope(const VolumeSeries &store);
 
     // Sum of c[k] * x^k; 0.0 for no coefficients.
     template <typename Coefficients>
@@ -57,5 +57,5 @@ public:
     // The volume (µL) at which the curve first crosses target: a walk along
     // the cubic of the crossing pair in steps of 0.1 µL, or the straight line
     // between the pair when the cubic misses it. False when neither finds one.
-    static bool volumeAtValue(const DataStoreBase &store, double target, double &volume);
+    static bool volumeAtValue(const VolumeSeries &store, double target, double &volume);
 };

@@ -1,8 +1,8 @@
-#include "system/uidriver.h"
+#include "uidriver.h"
 
 #include "reports/logmanager.h"
 #include "system/platform.h"
-#include "system/uiscene.h"
+#include "uiscene.h"
 
 #include <QDebug>
 #include <QDir>

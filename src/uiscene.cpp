@@ -1,4 +1,4 @@
-#include "system/uiscene.h"
+#include "uiscene.h"
 
 #include <QCoreApplication>
 #include <QFont>

@@ -1,4 +1,4 @@
-#include "controller/runmeterinterface.h"
+#include "interfaces/runmeterinterface.h"
 
 #include <QDebug>
 

@@ -1,4 +1,4 @@
-#include "system/hostspeed.h"
+#include "hostspeed.h"
 
 #include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
