@@ -15,7 +15,9 @@ public:
     ~VirtualInstrumentProcess();
 
     // Starts with a scenario given as JSON text; false if it did not come up.
-    bool start(const QString &scenarioJson, double speed, const QStringList &extra = {});
+    // The instrument's time runs with the link's polls (250 ms a poll), so a
+    // test that polls faster runs it faster.
+    bool start(const QString &scenarioJson, const QStringList &extra = {});
     // Ends it (and waits); the link goes with it.
     void stop();
     bool isRunning() const;
