@@ -48,3 +48,7 @@ if(NOT KESTRUM_ASAN)
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0:abort_on_error=1")
 endif()
 
+# The meter commands are tested with the meter against the instrument.
+if(TARGET integration_meteronslave)
+  add_dependencies(integration_meteronslave vantor-cli)
+endif()
