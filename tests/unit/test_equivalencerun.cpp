@@ -29,6 +29,18 @@ AcidBaseBeaker acid(std::vector<double> pKa)
     return AcidBaseBeaker(p);
 }
 
+// 0.02 mol/L of a base whose acid has pKa 5.2, in 50 mL, with 0.1 mol/L HCl.
+AcidBaseBeaker::Params weakBase()
+{
+    AcidBaseBeaker::Params p;
+    p.concentration = 0.02;
+    p.pKa = {5.2};
+    p.acidCharge = 1;
+    p.startsAsAcid = false;
+    p.titrantIsBase = false;
+    return p;
+}
+
 class EquivalenceRun : public ::testing::Test
 {
 protected:
@@ -122,12 +134,7 @@ TEST_F(EquivalenceRun, EveryProcessControlFindsTheSameEndPoint)
 // the curve, which is near the true one.
 TEST_F(EquivalenceRun, SteepStartsAreNotEquivalencePoints)
 {
-    AcidBaseBeaker::Params base;
-    base.concentration = 0.02;
-    base.pKa = {5.2};
-    base.acidCharge = 1;
-    base.startsAsAcid = false;
-    base.titrantIsBase = false;
+    const AcidBaseBeaker::Params base = weakBase();
     AcidBaseBeaker::Params weakAcid;
     weakAcid.concentration = 0.02;
     weakAcid.pKa = {9.2};
@@ -169,12 +176,7 @@ TEST_F(EquivalenceRun, SteepStartsAreNotEquivalencePoints)
 // the volume limit and says that it found no equivalence point.
 TEST_F(EquivalenceRun, OnlyASteepStartEndsAtTheLimitWithNoEquivalencePoint)
 {
-    AcidBaseBeaker::Params base;
-    base.concentration = 0.02;
-    base.pKa = {5.2};
-    base.acidCharge = 1;
-    base.startsAsAcid = false;
-    base.titrantIsBase = false;
+    const AcidBaseBeaker::Params base = weakBase();
     dm.maxVolmL = 5.f; // half way to the equivalence point
     const AlgorithmDriver::Outcome run = titrate(AcidBaseBeaker(base), 1.0, 0.05);
     EXPECT_EQ(run.reason, QStringLiteral("Reached max dispense vol: 5000; no equivalence point found"));

@@ -408,7 +408,8 @@ void TitrateRunner::storeRun(DataManagerBase &dm)
         return;
     const float results[3] = {cycle->calCon(), cycle->calCon2(), cycle->calCon3()};
     const int found = int(std::count_if(m_outcome.results.begin(), m_outcome.results.end(), [](double v) { return v > 0; }));
-    for (int i = 0; i < std::max(1, found); ++i)
+    // A run that found no end point has no result to print ("none").
+    for (int i = 0; i < found; ++i)
         m_outcome.storedResults << QString::number(double(results[i]), 'g', 6);
 
     // The summary screen's part: the run with its cycle, and the log entry.
@@ -417,7 +418,7 @@ void TitrateRunner::storeRun(DataManagerBase &dm)
     TitrationLogModel entry;
     dm.attachLogModel(&entry);
     entry.saveLogValues(false);
-    entry.setAvgConc(m_outcome.storedResults.first());
+    entry.setAvgConc(m_outcome.storedResults.value(0, QStringLiteral("0")));
     entry.setRsd(QStringLiteral("0.00%"));
     entry.updateLog();
     dm.initializeTitration();
@@ -430,6 +431,8 @@ void TitrateRunner::report(QTextStream &out) const
         out << "Known addition concentration (mol/L): " << QString::number(m_outcome.mkaResult[0], 'g', 6) << "\n";
         out << "Electrode slope (mV/decade): " << QString::number(m_outcome.mkaResult[1], 'f', 2) << "\n";
     }
+    if (m_outcome.storedResults.isEmpty() && m_outcome.completed)
+        out << "Result: none\n";
     for (int i = 0; i < m_outcome.storedResults.size(); ++i) {
         out << (i == 0 ? QStringLiteral("Result: ") : QStringLiteral("Result %1: ").arg(i + 1))
             << m_outcome.storedResults[i] << " " << m_outcome.resultUnit << "\n";
