@@ -16,13 +16,14 @@ QString VirtualInstrumentProcess::device() const
     return Platform::path(QStringLiteral("/dev/ttymxc2"));
 }
 
-bool VirtualInstrumentProcess::start(const QString &scenarioJson, const QStringList &extra)
+bool VirtualInstrumentProcess::start(const QString &scenarioJson, double speed, const QStringList &extra)
 {
     stop();
     const QString scenario = m_dir.filePath(QStringLiteral("scenario.json"));
     writeTextFile(scenario, scenarioJson);
     QStringList args{QStringLiteral("--device"), device(),
                      QStringLiteral("--scenario"), scenario,
+                     QStringLiteral("--speed"), QString::number(speed),
                      QStringLiteral("--trace"), m_dir.filePath(QStringLiteral("trace.txt"))};
     args += extra;
     m_process.setProgram(QStringLiteral(KESTRUM_BIN_DIR "/virtual-instrument"));

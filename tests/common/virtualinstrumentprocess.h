@@ -16,8 +16,8 @@ public:
 
     // Starts with a scenario given as JSON text; false if it did not come up.
     // The instrument's time runs with the link's polls (250 ms a poll), so a
-    // test that polls faster runs it faster.
-    bool start(const QString &scenarioJson, const QStringList &extra = {});
+    // test that polls `speed` times faster runs it that much faster.
+    bool start(const QString &scenarioJson, double speed, const QStringList &extra = {});
     // Ends it (and waits); the link goes with it.
     void stop();
     bool isRunning() const;

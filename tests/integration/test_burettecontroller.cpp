@@ -40,7 +40,7 @@ protected:
     void start(int buretteMl, int configuredMl, int lostSizeCommands = 0)
     {
         data.dm.setupModel()->setBuretteSize(configuredMl);
-        ASSERT_TRUE(vi.start(scenario(buretteMl, lostSizeCommands))) << vi.errorText().toStdString();
+        ASSERT_TRUE(vi.start(scenario(buretteMl, lostSizeCommands), kSpeed)) << vi.errorText().toStdString();
         msp = std::make_unique<mspController>(vi.device());
         msp->setPollInterval(int(250 / kSpeed));
         msp->setReadInterval(2);

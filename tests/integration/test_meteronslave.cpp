@@ -60,7 +60,7 @@ protected:
     {
         m_celsius = celsius;
         makeDataManager();
-        ASSERT_TRUE(vi.start(scenario(celsius, pH))) << vi.errorText().toStdString();
+        ASSERT_TRUE(vi.start(scenario(celsius, pH), kSpeed)) << vi.errorText().toStdString();
         msp = std::make_unique<mspController>(vi.device());
         msp->setPollInterval(int(250 / kSpeed));
         msp->setReadInterval(1);
@@ -233,7 +233,7 @@ TEST_F(MeterOnSlave, AnElectrodeOfSeventyFivePercentIsRefused)
     makeDataManager();
     ASSERT_TRUE(vi.start(QStringLiteral(R"({"temperature_C":25,"seed":3,"temperature_probe":true,
         "electrode":{"E0_mV":0,"slope_pct":75,"tau_s":0.5,"noise_mV":0.02},
-        "beaker":{"kind":"buffer","pH":4.01}})")));
+        "beaker":{"kind":"buffer","pH":4.01}})"), kSpeed));
     msp = std::make_unique<mspController>(vi.device());
     msp->setPollInterval(int(250 / kSpeed));
     msp->setReadInterval(1);

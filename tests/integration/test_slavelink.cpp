@@ -53,7 +53,7 @@ protected:
 
 TEST_F(SlaveLink, VersionAndSerialArrive)
 {
-    ASSERT_TRUE(vi.start(kAcetic)) << vi.errorText().toStdString();
+    ASSERT_TRUE(vi.start(kAcetic, 5)) << vi.errorText().toStdString();
     auto msp = connect(5);
     ASSERT_TRUE(waitUntil([&] { return data.dm.getMspVersion() == QLatin1String("1.07"); }));
     EXPECT_EQ(data.dm.getMfgSerialNum(), QStringLiteral("VP400-0042"));
@@ -61,7 +61,7 @@ TEST_F(SlaveLink, VersionAndSerialArrive)
 
 TEST_F(SlaveLink, PollRunsEveryQuarterSecondOnTheInstrumentsClock)
 {
-    ASSERT_TRUE(vi.start(kAcetic)) << vi.errorText().toStdString();
+    ASSERT_TRUE(vi.start(kAcetic, 4)) << vi.errorText().toStdString();
     auto msp = connect(4);
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() >= 25; }, 20000));
     std::vector<long> gaps;
@@ -80,7 +80,7 @@ TEST_F(SlaveLink, PollRunsEveryQuarterSecondOnTheInstrumentsClock)
 TEST_F(SlaveLink, DoseMovesThePistonAndTheMillivoltsFollowTheChemistry)
 {
     const double speed = 25;
-    ASSERT_TRUE(vi.start(kAcetic)) << vi.errorText().toStdString();
+    ASSERT_TRUE(vi.start(kAcetic, speed)) << vi.errorText().toStdString();
     auto msp = connect(speed);
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() >= 3; }));
     const double before = samples.mv.back();
@@ -120,7 +120,7 @@ TEST_F(SlaveLink, DoseMovesThePistonAndTheMillivoltsFollowTheChemistry)
 
 TEST_F(SlaveLink, InstrumentGoneAndBack)
 {
-    ASSERT_TRUE(vi.start(kAcetic)) << vi.errorText().toStdString();
+    ASSERT_TRUE(vi.start(kAcetic, 10)) << vi.errorText().toStdString();
     auto msp = connect(10);
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() >= 2; }));
     vi.stop();
@@ -129,7 +129,7 @@ TEST_F(SlaveLink, InstrumentGoneAndBack)
 
     QString other = QString::fromLatin1(kAcetic);
     other.replace(QStringLiteral("\"1.07\""), QStringLiteral("\"2.00\""));
-    ASSERT_TRUE(vi.start(other)) << vi.errorText().toStdString();
+    ASSERT_TRUE(vi.start(other, 10)) << vi.errorText().toStdString();
     ASSERT_TRUE(waitUntil([&] { return data.dm.getMspVersion() == QLatin1String("2.00"); }, 10000));
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() > seen + 2; }));
 }
@@ -142,7 +142,7 @@ TEST_F(SlaveLink, ElectrodeMovesBetweenBuffers)
     const double speed = 20;
     ASSERT_TRUE(vi.start(QStringLiteral(R"({"seed":5,"temperature_C":25,
         "electrode":{"E0_mV":12,"slope_pct":97,"tau_s":1.0,"noise_mV":0.02},
-        "beaker":{"kind":"buffer","pH":7.00}})"))) << vi.errorText().toStdString();
+        "beaker":{"kind":"buffer","pH":7.00}})"), speed)) << vi.errorText().toStdString();
     auto msp = connect(speed);
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() >= 4; }));
     EXPECT_NEAR(samples.mv.back(), 12.0, 0.2);

@@ -128,7 +128,7 @@ protected:
 
     void startInstrument()
     {
-        ASSERT_TRUE(vi.start(QString::fromUtf8(kScenario))) << vi.errorText().toStdString();
+        ASSERT_TRUE(vi.start(QString::fromUtf8(kScenario), kSpeed)) << vi.errorText().toStdString();
         msp = std::make_unique<mspController>(vi.device());
         msp->setPollInterval(int(250 / kSpeed));
         msp->setReadInterval(1);

@@ -58,7 +58,7 @@ protected:
 
     void start(const QString &scenario)
     {
-        ASSERT_TRUE(vi.start(scenario)) << vi.errorText().toStdString();
+        ASSERT_TRUE(vi.start(scenario, kSpeed)) << vi.errorText().toStdString();
         msp = std::make_unique<mspController>(vi.device());
         msp->setPollInterval(int(250 / kSpeed));
         msp->setReadInterval(2);

@@ -84,7 +84,7 @@ protected:
     void start(const MethodDraft &draft = MethodDraft(), const char *scenario = kAcetic)
     {
         useMethod(draft);
-        ASSERT_TRUE(vi.start(QString::fromUtf8(scenario))) << vi.errorText().toStdString();
+        ASSERT_TRUE(vi.start(QString::fromUtf8(scenario), kSpeed)) << vi.errorText().toStdString();
         msp = std::make_unique<mspController>(vi.device());
         msp->setPollInterval(int(250 / kSpeed));
         msp->setReadInterval(1);

@@ -56,8 +56,20 @@ int main(int argc, char *argv[])
         QStringLiteral("The beaker and the slave's settings (JSON)."), QStringLiteral("FILE"));
     const QCommandLineOption traceOpt(QStringLiteral("trace"),
         QStringLiteral("Write every command, reply and event with its time to FILE."), QStringLiteral("FILE"));
-    parser.addOptions({deviceOpt, scenarioOpt, traceOpt});
+    // The instrument's pace is the link's: its clock advances with the polls.
+    // The option stays for the scripts that pace the application with it.
+    const QCommandLineOption speedOpt(QStringLiteral("speed"),
+        QStringLiteral("Accepted for scripts; the clock follows the link's polls (250 ms each)."),
+        QStringLiteral("FACTOR"), QStringLiteral("1"));
+    parser.addOptions({deviceOpt, scenarioOpt, speedOpt, traceOpt});
     parser.process(app);
+
+    bool ok = false;
+    const double speed = parser.value(speedOpt).toDouble(&ok);
+    if (!ok || !(speed > 0) || speed > 10000) {
+        err << "virtual-instrument: --speed must be a number above 0 and at most 10000\n";
+        return 2;
+    }
 
     Scenario scenario;
     QString error;
