@@ -1,30 +1,30 @@
 import QtQuick 2.12
+import QtQuick.Controls 2.12
 import QtQuick.Window 2.12
+import "Constants/Paths.js" as Paths
 
 // The splash, shown while the back end is built.
-Window {
-    id: splash
+ApplicationWindow {
+    id: rootWindow
     width: 640
     height: 480
     visible: true
+    visibility: Window.FullScreen
     flags: Qt.FramelessWindowHint
-    color: "#0d3b66"
 
-    Column {
-        anchors.centerIn: parent
-        spacing: 12
-        Text {
-            anchors.horizontalCenter: parent.horizontalCenter
-            text: "Vantor Pro V400"
-            color: "white"
-            font.pixelSize: 36
-            font.bold: true
-        }
-        Text {
-            anchors.horizontalCenter: parent.horizontalCenter
-            text: "Starting..."
-            color: "#cfe3f5"
-            font.pixelSize: 18
+    Rectangle {
+        width: 640
+        height: 480
+        color: "#273740"
+
+        Image {
+            anchors.centerIn: parent
+            width: 640
+            height: 480
+            scale: 0.85
+            fillMode: Image.PreserveAspectFit
+            sourceSize.width: 640
+            source: Paths.startupScreen
         }
     }
 }

@@ -1,5 +1,9 @@
 #include "datamanagerbase.h"
 
+#include "models/modelproperty.h"
+
+#include "databasestartup.h"
+
 #include "meter/cmeasurementcontext.h"
 #include "meterrecords.h"
 #include "models/calibrationcyclemodel.h"
@@ -492,9 +496,7 @@ void DataManagerBase::beginRunCycle()
     if (!run)
         return;
     // Made now: the cycle's stopwatch is its running time.
-    auto *cycle = new TitrationCycleModel();
-    cycle->setCycleNo(run->cycleno());
-    run->appendTitrationCycle(cycle);
+    run->startCycle();
 }
 
 void DataManagerBase::addRunPoint(float volumeMl, float value)
@@ -502,17 +504,15 @@ void DataManagerBase::addRunPoint(float volumeMl, float value)
     TitrationModel *run = titrationModel();
     if (!run)
         return;
-    run->setDirectMeasureData();
     run->setMethodId(m_methodModel->id());
-    TitrationCycleModel *cycle = run->titrationCycles().last();
-    cycle->setCycleNo(run->cycleno());
+    // One cycle object for the whole point: the one the run's cycle number names.
+    TitrationCycleModel *cycle = run->currentTitrationCycle();
     if (volumeMl == 0.0f)
         cycle->setInitialpH(QString::number(double(value)));
     cycle->setSampleId(titrationSetupModel()->sampleID());
     cycle->setTitrationId(run->id());
     emit valueChanged();
-    run->currentTitrationCycle()->addPoint(volumeMl, value, electrodeSetupModel()->resolution(),
-                                           titrationSetupModel()->displayUnits());
+    cycle->addPoint(volumeMl, value, electrodeSetupModel()->resolution(), titrationSetupModel()->displayUnits());
 }
 
 void DataManagerBase::setMspVersion(const QString &version)
@@ -639,7 +639,11 @@ void DataManagerBase::setProbeTemp(float t)
 
 void DataManagerBase::sendToConsole(const QString &text)
 {
+    // Unread text is bounded: until the remote port reads it, only the
+    // newest part is kept, so a run with nobody listening can't grow it.
     m_console += text;
+    if (m_console.size() > consoleLimit)
+        m_console.remove(0, m_console.size() - consoleLimit);
     m_consoleNew = true;
 }
 
@@ -818,7 +822,6 @@ void DataManagerBase::getMethodsFromDB()
     if (!query.exec(QStringLiteral(
             "SELECT *  FROM methodSetupTable WHERE id != 99999 order  by datetime(mcreatedAt) DESC")))
         return;
-    // The old entries stay alive: a screen may still hold one.
     QList<MethodModel *> list;
     while (query.next()) {
         auto *entry = new MethodModel(this, false);
@@ -827,8 +830,12 @@ void DataManagerBase::getMethodsFromDB()
         entry->setMethodPassword(query.value(QStringLiteral("methodPassword")).toString());
         list.append(entry);
     }
+    // The old entries go once the screens have moved to the new list.
+    QList<MethodModel *> old = m_methods;
     m_methods = list;
     setMethodCount(m_methods.size());
+    emit valueChanged();
+    releaseLater(old);
 }
 
 // ---- Standardisation ----
@@ -1266,4 +1273,9 @@ void DataManagerBase::insertATCCalibrationValues(float probeTemperature, float t
 bool DataManagerBase::logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn)
 {
     return meterRecords()->logMeasurement(log, isDataLogNotifOn);
+}
+
+QString DataManagerBase::databaseMessage() const
+{
+    return DatabaseStartup::message();
 }

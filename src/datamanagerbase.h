@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/enginedatainterface.h"
+#include "interfaces/meterdatainterface.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
 #include "models/concentrationcalc.h"
@@ -43,7 +44,7 @@ class TitrationSetupModel;
 // titration part of the method in "Titration" mode, the titrant part in
 // "Standardization" mode) and takes the results of a run. Published to the
 // screens as "dm".
-class DataManagerBase : public QObject, public EngineDataInterface
+class DataManagerBase : public QObject, public EngineDataInterface, public MeterDataInterface
 {
     Q_OBJECT
     Q_PROPERTY(QString deviceMode READ deviceMode WRITE setDeviceMode NOTIFY valueChanged)
@@ -76,10 +77,15 @@ class DataManagerBase : public QObject, public EngineDataInterface
     Q_PROPERTY(int rinseCycles READ rinseCycles WRITE setRinseCycles NOTIFY rinseCyclesChanged)
     Q_PROPERTY(int qmlStirSpeed READ qmlStirSpeed WRITE setQmlStirSpeed NOTIFY valueChanged)
     Q_PROPERTY(bool qmlStirrerState READ qmlStirrerState WRITE setQmlStirrerState NOTIFY valueChanged)
+    // Empty while the database file is in use; otherwise why the session
+    // stores nothing (the file could not be opened, read or migrated).
+    Q_PROPERTY(QString databaseMessage READ databaseMessage CONSTANT)
 
 public:
     static constexpr double uLtomL = 1000.0;
     static constexpr int kNotInThisMode = -999;
+    // The newest console text kept until it is read, in characters.
+    static constexpr int consoleLimit = 64 * 1024;
     static const QString modeTitration;
     static const QString modeStandardization;
 
@@ -101,7 +107,7 @@ public:
 
     // ---- Models ----
     MethodModel *methodModel() const { return m_methodModel; }
-    ElectrodeSetupModel *electrodeSetupModel() const;
+    ElectrodeSetupModel *electrodeSetupModel() const override;
     TitrantSetupModel *titrantSetupModel() const;
     TitrationSetupModel *titrationSetupModel() const;
     SysInfoModel *sysInfoModel() const { return m_sysInfoModel; }
@@ -134,8 +140,8 @@ public:
 
     // The meter's measurement engine, used for the mV and pH conversions.
     // Until one is set, a private one with an uncalibrated electrode serves.
-    void setMeasurementContext(CMeasurementContext *context);
-    CMeasurementContext *measurementContext() const { return m_MeasContext; }
+    void setMeasurementContext(CMeasurementContext *context) override;
+    CMeasurementContext *measurementContext() const override { return m_MeasContext; }
 
     // ---- Mode ----
     QString deviceMode() const override { return m_deviceMode; }
@@ -183,7 +189,7 @@ public:
     float millivoltsToPH(float millivolts) override;
     float phToMillivolts(float ph) override;
     float getMeasuredMillivolt(float millivolts);
-    float getTemperature() const { return m_temperatureCelcius; }
+    float getTemperature() const override { return m_temperatureCelcius; }
     float getMillivolts() const { return m_millivolts; }
 
     // ---- Results in ----
@@ -219,6 +225,7 @@ public:
     QString titratorModelNo() const { return m_titratorModelNo; }
     void setTitratorModelNo(const QString &v);
     int productType() const { return 0; }
+    QString databaseMessage() const;
 
     // ---- Live state ----
     bool getDispenseInProgress() const override { return m_dispenseInProgress; }
@@ -425,14 +432,14 @@ private:
 
 public:
     // Made on first use, with the meter state row loaded.
-    MeterRecords *meterRecords();
-    MeasurementModel *measurementModel();
-    CalibrationModel *calibrationModel();
-    CalibrationCycleModel *calibrationCycleModel();
+    MeterRecords *meterRecords() override;
+    MeasurementModel *measurementModel() override;
+    CalibrationModel *calibrationModel() override;
+    CalibrationCycleModel *calibrationCycleModel() override;
     QQmlListProperty<CalibrationCycleModel> calibrationcycles();
-    const QList<CalibrationCycleModel *> &calibrationCycleList();
+    const QList<CalibrationCycleModel *> &calibrationCycleList() override;
     // One finished point of the calibration in hand, into memory.
-    void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp);
+    void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp) override;
 
 public slots:
     void initiateCalibrationModelFromTitration();
@@ -440,7 +447,7 @@ public slots:
     void insertCalibrationValue();
     void getCalibrationCycles();
     void getCalibrationCyclesFromDb(int calId);
-    void loadLastCalibration(const QString &probeType, const QString &iseType);
+    void loadLastCalibration(const QString &probeType, const QString &iseType) override;
     void loadCalibrationPoints(int calId);
     void deleteCalibrationModelAndPoints();
     void insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset);

@@ -18,12 +18,13 @@
 #include "models/titrationlogmodel.h"
 #include "models/titrationmodel.h"
 #include "models/titrationsetupmodel.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "system/platform.h"
 
 #include <QDebug>
 #include <QSqlQuery>
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -45,8 +46,16 @@ QString DataMigrator::backupFilePath()
 
 bool DataMigrator::migrate()
 {
-    const QString version = SysInfoModel::readDbVersion();
+    bool readable = true;
+    const QString version = SysInfoModel::readDbVersion(QString(), &readable);
     qDebug() << "DataMigrator: database version" << version;
+    if (!readable) {
+        // Nothing is migrated, copied or emptied on the strength of a file
+        // that can't even be read.
+        m_outcome = Outcome::Unreadable;
+        return false;
+    }
+    m_outcome = Outcome::Current;
     if (version == SysInfoModel::currentDatabaseVersion)
         return true;
 
@@ -57,8 +66,10 @@ bool DataMigrator::migrate()
         DbTransaction unit;
         migrated = unit.isOpen() && migrateModelsFrom(version) && unit.commit();
     }
-    if (migrated)
+    if (migrated) {
+        m_outcome = Outcome::Migrated;
         return true;
+    }
     return wipeDatabaseRebuildSysInfo();
 }
 
@@ -80,9 +91,15 @@ bool DataMigrator::migrateModelsFrom(const QString &fromVersion)
 
 bool DataMigrator::wipeDatabaseRebuildSysInfo()
 {
+    m_outcome = Outcome::LeftAsFound;
+    QStringList ownTables = DbUtil::tableNames();
+    ownTables.erase(std::remove_if(ownTables.begin(), ownTables.end(),
+                                   [](const QString &t) { return t.startsWith(QLatin1String("sqlite_")); }),
+                    ownTables.end());
+    // Nothing is destroyed without its copy; a file without tables of its own
+    // (the first start) has nothing to copy and leaves the last copy alone.
     ImportExport backup(backupFilePath());
-    if (!backup.exportAll()) {
-        // Nothing is destroyed without its copy.
+    if (!ownTables.isEmpty() && !backup.exportAll()) {
         qDebug() << "DataMigrator: the JSON copy could not be written; the file is left as it is";
         return false;
     }
@@ -104,9 +121,12 @@ bool DataMigrator::wipeDatabaseRebuildSysInfo()
         ok = ok && insert.prepare(QStringLiteral("INSERT INTO %1 (dbVersion) VALUES(:dbVersion)").arg(SysInfoModel::tableName));
         insert.bindValue(QStringLiteral(":dbVersion"), SysInfoModel::currentDatabaseVersion);
         ok = ok && DbUtil::exec(insert);
-        if (!ok || !unit.commit())
+        if (!ok || !unit.commit()) {
             qDebug() << "DataMigrator: the file could not be emptied; it stays as it was";
+            return false;
+        }
     }
+    m_outcome = Outcome::Wiped;
     DbUtil::execText(QStringLiteral("VACUUM"));
     return false;
 }

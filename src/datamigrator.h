@@ -12,6 +12,16 @@ class DataMigrator : public QObject
 public:
     static DataMigrator *dmPtr();
 
+    // What the last `migrate` did with the file.
+    enum class Outcome {
+        Current,     // the file is of this version
+        Migrated,    // brought forward, everything kept that the steps keep
+        Wiped,       // saved to JSON and emptied: the service restarts
+        Unreadable,  // not a database, or its version can't be read: untouched
+        LeftAsFound, // could not be migrated nor saved: untouched
+    };
+    Outcome outcome() const { return m_outcome; }
+
     // True: safe to continue. False: the application must restart.
     bool migrate();
     // Asks every model in turn; all are asked even after one has failed.
@@ -21,10 +31,12 @@ public:
 
 public slots:
     // Saves the file to JSON, then empties it down to one `systemInfo` row of
-    // the current version. Always returns false.
+    // the current version. Always returns false. A file with tables whose
+    // copy can't be written completely is left as it is (`LeftAsFound`).
     bool wipeDatabaseRebuildSysInfo();
     void restartApp();
 
 private:
     explicit DataMigrator(QObject *parent = nullptr);
+    Outcome m_outcome = Outcome::Current;
 };

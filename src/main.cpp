@@ -7,8 +7,9 @@
 #include "controller/burettecontroller.h"
 #include "controller/metercontroller.h"
 #include "controller/mspcontroller.h"
+#include "controller/reportcontroller.h"
 #include "datamanagerbase.h"
-#include "datamigrator.h"
+#include "databasestartup.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
 #include "models/electrodesetupmodel.h"
@@ -16,6 +17,7 @@
 #include "models/measurementmodel.h"
 #include "models/mkaadditionmodel.h"
 #include "models/mkatitrationcyclemodel.h"
+#include "models/reportmodel.h"
 #include "models/setupmodel.h"
 #include "models/standardisationlogmodel.h"
 #include "models/titrationcyclemodel.h"
@@ -23,7 +25,11 @@
 #include "models/titrationmodel.h"
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
+#include "system/hostspeed.h"
+#include "system/languageselector.h"
 #include "system/platform.h"
+#include "system/resourcemanager.h"
+#include "system/uidriver.h"
 #include "titrationcontrollerbase.h"
 
 #include <QApplication>
@@ -33,7 +39,6 @@
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
-#include <QSqlDatabase>
 #include <QtQml>
 
 namespace {
@@ -58,13 +63,10 @@ int main(int argc, char *argv[])
 
     // The database, before any application object exists.
     Platform::prepareSandbox();
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
-    db.setDatabaseName(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
-    db.open();
     // A file of another schema version is brought forward, or saved to JSON
-    // and emptied; the latter needs a restart of the service.
-    if (!DataMigrator::dmPtr()->migrate())
-        DataMigrator::dmPtr()->restartApp();
+    // and emptied (then the service restarts, once per boot at most). A file
+    // that can't be used is left alone and the session stores nothing.
+    DatabaseStartup::open(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
 
     qputenv("QT_IM_MODULE", QByteArray("qtvirtualkeyboard"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -75,6 +77,7 @@ int main(int argc, char *argv[])
     QQmlApplicationEngine engine_startup;
     engine_startup.load(QUrl(QStringLiteral("qrc:/startup.qml")));
     QQmlApplicationEngine engine;
+    UiDriver *driver = UiDriver::fromEnvironment(&engine); // host builds only, KESTRUM_UI_DRIVER=1
 
     // Types that travel through list properties.
     qmlRegisterAnonymousType<TitrationCycleModel>("Kestrum", 1);
@@ -90,16 +93,19 @@ int main(int argc, char *argv[])
     // The back end, strictly in this order: each constructor reaches for
     // those before it.
     DataManagerBase *dm = DataManagerBase::dmPtr(); // the data layer; the engine's from here on
+    ResourceManager *rm = ResourceManager::rmPtr(); // USB disk, beeper, network, update
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
-    MeterController *mc = MeterController::mcPtr(); // the measurement engine, lent to the data layer
+    MeterController *mc = MeterController::mcPtr(dm); // the measurement engine, lent to the data layer
     TitrationControllerBase *tc = TitrationControllerBase::tcPtr(); // the run controller; sets the backlight
-    Q_UNUSED(msp)
+    // Host builds: KESTRUM_SPEED runs the clock faster, with the virtual instrument's.
+    HostSpeed::apply(HostSpeed::fromEnvironment(), msp, bc, tc, dm->setupModel());
 
     dm->setTitrationQMLCoreVersion(dm->getTitrationCoreVersion());
     engine.rootContext()->setContextProperty(QStringLiteral("tc"), tc);
     engine.rootContext()->setContextProperty(QStringLiteral("dm"), dm);
     engine.rootContext()->setContextProperty(QStringLiteral("mc"), mc);
+    engine.rootContext()->setContextProperty(QStringLiteral("rm"), rm);
     engine.rootContext()->setContextProperty(QStringLiteral("electrode"), dm->electrodeSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titrant"), dm->titrantSetupModel());
     engine.rootContext()->setContextProperty(QStringLiteral("titration"), dm->titrationSetupModel());
@@ -110,6 +116,7 @@ int main(int argc, char *argv[])
     auto *measurementTemp = new MeasurementModel();
     engine.rootContext()->setContextProperty(QStringLiteral("measurementTemp"), measurementTemp);
     engine.rootContext()->setContextProperty(QStringLiteral("calibrationCycleModel"), dm->calibrationCycleModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("usbHandler"), rm->usb);
 
     // The log models the screens save with.
     auto *measurementLogModel = new MeasurementLogModel();
@@ -123,6 +130,12 @@ int main(int argc, char *argv[])
     engine.rootContext()->setContextProperty(QStringLiteral("calibrationLogModel"), calibrationLogModel);
     engine.rootContext()->setContextProperty(QStringLiteral("standardisationLogModel"), standardisationLogModel);
     engine.rootContext()->setContextProperty(QStringLiteral("titrationLogModel"), titrationLogModel);
+    auto *ls = new LanguageSelector();
+    auto *reportController = new ReportController();
+    auto *reportModel = new ReportModel();
+    engine.rootContext()->setContextProperty(QStringLiteral("ls"), ls);
+    engine.rootContext()->setContextProperty(QStringLiteral("reportController"), reportController);
+    engine.rootContext()->setContextProperty(QStringLiteral("reportModel"), reportModel);
 
     // Close the splash once every context property is set, then load the UI.
     if (!engine_startup.rootObjects().isEmpty()) {
@@ -138,8 +151,16 @@ int main(int argc, char *argv[])
         qDebug() << "Kestrum: user interface loaded";
         // Direct connections: a function of the screens runs inside the emit.
         QObject *root = engine.rootObjects().first();
+        auto *window = qobject_cast<QQuickWindow *>(root);
+        reportController->loadImageCapturingWindow(window);
+        if (driver)
+            driver->attach(window);
         connectToRoot(root, tc, SIGNAL(titrationCompletedSignal()), "titrationCompleted()");
         connectToRoot(root, tc, SIGNAL(newPoint(QVariant)), "newPoint(QVariant)");
+        connectToRoot(root, mc, SIGNAL(qmlStableCalibration()), "stableCalibration()");
+        connectToRoot(root, mc, SIGNAL(qmlUnStableCalibration()), "unStableCalibration()");
+        connectToRoot(root, mc, SIGNAL(stopQmlCalibration()), "stopQmlCalibration()");
+        connectToRoot(root, mc, SIGNAL(showQmlSlopeError()), "showSlopeError()");
         connectToRoot(root, bc, SIGNAL(qmlDispenseCompleted()), "qmlDispenseCompleted()");
         connectToRoot(root, bc, SIGNAL(qmlDispenseWait()), "qmlDispenseWait()");
         connectToRoot(root, bc, SIGNAL(qmlRinseCompleted()), "qmlRinseCompleted()");
@@ -151,7 +172,13 @@ int main(int argc, char *argv[])
         connectToRoot(root, calibrationLogModel, SIGNAL(notificationSignal(QVariant)), notification);
         connectToRoot(root, measurementLogModel, SIGNAL(notificationSignal(QVariant)), notification);
         connectToRoot(root, measurementLogModel, SIGNAL(logSaved()), "logSaved()");
+        connectToRoot(root, rm->usb, SIGNAL(usbToggle()), "usbStatusChanged()");
+        // A database file that could not be used: the session stores nothing.
+        if (!DatabaseStartup::message().isEmpty())
+            QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QStringLiteral("Database")),
+                                      Q_ARG(QVariant, DatabaseStartup::message()));
     }
+    rm->usb->usbDevChanged();
 
     dm->updateProdType(QStringLiteral("All-in-one"));
     return app.exec();

@@ -1,5 +1,7 @@
 #include "meterrecords.h"
 
+#include "models/modelproperty.h"
+
 #include "datamanagerbase.h"
 #include "meter/cmeasurementcontext.h"
 #include "models/calibrationcyclemodel.h"
@@ -34,8 +36,7 @@ QString MeterRecords::pointTimestamp()
 
 void MeterRecords::clearCycles()
 {
-    qDeleteAll(m_cycles);
-    m_cycles.clear();
+    releaseLater(m_cycles);
 }
 
 void MeterRecords::replaceCalibration(CalibrationModel *calibration)

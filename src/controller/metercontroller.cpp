@@ -1,7 +1,6 @@
 #include "controller/metercontroller.h"
 
 #include "controller/mspcontroller.h"
-#include "datamanagerbase.h"
 #include "meter/cmeasurementcontext.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationmodel.h"
@@ -25,33 +24,35 @@ float phSlopeOfPercent(double percent)
 
 } // namespace
 
-MeterController *MeterController::mcPtr()
+MeterController *MeterController::mcPtr(MeterDataInterface *dataLayer)
 {
-    static MeterController *instance = [] {
-        auto *meter = new MeterController(mspController::mspcPtr(), DataManagerBase::dmPtr());
+    // Made on the first call, which start-up makes with the data layer.
+    static MeterController *instance = [dataLayer] {
+        auto *meter = new MeterController(mspController::mspcPtr(), dataLayer);
         RunMeterInterface::setInstrumentMeter(meter);
         return meter;
     }();
     return instance;
 }
 
-MeterController::MeterController(mspController *msp, DataManagerBase *dataManager, QObject *parent)
+MeterController::MeterController(mspController *msp, MeterDataInterface *dataManager, QObject *parent)
     : QObject(parent)
     , m_dataManager(dataManager)
+    , m_dataGuard(dynamic_cast<QObject *>(dataManager))
     , m_context(new CMeasurementContext())
     , m_msp(msp)
 {
-    if (m_dataManager) {
-        m_dataManager->setMeasurementContext(m_context);
-        m_dataManager->meterRecords();
+    if (data()) {
+        data()->setMeasurementContext(m_context);
+        data()->meterRecords();
     }
 }
 
 MeterController::~MeterController()
 {
     stopMeterConnection();
-    if (m_dataManager && m_dataManager->measurementContext() == m_context)
-        m_dataManager->setMeasurementContext(nullptr);
+    if (data() && data()->measurementContext() == m_context)
+        data()->setMeasurementContext(nullptr);
     delete m_context;
 }
 
@@ -67,11 +68,11 @@ void MeterController::startAcquisition(const QString &probe, const QString &iseT
 
 void MeterController::qmlStartMeasure()
 {
-    if (!m_dataManager)
+    if (!data())
         return;
-    MeasurementModel *m = m_dataManager->measurementModel();
+    MeasurementModel *m = data()->measurementModel();
     startAcquisition(m->readMode(), m->iseType(), m->resolution(), m->significantDigits(), m->bufferGroup());
-    m_dataManager->loadLastCalibration(m->readMode(), m->iseType());
+    data()->loadLastCalibration(m->readMode(), m->iseType());
     reInitializeCalibration(m_meterProbeType, m_meterIseProbeType);
     startMeterConnection();
     m_meterState = Running;
@@ -90,9 +91,9 @@ void MeterController::qmlStopMeasure()
 
 void MeterController::qmlStartCalibration()
 {
-    if (!m_dataManager)
+    if (!data())
         return;
-    CalibrationModel *c = m_dataManager->calibrationModel();
+    CalibrationModel *c = data()->calibrationModel();
     if (!c) {
         qDebug() << "MeterController: no calibration was initiated";
         return;
@@ -123,16 +124,16 @@ void MeterController::reInitiateMeterModel()
 
 void MeterController::repointAtMethodProbe()
 {
-    if (!m_dataManager)
+    if (!data())
         return;
-    ElectrodeSetupModel *e = m_dataManager->electrodeSetupModel();
+    ElectrodeSetupModel *e = data()->electrodeSetupModel();
     if (!e) {
         qDebug() << "MeterController: no method loaded, the meter keeps its probe";
         return;
     }
     stopMeterConnection();
     measEngProbeUpdate(e->electrodeType(), e->iseType(), e->resolution(), e->significantDigits());
-    m_dataManager->loadLastCalibration(e->electrodeType(), e->iseType());
+    data()->loadLastCalibration(e->electrodeType(), e->iseType());
     reInitializeCalibration(e->electrodeType(), e->iseType());
     startMeterConnection();
 }
@@ -160,9 +161,9 @@ void MeterController::stopMeterConnection()
 void MeterController::execute(long timeStamp, double mvData)
 {
     Q_UNUSED(timeStamp)
-    if (!m_dataManager)
+    if (!data())
         return;
-    const float temperature = m_dataManager->getTemperature();
+    const float temperature = data()->getTemperature();
     if (!m_probeLogged) {
         m_probeLogged = true;
         qDebug() << "-- execute -- m_meterProbeType: " << m_meterProbeType << " m_meterIseProbeType: "
@@ -184,7 +185,7 @@ void MeterController::execute(long timeStamp, double mvData)
     m_context->SetTemperatuteDegreC(temperature);
     m_context->UpdateMeasurement();
     const bool stable = m_context->IsStable();
-    if (m_dataManager->deviceMode() == QLatin1String("Measurement"))
+    if (data()->deviceMode() == QLatin1String("Measurement"))
         measurementSample(stable);
     else
         calibrationSample(mvData, stable);
@@ -192,10 +193,10 @@ void MeterController::execute(long timeStamp, double mvData)
 
 void MeterController::measurementSample(bool stable)
 {
-    MeasurementModel *m = m_dataManager->measurementModel();
+    MeasurementModel *m = data()->measurementModel();
     m->setScaledValue(float(m_context->GetMeasuredValue()));
     const float stableMv = float(m_context->GetStableMv());
-    m_dataManager->setMillivolts(stableMv);
+    data()->setMillivolts(stableMv);
     m->setMV(stableMv);
     m->setStability(stable);
     if (stable)
@@ -206,14 +207,14 @@ void MeterController::measurementSample(bool stable)
 
 void MeterController::calibrationSample(double mvData, bool stable)
 {
-    if (CalibrationModel *c = m_dataManager->calibrationModel())
+    if (CalibrationModel *c = data()->calibrationModel())
         c->setStability(stable);
-    CalibrationCycleModel *point = m_dataManager->calibrationCycleModel();
+    CalibrationCycleModel *point = data()->calibrationCycleModel();
     const bool outOfRange = m_context->IsOutOfRange();
     if (!stable) {
         point->setCalValue(float(m_context->GetMeasuredValue()));
         point->setVoltage(float(mvData));
-        m_dataManager->setMillivolts(float(mvData));
+        data()->setMillivolts(float(mvData));
         if (outOfRange) {
             point->setCalValue(float(kOutOfRangeValue));
             point->setVoltage(float(m_context->GetStableMv()));
@@ -263,8 +264,8 @@ void MeterController::qmlOverrideCalibration()
     }
     m_slopeError = false;
     m_meterState = Idle;
-    if (m_dataManager) {
-        CalibrationCycleModel *point = m_dataManager->calibrationCycleModel();
+    if (data()) {
+        CalibrationCycleModel *point = data()->calibrationCycleModel();
         point->setCalValue(value);
         point->setVoltage(mv);
     }
@@ -290,14 +291,14 @@ void MeterController::calEdit(float calvalue)
 {
     m_meterState = Idle;
     m_context->EditCalibrationValue(calvalue);
-    if (m_dataManager)
-        m_dataManager->calibrationCycleModel()->setCalValue(calvalue);
+    if (data())
+        data()->calibrationCycleModel()->setCalValue(calvalue);
 }
 
 void MeterController::storePhPoints()
 {
     for (int i = 0; i < m_context->GetPointCount(); ++i) {
-        m_dataManager->updateCalibrationPoint(m_context->GetPointMv(i), m_context->GetPointValue(i),
+        data()->updateCalibrationPoint(m_context->GetPointMv(i), m_context->GetPointValue(i),
                                               m_context->GetPointBuffer(i), m_context->GetPointSlope(i),
                                               m_context->GetPointOffset(i), m_context->GetPointTemperature(i));
     }
@@ -306,9 +307,9 @@ void MeterController::storePhPoints()
 void MeterController::calDone()
 {
     m_context->FinishCalibration();
-    if (!m_dataManager)
+    if (!data())
         return;
-    CalibrationModel *c = m_dataManager->calibrationModel();
+    CalibrationModel *c = data()->calibrationModel();
     if (m_meterProbeType == kPh) {
         const int status = m_context->GetStatus();
         if (status == CMeasurementContext::StatusPhSlopeOutOfRange || status == CMeasurementContext::StatusPhPointTooClose) {
@@ -325,8 +326,8 @@ void MeterController::calDone()
         qDebug() << "Average Slope" << average;
     } else if (m_meterProbeType == kRedox) {
         const double offset = m_context->GetOrpOffset();
-        m_dataManager->updateCalibrationPoint(m_context->GetLastMv(), m_context->GetLastValue(), 0.0f, 0.0f,
-                                              float(offset), m_dataManager->getTemperature());
+        data()->updateCalibrationPoint(m_context->GetLastMv(), m_context->GetLastValue(), 0.0f, 0.0f,
+                                              float(offset), data()->getTemperature());
         m_slopeError = false;
         if (c)
             c->setAvgSlope(offset);
@@ -364,9 +365,9 @@ void MeterController::measEngProbeUpdate(QString newProbeType, QString newIseTyp
 void MeterController::reInitializeCalibration(const QString &probeType, const QString &iseType)
 {
     qDebug() << " -- reInitialize calibration --- probeType: " << probeType << " iseType: " << iseType;
-    if (!m_dataManager)
+    if (!data())
         return;
-    m_dataManager->measurementModel()->setMeasureMessage(QString());
+    data()->measurementModel()->setMeasureMessage(QString());
     const QString probe = CMeasurementContext::FoldProbe(probeType);
     if (probe == kPh)
         configurePh();
@@ -380,8 +381,8 @@ void MeterController::configurePh()
 {
     m_context->SetActiveKind(CMeasurementContext::KindPh);
     m_context->ConfigurePh(m_bufferGroupIndex, m_resolution, 7.0);
-    CalibrationModel *c = m_dataManager->calibrationModel();
-    const QList<CalibrationCycleModel *> &cycles = m_dataManager->calibrationCycleList();
+    CalibrationModel *c = data()->calibrationModel();
+    const QList<CalibrationCycleModel *> &cycles = data()->calibrationCycleList();
     float mv[CMeasurementContext::kMaxPoints] = {};
     float slope[CMeasurementContext::kMaxPoints] = {};
     float offset[CMeasurementContext::kMaxPoints] = {};
@@ -415,8 +416,8 @@ void MeterController::configureRedox()
 {
     m_context->SetActiveKind(CMeasurementContext::KindRedox);
     m_context->ConfigureOrp(0.001f, 7.0);
-    CalibrationModel *c = m_dataManager->calibrationModel();
-    const QList<CalibrationCycleModel *> &cycles = m_dataManager->calibrationCycleList();
+    CalibrationModel *c = data()->calibrationModel();
+    const QList<CalibrationCycleModel *> &cycles = data()->calibrationCycleList();
     if (c && !cycles.isEmpty()) {
         m_context->SetOrpOffset(cycles.first()->offset());
         qDebug() << " -- Loading Redox cal: " << cycles.first()->offset();
@@ -434,9 +435,9 @@ void MeterController::configureIse(const QString &iseType)
     m_context->SetActiveKind(CMeasurementContext::KindIse);
     m_context->ConfigureIse(m_significantDigits, 1.0);
     m_context->SetIonName(iseType);
-    MeasurementModel *m = m_dataManager->measurementModel();
-    CalibrationModel *c = m_dataManager->calibrationModel();
-    const QList<CalibrationCycleModel *> &cycles = m_dataManager->calibrationCycleList();
+    MeasurementModel *m = data()->measurementModel();
+    CalibrationModel *c = data()->calibrationModel();
+    const QList<CalibrationCycleModel *> &cycles = data()->calibrationCycleList();
     if (!c) {
         qDebug() << " -- ISE cal USING DEFAULT - (nothing to load)";
         m->setMeasureMessage(kPleaseCalibrate);

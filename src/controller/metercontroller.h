@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controller/runmeterinterface.h"
-#include "datamanagerbase.h"
+#include "interfaces/meterdatainterface.h"
 
 #include <QObject>
 #include <QPointer>
@@ -23,11 +23,12 @@ public:
     static constexpr double kOutOfRangeValue = 9999.0;
     static constexpr float kIdealPhSlope = -59.16f;
 
-    static MeterController *mcPtr();
+    // The singleton; the first call (at start-up) names the data layer.
+    static MeterController *mcPtr(MeterDataInterface *dataLayer = nullptr);
 
     // The singleton uses the application's data manager and slave link;
     // tests give their own.
-    MeterController(mspController *msp, DataManagerBase *dataManager, QObject *parent = nullptr);
+    MeterController(mspController *msp, MeterDataInterface *dataManager, QObject *parent = nullptr);
     ~MeterController() override;
 
     CMeasurementContext *context() const { return m_context; }
@@ -88,7 +89,10 @@ private:
 
     int m_meterState = Idle;
     bool m_connected = false;
-    QPointer<DataManagerBase> m_dataManager;
+    // The data layer, while it lives.
+    MeterDataInterface *data() const { return m_dataGuard ? m_dataManager : nullptr; }
+    MeterDataInterface *m_dataManager = nullptr;
+    QPointer<QObject> m_dataGuard;
     CMeasurementContext *m_context = nullptr;
     int m_meterMode = ModeMeasurement;
     int m_calDonePoint = 0;

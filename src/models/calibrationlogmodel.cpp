@@ -9,6 +9,7 @@
 #include "system/clock.h"
 
 #include <QDebug>
+#include <QSet>
 #include <QSqlQuery>
 
 const QString CalibrationLogModel::tableName = QStringLiteral("calibrationLogTable");
@@ -77,6 +78,34 @@ void CalibrationLogModel::saveLogValues(bool isDataLogNotifOn, const QVariantMap
     LogCapacity::trim(rule, n, &CalibrationLogModel::pruneOldest);
 }
 
+// The calibrations the meter loads: the newest of each electrode type, and
+// for "ISE" the newest of each ion.
+QSet<int> CalibrationLogModel::calibrationsInUse(bool *ok)
+{
+    QSet<int> inUse;
+    QSet<QString> seen;
+    *ok = true;
+    if (!DbUtil::tableExists(QStringLiteral("calibrationTable")))
+        return inUse;
+    const bool hasIon = DbUtil::columnNames(QStringLiteral("calibrationTable")).contains(QStringLiteral("iseType"));
+    QSqlQuery all;
+    if (!DbUtil::exec(all, QStringLiteral("SELECT id, electrodeType, %1 FROM calibrationTable "
+                                          "ORDER BY datetime(mcreatedAt) DESC, id DESC")
+                               .arg(hasIon ? QStringLiteral("iseType") : QStringLiteral("''")))) {
+        *ok = false;
+        return inUse;
+    }
+    while (all.next()) {
+        const QString type = all.value(1).toString();
+        const QString key = type == QLatin1String("ISE") ? type + QLatin1Char('\n') + all.value(2).toString() : type;
+        if (!seen.contains(key)) {
+            seen.insert(key);
+            inUse.insert(all.value(0).toInt());
+        }
+    }
+    return inUse;
+}
+
 bool CalibrationLogModel::pruneOldest()
 {
     DbTransaction unit;
@@ -87,12 +116,36 @@ bool CalibrationLogModel::pruneOldest()
     const int id = oldest.value(0).toInt();
     const QVariant calibrationId = oldest.value(1);
     oldest.finish();
-    // A calibration report is filed under the calibration's id.
-    const bool ok = LogSnapshot::deleteRow(tableName, id)
-        && LogCapacity::deleteWhere("calibrationTable", "id", calibrationId)
-        && LogCapacity::deleteWhere("calibrationCycleTable", "calibrationID", calibrationId.toString())
+    bool ok = false;
+    const QSet<int> inUse = calibrationsInUse(&ok);
+    // The log entry and its report go; the calibration in use stays, with
+    // its points, so the meter keeps what the electrode was calibrated to.
+    ok = ok && LogSnapshot::deleteRow(tableName, id)
         && LogCapacity::deleteWhere("reportSetupTable", "calibrationId", calibrationId);
+    if (ok && !inUse.contains(calibrationId.toInt()))
+        ok = deleteCalibration(calibrationId);
+    // A calibration kept earlier whose entry is gone goes once a newer one
+    // of its kind is in use.
+    QSqlQuery orphans;
+    if (ok && DbUtil::tableExists(QStringLiteral("calibrationTable"))) {
+        ok = DbUtil::exec(orphans, QStringLiteral("SELECT id FROM calibrationTable WHERE id NOT IN "
+                                                  "(SELECT calibration_Id FROM calibrationLogTable WHERE calibration_Id IS NOT NULL)"));
+        QList<int> gone;
+        while (ok && orphans.next()) {
+            if (!inUse.contains(orphans.value(0).toInt()))
+                gone << orphans.value(0).toInt();
+        }
+        orphans.finish();
+        for (int orphan : gone)
+            ok = ok && deleteCalibration(orphan);
+    }
     return ok && unit.commit();
+}
+
+bool CalibrationLogModel::deleteCalibration(const QVariant &calibrationId)
+{
+    return LogCapacity::deleteWhere("calibrationTable", "id", calibrationId)
+        && LogCapacity::deleteWhere("calibrationCycleTable", "calibrationID", calibrationId.toString());
 }
 
 bool CalibrationLogModel::deleteRow(int id)

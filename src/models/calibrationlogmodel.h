@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QSqlRecord>
 #include <QString>
 #include <QStringList>
@@ -51,6 +52,7 @@ public:
     // Deletes the oldest entry with its calibration, points and report, as
     // one unit.
     static bool pruneOldest();
+    static QSet<int> calibrationsInUse(bool *ok);
 
     // Builds the entry from a stored row (all columns or the list's).
     void loadFromRecord(const QSqlRecord &row);
@@ -72,6 +74,8 @@ signals:
     void notificationSignal(QVariant etype);
 
 private:
+    static bool deleteCalibration(const QVariant &calibrationId);
+
     int m_id = defaultId;
     MethodModel *m_current = nullptr;
 };

@@ -125,13 +125,13 @@ void ElectrodeSetupModel::setDirectMeasureUnit(const QString &unit)
     emit valueChanged();
 }
 
-void ElectrodeSetupModel::setElectrodeSetupValues()
+bool ElectrodeSetupModel::setElectrodeSetupValues()
 {
     QSqlQuery select;
     select.prepare(QStringLiteral("SELECT * FROM electrodeSetupTable WHERE methodId=:methodId"));
     select.bindValue(QStringLiteral(":methodId"), m_methodId);
     if (!DbUtil::exec(select))
-        return;
+        return false;
     const bool exists = select.next();
     const bool isPh = m_electrodeType == QLatin1String("pH");
     const bool isRedox = m_electrodeType == QLatin1String("Redox");
@@ -158,8 +158,7 @@ void ElectrodeSetupModel::setElectrodeSetupValues()
         if (isPh || isRedox)
             update.bindValue(QStringLiteral(":significantDigits"), QStringLiteral("4"));
         update.bindValue(QStringLiteral(":where_id"), m_id);
-        DbUtil::exec(update);
-        return;
+        return DbUtil::exec(update);
     }
 
     select.finish();
@@ -176,8 +175,10 @@ void ElectrodeSetupModel::setElectrodeSetupValues()
     QSqlQuery insert;
     insert.prepare(columnTable().insertSql(tableName, columns));
     columnTable().bindFrom(this, insert, columns);
-    if (DbUtil::exec(insert))
-        setId(insert.lastInsertId().toInt());
+    if (!DbUtil::exec(insert))
+        return false;
+    setId(insert.lastInsertId().toInt());
+    return true;
 }
 
 bool ElectrodeSetupModel::insertStaged(const QString &suffix)

@@ -63,7 +63,8 @@ public:
     int makeIdUnique();
 
 public slots:
-    void setElectrodeSetupValues();
+    // Writes the row; false (logged) when it was not written.
+    bool setElectrodeSetupValues();
     void resetElectrodeValues();
 
 signals:

@@ -3,6 +3,7 @@
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
 #include "models/calibrationmodel.h"
+#include "models/dbtransaction.h"
 #include "models/dbutil.h"
 #include "models/measurementlogmodel.h"
 #include "models/reportmodel.h"
@@ -36,13 +37,26 @@ QString logTableOf(LogTables::Log log)
 
 // Titration and standardisation reports go by the exact type, calibration
 // and measurement reports by LIKE (any case).
-void deleteReports(const QString &reportType, bool like)
+bool deleteReports(const QString &reportType, bool like)
 {
+    if (!DbUtil::tableExists(ReportModel::tableName))
+        return true;
     QSqlQuery q;
     q.prepare(like ? QStringLiteral("DELETE FROM reportSetupTable WHERE reportType LIKE :type")
                    : QStringLiteral("DELETE FROM reportSetupTable WHERE reportType = :type"));
     q.bindValue(QStringLiteral(":type"), reportType);
-    DbUtil::exec(q);
+    return DbUtil::exec(q);
+}
+
+// The counters of those of the tables that exist.
+bool resetCounters(const QStringList &tables)
+{
+    QStringList existing;
+    for (const QString &t : tables) {
+        if (DbUtil::tableExists(t))
+            existing << t;
+    }
+    return existing.isEmpty() || DbUtil::resetSquenceIds(existing);
 }
 
 } // namespace
@@ -66,76 +80,80 @@ int LogTables::rowCount(Log log)
     return ok ? n : -1;
 }
 
-void LogTables::emptyTable(const QString &table)
+bool LogTables::emptyTable(const QString &table)
 {
     if (!DbUtil::tableExists(table))
-        return;
-    DbUtil::execText(QStringLiteral("DELETE FROM %1").arg(table));
+        return true;
+    if (!DbUtil::execText(QStringLiteral("DELETE FROM %1").arg(table)))
+        return false;
+    if (!DbUtil::tableExists(QStringLiteral("sqlite_sequence")))
+        return true;
     QSqlQuery q;
     q.prepare(QStringLiteral("DELETE FROM sqlite_sequence WHERE name = :name"));
     q.bindValue(QStringLiteral(":name"), table);
-    if (DbUtil::tableExists(QStringLiteral("sqlite_sequence")))
-        DbUtil::exec(q);
+    return DbUtil::exec(q);
 }
 
-void LogTables::deleteRunsOfLog(const QString &logTable, const QString &typeCondition, const QString &reportType)
+bool LogTables::deleteRunsOfLog(const QString &logTable, const QString &typeCondition, const QString &reportType)
 {
+    bool ok = true;
     if (DbUtil::tableExists(logTable) && DbUtil::tableExists(TitrationCycleModel::tableName)) {
         QVariantList runIds;
         QSqlQuery runs;
-        if (runs.exec(QStringLiteral("SELECT titration_Id, electrodeSetup_Type FROM %1").arg(logTable))) {
-            while (runs.next()) {
-                if (runs.value(1).toString() != QLatin1String("ISE-MKA"))
-                    runIds << runs.value(0);
-            }
+        ok = DbUtil::exec(runs, QStringLiteral("SELECT titration_Id, electrodeSetup_Type FROM %1").arg(logTable));
+        while (ok && runs.next()) {
+            if (runs.value(1).toString() != QLatin1String("ISE-MKA"))
+                runIds << runs.value(0);
         }
         runs.finish();
         for (const QVariant &id : runIds) {
             QSqlQuery del;
             del.prepare(QStringLiteral("DELETE FROM titrationCycleTable WHERE titrationId = :titrationId"));
             del.bindValue(QStringLiteral(":titrationId"), id);
-            DbUtil::exec(del);
+            ok = ok && DbUtil::exec(del);
         }
     }
-    if (DbUtil::tableExists(TitrationModel::tableName))
-        DbUtil::execText(QStringLiteral("DELETE FROM titrationTable WHERE %1").arg(typeCondition));
-    if (DbUtil::tableExists(ReportModel::tableName))
-        deleteReports(reportType, false);
-    DbUtil::resetSquenceIds({TitrationModel::tableName, TitrationCycleModel::tableName, ReportModel::tableName});
+    if (ok && DbUtil::tableExists(TitrationModel::tableName))
+        ok = DbUtil::execText(QStringLiteral("DELETE FROM titrationTable WHERE %1").arg(typeCondition));
+    return ok && deleteReports(reportType, false)
+        && resetCounters({TitrationModel::tableName, TitrationCycleModel::tableName, ReportModel::tableName});
 }
 
-void LogTables::deleteTitrationLog()
+// Each whole-log deletion is one unit: a failure or a power loss leaves the
+// log whole, never half emptied.
+bool LogTables::deleteTitrationLog()
 {
-    deleteRunsOfLog(TitrationLogModel::tableName,
-                    QStringLiteral("titrationType = 'Titration' OR titrationType = 'Direct Blank' OR "
-                                   "titrationType = 'Back Blank'"),
-                    QStringLiteral("Titration"));
-    emptyTable(TitrationLogModel::tableName);
-    emptyTable(kMkaAdditionTable);
-    emptyTable(kMkaCycleTable);
+    DbTransaction unit;
+    const bool ok = deleteRunsOfLog(TitrationLogModel::tableName,
+                                    QStringLiteral("titrationType = 'Titration' OR titrationType = 'Direct Blank' OR "
+                                                   "titrationType = 'Back Blank'"),
+                                    QStringLiteral("Titration"))
+        && emptyTable(TitrationLogModel::tableName) && emptyTable(kMkaAdditionTable) && emptyTable(kMkaCycleTable);
+    return ok && unit.commit();
 }
 
-void LogTables::deleteTitrantLog()
+bool LogTables::deleteTitrantLog()
 {
-    deleteRunsOfLog(StandardisationLogModel::tableName, QStringLiteral("titrationType = 'Standardization'"),
-                    QStringLiteral("Standardization"));
-    emptyTable(StandardisationLogModel::tableName);
+    DbTransaction unit;
+    const bool ok = deleteRunsOfLog(StandardisationLogModel::tableName, QStringLiteral("titrationType = 'Standardization'"),
+                                    QStringLiteral("Standardization"))
+        && emptyTable(StandardisationLogModel::tableName);
+    return ok && unit.commit();
 }
 
-void LogTables::deleteCalibrationLog()
+bool LogTables::deleteCalibrationLog()
 {
-    emptyTable(CalibrationLogModel::tableName);
-    emptyTable(CalibrationModel::tableName);
-    emptyTable(CalibrationCycleModel::tableName);
-    if (DbUtil::tableExists(ReportModel::tableName))
-        deleteReports(QStringLiteral("Calibration"), true);
-    DbUtil::resetSquenceIds({ReportModel::tableName});
+    DbTransaction unit;
+    const bool ok = emptyTable(CalibrationLogModel::tableName) && emptyTable(CalibrationModel::tableName)
+        && emptyTable(CalibrationCycleModel::tableName) && deleteReports(QStringLiteral("Calibration"), true)
+        && resetCounters({ReportModel::tableName});
+    return ok && unit.commit();
 }
 
-void LogTables::deleteMeasurementLog()
+bool LogTables::deleteMeasurementLog()
 {
-    emptyTable(MeasurementLogModel::tableName);
-    if (DbUtil::tableExists(ReportModel::tableName))
-        deleteReports(QStringLiteral("Measurement"), true);
-    DbUtil::resetSquenceIds({ReportModel::tableName});
+    DbTransaction unit;
+    const bool ok = emptyTable(MeasurementLogModel::tableName) && deleteReports(QStringLiteral("Measurement"), true)
+        && resetCounters({ReportModel::tableName});
+    return ok && unit.commit();
 }

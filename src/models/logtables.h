@@ -16,14 +16,15 @@ public:
     // Rows of one log; -1 for a log that cannot be counted.
     static int rowCount(Log log);
 
-    static void deleteTitrationLog();
-    static void deleteTitrantLog();
-    static void deleteCalibrationLog();
-    static void deleteMeasurementLog();
+    // Each empties its log in one unit; false (and the log whole) on failure.
+    static bool deleteTitrationLog();
+    static bool deleteTitrantLog();
+    static bool deleteCalibrationLog();
+    static bool deleteMeasurementLog();
 
 private:
     // Cycles of each logged run (but those of multiple known addition),
     // the run rows of the given types, and the report rows of a type.
-    static void deleteRunsOfLog(const QString &logTable, const QString &typeCondition, const QString &reportType);
-    static void emptyTable(const QString &table);
+    static bool deleteRunsOfLog(const QString &logTable, const QString &typeCondition, const QString &reportType);
+    static bool emptyTable(const QString &table);
 };

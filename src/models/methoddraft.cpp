@@ -41,7 +41,7 @@ void MethodDraft::fill(MethodModel &m) const
     s->setTotalSolutionVolume(totalSolutionMl);
     s->setResultUnits(resultUnits);
     s->setReactionRatio(1.0f);
-    s->setBlankRequired(QStringLiteral("None"));
+    s->setBlankRequired(QStringLiteral("No"));
     s->setPreDoseTitrantVolume(preDoseMl);
     s->setMaxTotalTitrantVolume(maxVolumeMl);
     s->setPreStirDuration(float(preStirS));

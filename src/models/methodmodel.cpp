@@ -1,8 +1,11 @@
 #include "models/methodmodel.h"
 
+#include "models/modelproperty.h"
+
 #include "models/dbtransaction.h"
 #include "models/dbutil.h"
 #include "models/electrodesetupmodel.h"
+#include "models/methodfilevalidator.h"
 #include "models/migrationframe.h"
 #include "models/concentrationcalc.h"
 #include "models/titrantsetupmodel.h"
@@ -97,15 +100,41 @@ bool MethodModel::ensureScratchMethod()
     insert.bindValue(QStringLiteral(":id"), scratchMethodId);
     insert.bindValue(QStringLiteral(":methodName"), QString(""));
     insert.bindValue(QStringLiteral(":methodPassword"), QString(""));
-    if (!DbUtil::exec(insert))
-        return false;
-    m_electrode->setMethodId(scratchMethodId);
-    m_titrant->setMethodId(scratchMethodId);
-    m_titration->setMethodId(scratchMethodId);
-    m_electrode->setElectrodeSetupValues();
-    m_titrant->setTitrantSetupValues(m_electrode->electrodeType(), true);
-    m_titration->setTitrationSetupValues(m_electrode->electrodeType());
-    return true;
+    // One unit, so that the row is never there without its parts (a start
+    // finding the row takes the working method as complete).
+    DbTransaction unit;
+    return DbUtil::exec(insert) && saveParts(scratchMethodId) && unit.commit();
+}
+
+// The id counter of the method table is raised to at least the highest
+// method id that a run or a log entry names, so that a new method never takes
+// the id of one whose records are still there. The counter is set directly:
+// a marker row with that id would collide with the method itself when it
+// still exists.
+bool MethodModel::raiseIdSequenceAboveRuns()
+{
+    qint64 highest = 0;
+    for (const char *table : {"titrationTable", "titrationLogTable", "standardisationLogTable", "calibrationLogTable"}) {
+        const QString name = QString::fromLatin1(table);
+        if (!DbUtil::tableExists(name) || !DbUtil::columnNames(name).contains(QStringLiteral("methodId")))
+            continue;
+        bool ok = false;
+        const QVariant v = DbUtil::scalar(QStringLiteral("SELECT MAX(CAST(methodId AS INTEGER)) FROM %1").arg(name), &ok);
+        if (!ok)
+            return false;
+        highest = qMax(highest, v.toLongLong());
+    }
+    if (highest <= 0)
+        return true;
+    QSqlQuery update;
+    update.prepare(QStringLiteral("UPDATE sqlite_sequence SET seq = :seq WHERE name = 'methodSetupTable' AND seq < :floor"));
+    update.bindValue(QStringLiteral(":seq"), highest);
+    update.bindValue(QStringLiteral(":floor"), highest);
+    QSqlQuery insert;
+    insert.prepare(QStringLiteral("INSERT INTO sqlite_sequence (name, seq) SELECT 'methodSetupTable', :seq "
+                                  "WHERE NOT EXISTS (SELECT 1 FROM sqlite_sequence WHERE name = 'methodSetupTable')"));
+    insert.bindValue(QStringLiteral(":seq"), highest);
+    return DbUtil::exec(update) && DbUtil::exec(insert);
 }
 
 bool MethodModel::migrate(const QString &fromVersion)
@@ -129,14 +158,12 @@ bool MethodModel::migrate(const QString &fromVersion)
             columnTable().createSql(tableName, false),
             QStringLiteral("INSERT INTO methodSetupTable SELECT %1 FROM methodSetupTable_backup;").arg(columns),
             QStringLiteral("DROP TABLE methodSetupTable_backup"),
-            QStringLiteral("INSERT INTO methodSetupTable(id, blankConcentration) VALUES((SELECT MAX(methodID) FROM titrationTable), -42.0);"),
-            QStringLiteral("DELETE FROM methodSetupTable WHERE blankConcentration=-42.0;"),
         };
         DbTransaction unit;
         bool ok = true;
         for (const QString &s : statements)
             ok = DbUtil::execText(s) && ok;
-        return ok && unit.commit();
+        return ok && raiseIdSequenceAboveRuns() && unit.commit();
     };
     return frame.run(fromVersion);
 }
@@ -224,23 +251,43 @@ void MethodModel::saveMethodValues(const QString &name, const QString &password)
     insert.bindValue(QStringLiteral(":methodPassword"), password);
     insert.bindValue(QStringLiteral(":mcreatedAt"), now);
     insert.bindValue(QStringLiteral(":mupdatedAt"), now);
-    const bool ok = DbUtil::exec(insert);
-    setSuccess(ok ? 1 : 0);
-    if (!ok)
+    // The method row and its three parts are one unit: a refused part, or a
+    // process killed half way, leaves no method behind.
+    DbTransaction unit;
+    if (!DbUtil::exec(insert)) {
+        setSuccess(0);
         return;
-
-    setId(insert.lastInsertId().toInt());
+    }
+    const int newId = insert.lastInsertId().toInt();
     m_blankConcentration = 0.0f;
-    m_electrode->setMethodId(m_id);
-    m_titrant->setMethodId(m_id);
-    m_titration->setMethodId(m_id);
     m_titrant->setTitrantConcentrationValue(m_titrantConcentration);
     m_titration->setTitrantConcentration(m_titrantConcentration);
     m_titration->setBlankConcentration(m_blankConcentration);
-    m_electrode->setElectrodeSetupValues();
-    m_titrant->setTitrantSetupValues(m_electrode->electrodeType(), true);
-    m_titration->setTitrationSetupValues(m_electrode->electrodeType());
+    if (!saveParts(newId) || !unit.commit()) {
+        unit.rollback();
+        qDebug() << "MethodModel: the method" << name << "was not stored, nothing of it kept";
+        setPartsMethodId(m_id); // the parts in memory belong to the loaded method again
+        setSuccess(0);
+        return;
+    }
+    setSuccess(1);
+    setId(newId);
     updateMethodModel(m_id);
+}
+
+void MethodModel::setPartsMethodId(int id)
+{
+    m_electrode->setMethodId(id);
+    m_titrant->setMethodId(id);
+    m_titration->setMethodId(id);
+}
+
+bool MethodModel::saveParts(int id)
+{
+    setPartsMethodId(id);
+    const QString type = m_electrode->electrodeType();
+    return m_electrode->setElectrodeSetupValues() && m_titrant->setTitrantSetupValues(type, true)
+        && m_titration->setTitrationSetupValues(type);
 }
 
 void MethodModel::updateMethodModel(int id, const QString &name, const QString &password)
@@ -354,8 +401,7 @@ QQmlListProperty<MethodModel> MethodModel::methods()
 
 void MethodModel::clearMethods()
 {
-    qDeleteAll(m_methods);
-    m_methods.clear();
+    releaseLater(m_methods);
 }
 
 bool MethodModel::loadMethodsFromDb(const QString &tableSuffix, bool sanitize)
@@ -372,7 +418,17 @@ bool MethodModel::loadMethodsFromDb(const QString &tableSuffix, bool sanitize)
     while (query.next())
         rows.append({query.value(QStringLiteral("id")).toInt(), query.value(QStringLiteral("methodName")).toString()});
     query.finish();
+    // What comes through staging tables came from a file: a method that the
+    // method screens could not have made is left out, with its reason.
+    m_refusals.clear();
+    const MethodFileValidator validator(MethodFileValidator::storedBuretteMl());
     for (const auto &row : rows) {
+        const QString refused = tableSuffix.isEmpty() ? QString() : validator.checkStaged(tableSuffix, row.first);
+        if (!refused.isEmpty()) {
+            qDebug() << "Refused " << row.second << refused;
+            m_refusals << row.second.left(30) + QStringLiteral(": ") + refused;
+            continue;
+        }
         qDebug() << "Adding " << row.second;
         auto *entry = new MethodModel(nullptr, false);
         entry->loadMethod(row.first, tableSuffix, sanitize);
@@ -385,7 +441,7 @@ bool MethodModel::loadMethodsFromDb(const QString &tableSuffix, bool sanitize)
             m_methods.append(entry);
     }
     emit valueChanged();
-    return !rows.isEmpty();
+    return !loaded.isEmpty();
 }
 
 bool MethodModel::insertStaged(const QString &suffix)
@@ -411,30 +467,36 @@ bool MethodModel::methodsToStaging(const QString &suffix)
     return ok;
 }
 
-bool MethodModel::installEntry(MethodModel *entry)
+int MethodModel::install(MethodModel *entry, QString *error)
 {
-    if (methodCount() >= maxMethods) {
-        qDebug() << "Method log is full, new method cannot be saved." << entry->methodName();
-        return false;
+    QString why;
+    if (methodCount() >= maxMethods)
+        why = QStringLiteral("Method log is full, new method cannot be saved.");
+    const QString requested = entry->methodName();
+    DbTransaction unit;
+    int newId = 0;
+    if (why.isEmpty()) {
+        entry->setMethodName(uniqueMethodName(requested));
+        QStringList columns = columnTable().names();
+        columns.removeAll(QStringLiteral("id"));
+        QSqlQuery insert;
+        insert.prepare(columnTable().insertSql(tableName, columns));
+        columnTable().bindFrom(entry, insert, columns);
+        if (DbUtil::exec(insert))
+            newId = insert.lastInsertId().toInt();
+        if (newId <= 0 || !entry->saveParts(newId) || !unit.commit())
+            why = QStringLiteral("the method or one of its parts could not be stored");
     }
-    entry->setMethodName(uniqueMethodName(entry->methodName()));
-    QStringList columns = columnTable().names();
-    columns.removeAll(QStringLiteral("id"));
-    QSqlQuery insert;
-    insert.prepare(columnTable().insertSql(tableName, columns));
-    columnTable().bindFrom(entry, insert, columns);
-    if (!DbUtil::exec(insert))
-        return false;
-    const int newId = insert.lastInsertId().toInt();
+    if (!why.isEmpty()) {
+        unit.rollback();
+        entry->setMethodName(requested);
+        qDebug() << "MethodModel: not installed:" << requested << why;
+        if (error)
+            *error = why;
+        return 0;
+    }
     entry->setId(newId);
-    entry->electrodeSetupModel()->setMethodId(newId);
-    entry->electrodeSetupModel()->setElectrodeSetupValues();
-    const QString type = entry->electrodeSetupModel()->electrodeType();
-    entry->titrantSetupModel()->setMethodId(newId);
-    entry->titrantSetupModel()->setTitrantSetupValues(type, true);
-    entry->titrationSetupModel()->setMethodId(newId);
-    entry->titrationSetupModel()->setTitrationSetupValues(type);
-    return true;
+    return newId;
 }
 
 void MethodModel::listToDb(const QVariantList &arr)
@@ -449,7 +511,7 @@ void MethodModel::listToDb(const QVariantList &arr)
                 continue;
             // The entry keeps its staged id, so that the same id listed twice
             // installs the method twice.
-            installEntry(entry);
+            install(entry);
             entry->setId(id);
         }
     }

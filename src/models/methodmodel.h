@@ -61,6 +61,7 @@ public:
 
     static bool createTables();
     static bool migrate(const QString &fromVersion);
+    static bool raiseIdSequenceAboveRuns();
     // Stored methods, the working method not counted.
     static int methodCount();
     // A name that no stored method has: a trailing "~N" is taken off and
@@ -102,6 +103,14 @@ public:
     int importedMethodCount() const { return m_methods.size(); }
     void clearMethods();
 
+    // Installs one imported entry into the live tables under a free name,
+    // the method row and its three parts as one unit: the new id, or 0 with
+    // nothing written (the library is full, or a part could not be stored).
+    int install(MethodModel *entry, QString *error = nullptr);
+    // Why methods of the last loadMethodsFromDb from staging tables were
+    // left out, one line each ("Name: field: problem").
+    const QStringList &refusals() const { return m_refusals; }
+
     // Loads a method and its three parts from the tables of a suffix. True
     // only when all three parts were found; `sanitize` clears the history
     // that belongs to the instrument the method came from.
@@ -125,7 +134,9 @@ signals:
 
 private:
     bool ensureScratchMethod();
-    bool installEntry(MethodModel *entry);
+    void setPartsMethodId(int id);
+    // Writes the three parts under the method id `id`; false when one failed.
+    bool saveParts(int id);
 
     int m_id = scratchMethodId;
     float m_titrantConcentration = 1.0f;
@@ -136,4 +147,5 @@ private:
     TitrationSetupModel *m_titration = nullptr;
     TitrationModel *m_run = nullptr;
     QList<MethodModel *> m_methods;
+    QStringList m_refusals;
 };

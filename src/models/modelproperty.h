@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDebug>
+#include <QList>
+#include <QObject>
 #include <QString>
 
 // A plain column property of a model: getter, setter that stores the value
@@ -62,3 +64,13 @@ public:                                                                         
                                                                                                                      \
 private:                                                                                                             \
     Type m_##name{};
+
+// Releases objects that the screens may still hold: each goes once control
+// is back in the event loop, after the bindings moved to the new ones.
+template <typename T>
+void releaseLater(QList<T *> &objects)
+{
+    for (T *o : objects)
+        o->deleteLater();
+    objects.clear();
+}

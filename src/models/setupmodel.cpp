@@ -328,6 +328,9 @@ void SetupModel::getLastCalibrationTime()
     static const char *const labels[3] = {"SetupModel m_pHLastCalibrationTime: ",
                                           "SetupModel m_redoxLastCalibrationTime: ",
                                           "SetupModel m_iseLastCalibrationTime: "};
+    // A file just migrated from an old version has no calibrations yet.
+    if (!DbUtil::tableExists(QStringLiteral("calibrationTable")))
+        return;
     for (int i = 0; i < 3; ++i) {
         QSqlQuery query;
         query.prepare(QStringLiteral("SELECT * FROM calibrationTable WHERE electrodeType=:electrodeType "

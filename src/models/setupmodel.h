@@ -77,6 +77,8 @@ public:
     // period of `hours` after the calibration, in its first minute too.
     static bool isCalibrationDue(const QDateTime &last, const QDateTime &now, int hours);
     static constexpr int dueCheckIntervalMs = 60000;
+    // The accelerated host clock checks as often in the instrument's time.
+    void setDueCheckInterval(int ms) { m_dueTimer.setInterval(ms); }
 
     int id() const { return m_id; }
     void setId(int id);

@@ -49,12 +49,12 @@ void StandardisationLogModel::setId(int id)
     emit valueChanged();
 }
 
-void StandardisationLogModel::saveLogValues()
+bool StandardisationLogModel::saveLogValues()
 {
-    saveLogValues(DataLogSetting::isDatalogFullNotifOn());
+    return saveLogValues(DataLogSetting::isDatalogFullNotifOn());
 }
 
-void StandardisationLogModel::saveLogValues(bool isDataLogNotifOn)
+bool StandardisationLogModel::saveLogValues(bool isDataLogNotifOn)
 {
     createTable();
     LogSourceRows rows = LogSnapshot::methodRows(m_current);
@@ -84,6 +84,7 @@ void StandardisationLogModel::saveLogValues(bool isDataLogNotifOn)
     if (LogCapacity::warningDue(rule, n, isDataLogNotifOn))
         emit notificationSignal(rule.etype);
     LogCapacity::trim(rule, n, &StandardisationLogModel::pruneOldest);
+    return id > 0;
 }
 
 bool StandardisationLogModel::pruneOldest()

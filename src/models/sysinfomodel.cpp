@@ -5,6 +5,7 @@
 #include "models/migrationframe.h"
 
 #include <QDebug>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QSysInfo>
 
@@ -66,15 +67,31 @@ bool SysInfoModel::createTables(bool withStaging)
     return live && staging;
 }
 
-QString SysInfoModel::readDbVersion(const QString &suffix)
+QString SysInfoModel::readDbVersion(const QString &suffix, bool *readable)
 {
+    if (readable)
+        *readable = true;
     if (!suffix.isEmpty() && !DbUtil::isPlainIdentifier(suffix))
         return kUnknown;
-    if (!DbUtil::tableExists(tableName + suffix))
+    QSqlQuery probe;
+    probe.prepare(QStringLiteral("SELECT count(*) FROM sqlite_master WHERE type='table' AND name=:name"));
+    probe.bindValue(QStringLiteral(":name"), tableName + suffix);
+    if (!probe.exec() || !probe.next()) {
+        qDebug() << "SysInfoModel: the database file cannot be read:" << probe.lastError().text();
+        if (readable)
+            *readable = false;
+        return kUnknown;
+    }
+    if (probe.value(0).toInt() == 0)
         return kUnknown;
     QSqlQuery query;
-    if (!query.exec(QStringLiteral("SELECT dbVersion FROM %1%2 ORDER BY datetime(timestamp) DESC LIMIT 1").arg(tableName, suffix))
-        || !query.next() || query.value(0).isNull())
+    if (!query.exec(QStringLiteral("SELECT dbVersion FROM %1%2 ORDER BY datetime(timestamp) DESC LIMIT 1").arg(tableName, suffix))) {
+        qDebug() << "SysInfoModel: the version row cannot be read:" << query.lastError().text();
+        if (readable)
+            *readable = false;
+        return kUnknown;
+    }
+    if (!query.next() || query.value(0).isNull())
         return kUnknown;
     const QString version = query.value(0).toString();
     return version.isEmpty() ? kUnknown : version;

@@ -23,7 +23,10 @@ public:
 
     // Schema version of the file ("UNKNOWN" when the table, the row or the
     // value is missing).
-    static QString readDbVersion(const QString &suffix = QString());
+    // `readable` (when given) is false only when the file could not answer:
+    // not a database, unreadable, or a systemInfo table that can't be read.
+    // A missing table, row or value is readable and answers "UNKNOWN".
+    static QString readDbVersion(const QString &suffix = QString(), bool *readable = nullptr);
     // Creates `systemInfo` (and its `_import` twin) when missing.
     static bool createTables(bool withStaging = true);
     static bool migrate(const QString &fromVersion);

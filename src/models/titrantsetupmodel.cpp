@@ -191,11 +191,11 @@ bool TitrantSetupModel::updateTitrantSetupModel(int methodId, const QString &suf
     return false;
 }
 
-void TitrantSetupModel::setTitrantSetupValues(const QString &electrodeType, bool isTitrantChanged)
+bool TitrantSetupModel::setTitrantSetupValues(const QString &electrodeType, bool isTitrantChanged)
 {
     if (!electrodeTypes.contains(electrodeType)) {
         qDebug() << "TitrantSetupModel: no statement for electrode type" << electrodeType;
-        return;
+        return false;
     }
     if (electrodeType != QLatin1String("ISE-MKA") && m_concInputMode == QLatin1String("Manual Entry"))
         setTitrantConcentrationValue(m_concInputMode_manualEntry);
@@ -204,7 +204,7 @@ void TitrantSetupModel::setTitrantSetupValues(const QString &electrodeType, bool
     select.prepare(QStringLiteral("SELECT * FROM titrantSetupTable WHERE methodId=:m_id"));
     select.bindValue(QStringLiteral(":m_id"), m_methodId);
     if (!DbUtil::exec(select))
-        return;
+        return false;
     const QDateTime now = QDateTime::currentDateTime();
     if (select.next()) {
         if (isTitrantChanged)
@@ -213,8 +213,7 @@ void TitrantSetupModel::setTitrantSetupValues(const QString &electrodeType, bool
         select.finish();
         QStringList columns = columnTable().names();
         columns.removeAll(QStringLiteral("mcreatedAt"));
-        columnTable().updateRow(this, tableName, columns, m_id);
-        return;
+        return columnTable().updateRow(this, tableName, columns, m_id);
     }
     select.finish();
     setId(std::rand() % 100000);
@@ -222,7 +221,7 @@ void TitrantSetupModel::setTitrantSetupValues(const QString &electrodeType, bool
     setMcreatedAt(now);
     if (isTitrantChanged)
         setMupdatedAt(now);
-    columnTable().insertRow(this, tableName, QStringList());
+    return columnTable().insertRow(this, tableName, QStringList());
 }
 
 bool TitrantSetupModel::insertStaged(const QString &suffix)

@@ -97,7 +97,9 @@ public:
     float standardisationResult(float volumeMl) const;
 
 public slots:
-    void setTitrantSetupValues(const QString &electrodeType, bool isTitrantChanged);
+    // Writes the row; false (logged) when it was not written, as for an
+    // electrode type that has no titrant statement.
+    bool setTitrantSetupValues(const QString &electrodeType, bool isTitrantChanged);
     float calculateTitrantConcentration(float volume, int methodId);
     void updateMethodTable(int methodId, float titrantConcentration);
     void resetTitrantValues(const QString &electrodeType);

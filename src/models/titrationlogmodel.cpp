@@ -53,12 +53,12 @@ void TitrationLogModel::setId(int id)
     emit valueChanged();
 }
 
-void TitrationLogModel::saveLogValues()
+bool TitrationLogModel::saveLogValues()
 {
-    saveLogValues(DataLogSetting::isDatalogFullNotifOn());
+    return saveLogValues(DataLogSetting::isDatalogFullNotifOn());
 }
 
-void TitrationLogModel::saveLogValues(bool isDataLogNotifOn)
+bool TitrationLogModel::saveLogValues(bool isDataLogNotifOn)
 {
     createTable();
     LogSourceRows rows = LogSnapshot::methodRows(m_current);
@@ -92,6 +92,7 @@ void TitrationLogModel::saveLogValues(bool isDataLogNotifOn)
     if (LogCapacity::warningDue(rule, n, isDataLogNotifOn))
         emit notificationSignal(rule.etype);
     LogCapacity::trim(rule, n, &TitrationLogModel::pruneOldest);
+    return id > 0;
 }
 
 void TitrationLogModel::findStandardisation(int titrantSetupId, const QDateTime &titrantUpdatedAt, int methodId)

@@ -76,9 +76,11 @@ public:
     static QList<TitrationLogModel *> newestFirst(QObject *parent);
 
 public slots:
-    void saveLogValues(bool isDataLogNotifOn);
+    // Writes the entry (and drops the oldest one past the capacity);
+    // false when the entry was not written.
+    bool saveLogValues(bool isDataLogNotifOn);
     // With the log-full warning switch as the settings serve it.
-    void saveLogValues();
+    bool saveLogValues();
     bool deleteRow(int id);
     bool updateLog();
     bool saveBlankConc(float blankConc);

@@ -1,5 +1,7 @@
 #include "models/titrationmodel.h"
 
+#include "models/modelproperty.h"
+
 #include "models/dbtransaction.h"
 #include "models/dbutil.h"
 #include "models/migrationframe.h"
@@ -94,17 +96,42 @@ void TitrationModel::copyInputs(TitrationCycleModel *cycle) const
     cycle->setTemperature(m_temperature);
 }
 
+// The cycle in progress is the one whose number the run holds: its points
+// stay on it however the cycle number and the list's length relate (a run
+// whose number is still 0, or a cycle that was not stopped).
+TitrationCycleModel *TitrationModel::cycleNumbered(int cycleNo) const
+{
+    for (auto it = m_titrationCycles.crbegin(); it != m_titrationCycles.crend(); ++it) {
+        if ((*it)->cycleNo() == cycleNo)
+            return *it;
+    }
+    return nullptr;
+}
+
 TitrationCycleModel *TitrationModel::currentTitrationCycle()
 {
-    TitrationCycleModel *cycle = nullptr;
-    if (!m_titrationCycles.isEmpty() && m_titrationCycles.size() == m_cycleno) {
-        cycle = m_titrationCycles.last();
-    } else {
+    TitrationCycleModel *cycle = cycleNumbered(m_cycleno);
+    if (!cycle) {
         cycle = new TitrationCycleModel();
         cycle->setCycleNo(m_cycleno);
         appendTitrationCycle(cycle);
     }
     copyInputs(cycle);
+    return cycle;
+}
+
+TitrationCycleModel *TitrationModel::startCycle()
+{
+    // A cycle of this number from a start that neither completed into the
+    // next number nor was stopped is replaced: one curve per cycle.
+    if (TitrationCycleModel *stale = cycleNumbered(m_cycleno)) {
+        qDebug() << "TitrationModel: cycle" << m_cycleno << "started again; its earlier points are dropped";
+        m_titrationCycles.removeOne(stale);
+        stale->deleteLater();
+    }
+    auto *cycle = new TitrationCycleModel();
+    cycle->setCycleNo(m_cycleno);
+    appendTitrationCycle(cycle);
     return cycle;
 }
 
@@ -273,10 +300,8 @@ QList<QJsonObject> jsonElements(const QString &text, const char *what)
 
 void TitrationModel::mkaCycleInput(const QString &mkaCycleArray, const QString &mkaAdditionArray)
 {
-    qDeleteAll(m_mkaCycles);
-    m_mkaCycles.clear();
-    qDeleteAll(m_mkaAdditions);
-    m_mkaAdditions.clear();
+    releaseLater(m_mkaCycles);
+    releaseLater(m_mkaAdditions);
     for (const QJsonObject &o : jsonElements(mkaCycleArray, "cycle")) {
         if (MKATitrationCycleModel *cycle = MKATitrationCycleModel::fromJson(o))
             m_mkaCycles.append(cycle);

@@ -56,6 +56,9 @@ public:
     static bool migrate(const QString &fromVersion);
 
     int cycleno() const { return m_cycleno; }
+    // A new cycle of the number in `cycleno`, in place of an unfinished one.
+    TitrationCycleModel *startCycle();
+    TitrationCycleModel *cycleNumbered(int cycleNo) const;
     void setCycleno(int cycleno);
 
     const QList<TitrationCycleModel *> &titrationCycles() const { return m_titrationCycles; }

@@ -255,17 +255,17 @@ bool TitrationSetupModel::updateTitrationSetupModel(int methodId, const QString 
     return false;
 }
 
-void TitrationSetupModel::setTitrationSetupValues(const QString &electrodeType)
+bool TitrationSetupModel::setTitrationSetupValues(const QString &electrodeType)
 {
     if (!TitrantSetupModel::electrodeTypes.contains(electrodeType)) {
         qDebug() << "TitrationSetupModel: no statement for electrode type" << electrodeType;
-        return;
+        return false;
     }
     QSqlQuery select;
     select.prepare(QStringLiteral("SELECT * FROM titrationSetupTable WHERE methodId=:m_id"));
     select.bindValue(QStringLiteral(":m_id"), m_methodId);
     if (!DbUtil::exec(select))
-        return;
+        return false;
     const QDateTime now = QDateTime::currentDateTime();
     if (select.next()) {
         setId(select.value(QStringLiteral("id")).toInt());
@@ -274,15 +274,14 @@ void TitrationSetupModel::setTitrationSetupValues(const QString &electrodeType)
         QStringList columns = columnTable().names();
         for (const char *skip : {"mcreatedAt", "titrantConcentration", "blankConcentration"})
             columns.removeAll(QString::fromLatin1(skip));
-        columnTable().updateRow(this, tableName, columns, m_id);
-        return;
+        return columnTable().updateRow(this, tableName, columns, m_id);
     }
     select.finish();
     setId(std::rand() % 100000);
     makeIdUnique();
     setMcreatedAt(now);
     setMupdatedAt(now);
-    columnTable().insertRow(this, tableName, QStringList());
+    return columnTable().insertRow(this, tableName, QStringList());
 }
 
 bool TitrationSetupModel::insertStaged(const QString &suffix)

@@ -130,7 +130,8 @@ public:
     float mkaConvertResult(float molPerL) const;
 
 public slots:
-    void setTitrationSetupValues(const QString &electrodeType);
+    // Writes the row; false (logged) when it was not written.
+    bool setTitrationSetupValues(const QString &electrodeType);
     float calculateBlankConcentration(float VtEP, int methodId);
     void resetTitrationValues();
     void updateMethodTable(int methodId, float blankConcentration);

@@ -94,6 +94,14 @@ QString Platform::path(const QString &targetPath)
     return host().root + targetPath;
 }
 
+QString Platform::bootId()
+{
+    QFile file(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromLatin1(file.read(64)).trimmed();
+}
+
 bool Platform::runsForReal(const QString &program)
 {
     if (isTarget())

@@ -51,6 +51,10 @@ public:
     // Host profile: the answer a simulated program gives (default: exit 0, no output).
     static void setSimulatedResult(const QString &program, const Result &result);
 
+    // The kernel's id of the current boot (read in both profiles: reading it
+    // changes nothing). Empty when it can't be read.
+    static QString bootId();
+
     // Whether the host profile would run this program for real.
     static bool runsForReal(const QString &program);
 };

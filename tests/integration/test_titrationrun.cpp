@@ -16,7 +16,7 @@
 #include "reports/logmanager.h"
 #include "system/clock.h"
 #include "testdatabase.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "testsupport.h"
 #include "titrationcontrollerbase.h"
 #include "virtualinstrumentprocess.h"

@@ -3,6 +3,8 @@
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
 #include "models/sysinfomodel.h"
+#include "models/titrationcyclemodel.h"
+#include "models/titrationmodel.h"
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "reports/logmanager.h"
@@ -322,6 +324,49 @@ TEST_F(DataManager, ConsolePipeHandsOverEachTextOnce)
     QString empty;
     EXPECT_TRUE(dm->getConsoleMes(&empty)) << "an empty text is still news";
     EXPECT_TRUE(empty.isEmpty());
+
+    // Nobody reading: only the newest text is kept.
+    for (int i = 0; i < 3000; ++i)
+        dm->sendToConsole(QStringLiteral("line %1 of a run nobody reads\n").arg(i, 4, 10, QLatin1Char('0')));
+    QString kept;
+    EXPECT_TRUE(dm->getConsoleMes(&kept));
+    EXPECT_EQ(kept.size(), DataManagerBase::consoleLimit);
+    EXPECT_TRUE(kept.endsWith(QStringLiteral("line 2999 of a run nobody reads\n")));
+}
+
+TEST_F(DataManager, MethodListsAndRunCyclesDoNotPileUpObjects)
+{
+    auto dm = start();
+    saveDistinctMethod(QStringLiteral("Acidity"));
+    saveDistinctMethod(QStringLiteral("Hardness"));
+    const auto methodObjects = [&] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return dm->findChildren<MethodModel *>().size();
+    };
+    dm->getMethodsFromDB();
+    const int once = methodObjects();
+    for (int i = 0; i < 100; ++i)
+        dm->getMethodsFromDB();
+    EXPECT_EQ(methodObjects(), once);
+    EXPECT_EQ(dm->methodCount(), 2);
+
+    // The points of a cycle stay on it, whatever its number says.
+    TitrationModel *run = dm->titrationModel();
+    dm->titrationSetupModel()->setDisplayUnits(QStringLiteral("mV"));
+    for (int cycleNo : {0, 1}) {
+        run->setCycleno(cycleNo);
+        dm->beginRunRecords();
+        for (int p = 0; p < 5; ++p)
+            dm->recordRunPoint(0.1f * p);
+    }
+    ASSERT_EQ(run->titrationCycles().size(), 2);
+    for (TitrationCycleModel *cycle : run->titrationCycles())
+        EXPECT_EQ(cycle->graphPoints().count(QLatin1Char('(')), 5) << "cycle " << cycle->cycleNo();
+    // A cycle started again replaces its unfinished attempt.
+    dm->beginRunRecords();
+    dm->recordRunPoint(0.0f);
+    ASSERT_EQ(run->titrationCycles().size(), 2);
+    EXPECT_EQ(run->titrationCycles().last()->graphPoints().count(QLatin1Char('(')), 1);
 }
 
 TEST_F(DataManager, RunStateVersionsAndIdentity)

@@ -1,3 +1,4 @@
+#include "datamanagerbase.h"
 #include "datamigrator.h"
 #include "models/dbutil.h"
 #include "models/methodmodel.h"
@@ -6,6 +7,7 @@
 #include "testdatabase.h"
 
 #include <QFile>
+#include <QMap>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSqlQuery>
@@ -31,48 +33,41 @@ QString tableSql(const QString &table)
     return cell(QStringLiteral("SELECT sql FROM sqlite_master WHERE name='%1'").arg(table)).toString();
 }
 
-const char *kCurrentSysInfo =
-    "DROP TABLE systemInfo;"
-    "CREATE TABLE systemInfo (appVersion varchar(30), dbVersion varchar(30), id integer primary key, "
-    "mfgSerialNum varchar(30), mspVersion varchar(30), osTreeHash varchar(64), osVersion varchar(128), "
-    "productType varchar(30), timestamp DATETIME UNIQUE);"
-    "INSERT INTO systemInfo (appVersion, dbVersion, mfgSerialNum, timestamp) VALUES ('1.4.0', '%1', 'SN-0042', '2021-01-01T08:00:00.000');";
+// A file as version `version` of the application left it: the 1.1 file
+// with each later version's changes on top, and a newest systemInfo row of
+// that version.
+QString fileOfVersion(const QString &version)
+{
+    QString sql = fixture("schema_1_1.sql");
+    for (const QString &step : DbUtil::versionRange(QStringLiteral("1.2"), version))
+        sql += fixture(QStringLiteral("upgrade_%1.sql").arg(QString(step).replace(QLatin1Char('.'), QLatin1Char('_'))).toLatin1().constData());
+    if (version != QLatin1String("1.1"))
+        sql += QStringLiteral("INSERT INTO systemInfo (appVersion, dbVersion, mfgSerialNum, timestamp) "
+                              "VALUES ('1.4.0', '%1', 'SN-0042', '2021-01-01T08:00:00.000');").arg(version);
+    return sql;
+}
 
-// What a 1.2 to 1.4 installation changed in the file on top of 1.1.
-const char *kUpTo15 =
-    "ALTER TABLE MeasurementTable ADD COLUMN calLogId integer;"
-    "ALTER TABLE MeasurementTable ADD COLUMN calAvg float;"
-    "ALTER TABLE MeasurementTable ADD COLUMN calDateTime DATETIME;"
-    "DELETE FROM MeasurementTable WHERE id=10002;"
-    "INSERT INTO reportSetupTable (reportType, calibrationId) VALUES ('Calibration', 1);"
-    "INSERT INTO reportSetupTable (reportType, titrationId) VALUES ('Standardization', 1);";
-
-const char *kUpTo17 =
-    "ALTER TABLE reportSetupTable ADD COLUMN standardizationId integer;"
-    "ALTER TABLE titrationSetupTable ADD COLUMN servingSize float;"
-    "ALTER TABLE titrationSetupTable ADD COLUMN servingUnit varchar(30);";
+// Every row of a table, its columns as listed, in id order.
+QStringList rowsOf(const QString &table, const QStringList &columns)
+{
+    QStringList rows;
+    QSqlQuery q;
+    if (!q.exec(QStringLiteral("SELECT %1 FROM %2 ORDER BY id").arg(columns.join(QLatin1Char(',')), table)))
+        return {QStringLiteral("<no table>")};
+    while (q.next()) {
+        QStringList cells;
+        for (int i = 0; i < columns.size(); ++i)
+            cells << (q.value(i).isNull() ? QStringLiteral("NULL") : q.value(i).toString());
+        rows << cells.join(QLatin1Char('|'));
+    }
+    return rows;
+}
 
 class Migration : public ::testing::Test
 {
 protected:
     void SetUp() override { Platform::clearRecordedCommands(); }
     TestDatabase db;
-
-    // The method library and the settings as the old version left them.
-    void expectMethodsAndSettingsKept()
-    {
-        EXPECT_EQ(cell(QStringLiteral("SELECT methodName FROM methodSetupTable WHERE id=7")).toString(), QStringLiteral("Acidity"));
-        EXPECT_EQ(cell(QStringLiteral("SELECT methodPassword FROM methodSetupTable WHERE id=7")).toString(), QStringLiteral("pw7"));
-        EXPECT_DOUBLE_EQ(cell(QStringLiteral("SELECT titrantConcentration FROM methodSetupTable WHERE id=7")).toDouble(), 0.1021);
-        EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("methodSetupTable"), QStringLiteral("id=99999")), 1);
-        EXPECT_EQ(cell(QStringLiteral("SELECT standAmount_Value FROM titrantSetupTable WHERE methodId=7")).toString(), QStringLiteral("0.2042"));
-        EXPECT_EQ(cell(QStringLiteral("SELECT endPointValues FROM titrationSetupTable WHERE methodId=7")).toString(), QStringLiteral("8.3"));
-        EXPECT_EQ(cell(QStringLiteral("SELECT electrodeName FROM electrodeSetupTable WHERE methodId=7")).toString(), QStringLiteral("pH-1"));
-        EXPECT_EQ(cell(QStringLiteral("SELECT instrumentName FROM setupTable WHERE id=101")).toString(), QStringLiteral("Lab 3"));
-        EXPECT_TRUE(tableSql(QStringLiteral("methodSetupTable")).contains(QLatin1String("autoincrement"), Qt::CaseInsensitive));
-        const QStringList titration = TestDatabase::columns(QStringLiteral("titrationSetupTable"));
-        EXPECT_EQ(titration.mid(titration.size() - 2), QStringList({QStringLiteral("servingSize"), QStringLiteral("servingUnit")}));
-    }
 };
 
 TEST_F(Migration, CurrentVersionIsLeftAlone)
@@ -96,74 +91,106 @@ TEST_F(Migration, EmptyFileTakesTheWipePathOnceAndThenStarts)
     EXPECT_TRUE(DataMigrator::dmPtr()->migrate());
 }
 
-TEST_F(Migration, Version11KeepsMethodsAndSettingsAndDropsReshapedLogs)
-{
-    ASSERT_TRUE(db.runScript(fixture("schema_1_1.sql")));
-    ASSERT_EQ(SysInfoModel::readDbVersion(), QStringLiteral("1.1"));
-    ASSERT_TRUE(DataMigrator::dmPtr()->migrate());
+struct OldFile {
+    const char *version;
+    // Tables the version's step drops (they come back empty with their model).
+    QStringList dropped;
+    // Rows left in the report and meter tables, where the step deletes some.
+    int reportsLeft;
+    int meterRowsLeft;
+};
 
-    expectMethodsAndSettingsKept();
-    for (const char *gone : {"titrationTable", "titrationCycleTable", "calibrationTable", "calibrationCycleTable",
-                             "calibrationLogTable", "titrationLogTable", "standardisationLogTable",
-                             "measurementLogTable", "reportSetupTable"})
-        EXPECT_EQ(TestDatabase::rowCount(QString::fromLatin1(gone)), -1) << gone;
-    // The meter row gained its three columns and lost its two wrong rows.
-    const QStringList meter = TestDatabase::columns(QStringLiteral("MeasurementTable"));
-    EXPECT_EQ(meter.size(), 22);
-    EXPECT_EQ(meter.mid(19), QStringList({QStringLiteral("calLogId"), QStringLiteral("calAvg"), QStringLiteral("calDateTime")}));
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("MeasurementTable")), 0);
-    // systemInfo in its new shape, the history kept; the version moves on
-    // when the model is built.
-    EXPECT_EQ(TestDatabase::columns(QStringLiteral("systemInfo")).first(), QStringLiteral("appVersion"));
-    EXPECT_EQ(cell(QStringLiteral("SELECT mfgSerialNum FROM systemInfo")).toString(), QStringLiteral("SN-0042"));
-    EXPECT_EQ(SysInfoModel::readDbVersion(), QStringLiteral("1.1"));
+void PrintTo(const OldFile &file, std::ostream *os)
+{
+    *os << "version " << file.version;
+}
+
+class MigrationOfVersion : public Migration, public ::testing::WithParamInterface<OldFile>
+{
+};
+
+TEST_P(MigrationOfVersion, KeepsEveryMethodAndWhatTheShapeAllows)
+{
+    const OldFile &old = GetParam();
+    ASSERT_TRUE(db.runScript(fileOfVersion(QString::fromLatin1(old.version))));
+    ASSERT_EQ(SysInfoModel::readDbVersion(), QString::fromLatin1(old.version));
+    const int newestRunMethod = cell(QStringLiteral("SELECT methodId FROM titrationTable ORDER BY mcreatedAt DESC LIMIT 1")).toInt();
+    ASSERT_EQ(TestDatabase::rowCount(QStringLiteral("methodSetupTable"), QStringLiteral("id=%1").arg(newestRunMethod)), 1)
+        << "the newest run's method still exists";
+    QMap<QString, QStringList> columns;
+    QMap<QString, QStringList> before;
+    for (const QString &t : DbUtil::tableNames()) {
+        if (t.startsWith(QLatin1String("sqlite_")) || t.startsWith(QLatin1String("systemInfo")))
+            continue;
+        columns[t] = TestDatabase::columns(t);
+        before[t] = rowsOf(t, columns[t]);
+    }
+
+    ASSERT_TRUE(DataMigrator::dmPtr()->migrate());
+    EXPECT_EQ(DataMigrator::dmPtr()->outcome(), DataMigrator::Outcome::Migrated);
+
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        const QString &t = it.key();
+        if (old.dropped.contains(t))
+            EXPECT_EQ(TestDatabase::rowCount(t), -1) << t.toStdString();
+        else if (t == QLatin1String("reportSetupTable"))
+            EXPECT_EQ(TestDatabase::rowCount(t), old.reportsLeft);
+        else if (t == QLatin1String("MeasurementTable"))
+            EXPECT_EQ(TestDatabase::rowCount(t), old.meterRowsLeft);
+        else
+            EXPECT_EQ(rowsOf(t, columns[t]), it.value()) << t.toStdString();
+    }
+    EXPECT_TRUE(tableSql(QStringLiteral("methodSetupTable")).contains(QLatin1String("autoincrement"), Qt::CaseInsensitive));
+    const QStringList titration = TestDatabase::columns(QStringLiteral("titrationSetupTable"));
+    EXPECT_EQ(titration.mid(titration.size() - 2), QStringList({QStringLiteral("servingSize"), QStringLiteral("servingUnit")}));
     {
         SysInfoModel sysInfo;
         EXPECT_EQ(sysInfo.mfgSerialNum(), QStringLiteral("SN-0042"));
     }
     EXPECT_EQ(SysInfoModel::readDbVersion(), QStringLiteral("1.8"));
+    // The data layer starts on the migrated file without a failed statement.
+    static QStringList failed;
+    failed.clear();
+    const QtMessageHandler previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+        if (text.contains(QLatin1String("SQL failed")))
+            failed << text;
+    });
+    {
+        DataManagerBase dm;
+        dm.DataManagerLegacyInit();
+        dm.updateProdType(QStringLiteral("All-in-one"));
+    }
+    qInstallMessageHandler(previous);
+    EXPECT_TRUE(failed.isEmpty()) << failed.join(QLatin1Char('\n')).toStdString();
 
-    // A new method never takes an id that an old run pointed to.
+    // A new method never takes an id that a run pointed to.
     MethodModel method;
     method.saveMethodValues(QStringLiteral("New"), QString());
     EXPECT_GT(method.id(), 100012);
     EXPECT_TRUE(Platform::recordedCommands().isEmpty());
 }
 
-TEST_F(Migration, Version15DropsOnlyTheLogsThatChangedAndItsRunReports)
-{
-    ASSERT_TRUE(db.runScript(fixture("schema_1_1.sql") + QString::fromLatin1(kUpTo15)
-                             + QString::fromLatin1(kCurrentSysInfo).arg(QStringLiteral("1.5"))));
-    ASSERT_TRUE(DataMigrator::dmPtr()->migrate());
-    expectMethodsAndSettingsKept();
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("titrationLogTable")), -1);
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("standardisationLogTable")), -1);
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("measurementLogTable")), 1);
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("calibrationTable")), 1);
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("MeasurementTable")), 1);
-    EXPECT_EQ(TestDatabase::columns(QStringLiteral("reportSetupTable")).last(), QStringLiteral("standardizationId"));
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("reportSetupTable")), 1);
-    EXPECT_EQ(cell(QStringLiteral("SELECT reportType FROM reportSetupTable")).toString(), QStringLiteral("Calibration"));
-}
+const QStringList kRunTables{QStringLiteral("titrationTable"), QStringLiteral("titrationCycleTable"),
+                             QStringLiteral("calibrationTable"), QStringLiteral("calibrationCycleTable"),
+                             QStringLiteral("calibrationLogTable"), QStringLiteral("reportSetupTable")};
+const QStringList kMeasurementLog{QStringLiteral("measurementLogTable")};
+const QStringList kRunLogs{QStringLiteral("titrationLogTable"), QStringLiteral("standardisationLogTable")};
 
-TEST_F(Migration, Version17RebuildsOnlyTheMethodTable)
-{
-    ASSERT_TRUE(db.runScript(fixture("schema_1_1.sql") + QString::fromLatin1(kUpTo15) + QString::fromLatin1(kUpTo17)
-                             + QString::fromLatin1(kCurrentSysInfo).arg(QStringLiteral("1.7"))));
-    QStringList others;
-    for (const char *t : {"titrationTable", "calibrationTable", "measurementLogTable", "reportSetupTable",
-                          "MeasurementTable", "setupTable", "titrantSetupTable", "titrationSetupTable", "systemInfo"})
-        others << QString::fromLatin1(t);
-    const QString before = db.dump(others);
-    ASSERT_TRUE(DataMigrator::dmPtr()->migrate());
-    expectMethodsAndSettingsKept();
-    EXPECT_EQ(db.dump(others), before);
-    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("methodSetupTable")), 2);
-}
+INSTANTIATE_TEST_SUITE_P(Versions, MigrationOfVersion,
+                         ::testing::Values(OldFile{"1.1", kRunTables + kMeasurementLog + kRunLogs, 0, 0},
+                                           OldFile{"1.2", kRunTables + kMeasurementLog + kRunLogs, 0, 0},
+                                           OldFile{"1.3", kRunTables + kMeasurementLog + kRunLogs, 0, 1},
+                                           OldFile{"1.4", kMeasurementLog + kRunLogs, 1, 1},
+                                           OldFile{"1.5", kRunLogs, 1, 1},
+                                           OldFile{"1.6", {}, 3, 1},
+                                           OldFile{"1.7", {}, 3, 1}),
+                         [](const ::testing::TestParamInfo<OldFile> &info) {
+                             return std::string("v") + QString::fromLatin1(info.param.version).remove(QLatin1Char('.')).toStdString();
+                         });
 
 TEST_F(Migration, UnknownVersionIsSavedToJsonThenEmptiedAndTheServiceRestarted)
 {
-    ASSERT_TRUE(db.runScript(fixture("schema_1_1.sql") + QString::fromLatin1(kCurrentSysInfo).arg(QStringLiteral("2.0"))
+    ASSERT_TRUE(db.runScript(fixture("schema_1_1.sql") + QStringLiteral("INSERT INTO systemInfo (dbVersion, timestamp) VALUES ('2.0', '2021-01-01T08:00:00.000');")
                              + QStringLiteral("INSERT INTO reportSetupTable (reportType, image1) VALUES ('Calibration', X'89504E470D0A1A0A00FF');")));
     QFile::remove(DataMigrator::backupFilePath());
     EXPECT_FALSE(DataMigrator::dmPtr()->migrate());

@@ -1,7 +1,7 @@
 #include "models/methodmodel.h"
 #include "models/sysinfomodel.h"
 #include "models/titrantsetupmodel.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "testdatabase.h"
 
 #include <QFile>
@@ -134,13 +134,13 @@ TEST_F(ImportExportTest, ClearAndDropTouchOnlyTablesEndingInTheSuffix)
 
 TEST_F(ImportExportTest, ExportWritesTheWholeFileOrLeavesTheOldOne)
 {
-    ASSERT_TRUE(writeFile("{\"previous\": {}}"));
+    const QByteArray previous = "{\"previous\": {}}";
+    ASSERT_TRUE(writeFile(previous));
     ImportExport io(file);
     EXPECT_FALSE(io.exportQueries({QStringLiteral("SELECT * FROM methodSetupTable")}, {}, QString()));
-    EXPECT_EQ(QJsonDocument::fromJson(readTextFile(file).toUtf8()).object().size(), 0);
     EXPECT_FALSE(io.exportQueries({QStringLiteral("SELECT * FROM noSuchTable"), QStringLiteral("SELECT * FROM systemInfo")},
                                   {QStringLiteral("noSuchTable"), QStringLiteral("systemInfo")}, QString()));
-    EXPECT_TRUE(QJsonDocument::fromJson(readTextFile(file).toUtf8()).object().contains(QStringLiteral("systemInfo")));
+    EXPECT_EQ(readTextFile(file).toUtf8(), previous);
     // A folder in place of the file: nothing written, the result false.
     ImportExport blocked(Platform::path(QStringLiteral("/var/Kestrum")));
     EXPECT_FALSE(blocked.exportAll());

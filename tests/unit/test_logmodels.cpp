@@ -1,4 +1,6 @@
 #include "logrecords.h"
+#include "meterrecords.h"
+#include "models/calibrationmodel.h"
 #include "models/calibrationlogmodel.h"
 #include "models/electrodesetupmodel.h"
 #include "models/logcapacity.h"
@@ -410,6 +412,37 @@ TEST_F(LogModels, The51stCalibrationDropsTheFirstWithItsPointsAndReport)
     EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationTable")), 50);
     EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationCycleTable")), 150);
     EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM reportSetupTable")), 50);
+}
+
+TEST_F(LogModels, TheCalibrationInUseOutlivesItsLogEntry)
+{
+    // An ion calibration, then more pH calibrations than the log holds: the
+    // ion entry goes, the calibration the meter loads for that ion stays.
+    QVariantMap ion = LogRecords::addCalibration(QStringLiteral("ISE"), 2, 57.0);
+    TestDatabase::exec(QStringLiteral("UPDATE calibrationTable SET iseType='Nitrate (NO3-)' WHERE id=%1").arg(ion.value(QStringLiteral("id")).toInt()));
+    calibrationLog->saveLogValues(false, ion);
+    const int firstPh = calibrationRun();
+    const int firstPhCalibration = calibrationLog->calId();
+    for (int i = 0; i < 51; ++i)
+        calibrationRun();
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationLogTable")), 50);
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationLogTable WHERE id=%1").arg(firstPh)), 0);
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationTable WHERE id=%1").arg(firstPhCalibration)), 0);
+    // 50 logged pH calibrations and the ion's: nothing else piles up.
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationTable")), 51);
+
+    MeterRecords meter;
+    meter.loadLastCalibration(QStringLiteral("ISE-Titration"), QStringLiteral("Nitrate (NO3-)"));
+    ASSERT_NE(meter.calibrationModel(), nullptr);
+    EXPECT_EQ(meter.calibrationModel()->id(), ion.value(QStringLiteral("id")).toInt());
+    EXPECT_EQ(meter.cycles().size(), 2);
+
+    // Once a newer ion calibration is in use, the kept one goes with the next prune.
+    ion = LogRecords::addCalibration(QStringLiteral("ISE"), 2, 58.0);
+    TestDatabase::exec(QStringLiteral("UPDATE calibrationTable SET iseType='Nitrate (NO3-)' WHERE id=%1").arg(ion.value(QStringLiteral("id")).toInt()));
+    calibrationLog->saveLogValues(false, ion);
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationTable")), 50);
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationCycleTable WHERE calibrationID='%1'").arg(ion.value(QStringLiteral("id")).toInt())), 2);
 }
 
 TEST_F(LogModels, StandardisationLogWarnsWith5AndDropsTheOldestRunAndReport)

@@ -52,3 +52,8 @@ endif()
 if(TARGET integration_meteronslave)
   add_dependencies(integration_meteronslave vantor-cli)
 endif()
+
+# The UI driver's script runner lives in the console's library.
+if(TARGET unit_uiscript)
+  target_link_libraries(unit_uiscript PRIVATE vantorcli)
+endif()

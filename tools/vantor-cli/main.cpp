@@ -4,6 +4,7 @@
 #include "meterrunner.h"
 #include "titrateoptions.h"
 #include "titraterunner.h"
+#include "uiscript.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -29,8 +30,9 @@ QString mainUsage()
                           "commands:\n"
                           "  titrate   run one titration against the virtual instrument, or replay a curve\n"
                           "  measure   read the electrode of a scenario until the reading is stable\n"
-                          "  calibrate calibrate the electrode of a scenario with buffers or standards\n\n")
-           + TitrateOptions::usage();
+                          "  calibrate calibrate the electrode of a scenario with buffers or standards\n"
+                          "  ui        run a UI driver script against the running application\n\n")
+           + TitrateOptions::usage() + QStringLiteral("\n") + UiScript::usage();
 }
 
 } // namespace
@@ -65,6 +67,20 @@ int main(int argc, char *argv[])
         }
         g_verbose = meter.verbose();
         return meter.run(out, err);
+    }
+    if (command == QLatin1String("ui")) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << UiScript::usage();
+            return 0;
+        }
+        UiScript::Options uiOptions;
+        QString uiError;
+        if (!UiScript::parse(args, &uiOptions, &uiError)) {
+            err << "vantor-cli ui: " << uiError << "\n" << UiScript::usage();
+            return 2;
+        }
+        UiScript script(uiOptions);
+        return script.run(out, err);
     }
     if (command != QLatin1String("titrate")) {
         err << "vantor-cli: unknown command \"" << command << "\"\n" << mainUsage();

@@ -10,7 +10,9 @@
 #include "sandboxsession.h"
 #include "datamanagerbase.h"
 #include "models/methoddraft.h"
+#include "models/methodfilevalidator.h"
 #include "models/methodmodel.h"
+#include "models/runwithlog.h"
 #include "models/titrationlogmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "pseudoterminal.h"
@@ -18,7 +20,7 @@
 #include "scenario.h"
 #include "slavesession.h"
 #include "system/clock.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "system/platform.h"
 #include "titrationcontrollerbase.h"
 #include "virtualslave.h"
@@ -77,32 +79,34 @@ int logFileCount()
 
 // Installs the method of a method file (the JSON of a method export: its
 // rows of the method, electrode, titrant and titration tables) as the
-// method screens install an imported method: staged in the "_temp" tables,
-// read back, then written to the live tables under a unique name. Its id, or
-// 0 with the reason.
+// method library installs an imported method: checked field by field,
+// staged in the "_temp" tables, read back, then written to the live tables
+// under a unique name. The new method's id, or 0 with the reason (the first
+// bad field, a full library); never the id of a stored method that merely
+// has the same name. The "_temp" tables are gone on every way out.
 int installMethodFile(const QString &fileName, QString *error)
 {
-    if (!QFileInfo(fileName).isFile()) {
-        *error = QStringLiteral("cannot be read");
+    *error = MethodFileValidator(MethodFileValidator::storedBuretteMl()).checkFile(fileName);
+    if (!error->isEmpty())
         return 0;
-    }
     ImportExport io(fileName);
-    io.clearTables(QStringLiteral("_temp"));
+    struct Staging {
+        ImportExport &io;
+        ~Staging() { io.dropTables(QStringLiteral("_temp")); }
+    } staging{io};
+    io.dropTables(QStringLiteral("_temp"));
     if (!io.importAll(ImportExport::Replace, QStringLiteral("_temp"))) {
-        *error = QStringLiteral("is not a method file (see the log with --verbose)");
+        *error = QStringLiteral("could not be staged (see the log with --verbose)");
         return 0;
     }
     MethodModel staged(nullptr, false);
-    if (!staged.loadMethodsFromDb(QStringLiteral("_temp"), true) || staged.methodList().isEmpty()) {
-        *error = QStringLiteral("holds no method");
+    if (!staged.loadMethodsFromDb(QStringLiteral("_temp"), true) || staged.methodList().size() != 1) {
+        *error = staged.refusals().isEmpty() ? QStringLiteral("holds no method") : staged.refusals().first();
         return 0;
     }
-    MethodModel *entry = staged.methodList().first();
-    staged.listToDb({entry->id()});
-    io.clearTables(QStringLiteral("_temp"));
-    const int id = MethodDraft::findByName(entry->methodName());
+    const int id = staged.install(staged.methodList().first(), error);
     if (id <= 0)
-        *error = QStringLiteral("its method could not be installed (at most %1 methods)").arg(MethodModel::maxMethods);
+        *error = QStringLiteral("its method could not be installed: %1").arg(*error);
     return id;
 }
 
@@ -232,6 +236,7 @@ int TitrateRunner::methodOfRun(DataManagerBase &dm, const Scenario &scenario, QT
         // Back-to-back runs use the method stored for the first.
     } else if (!m_options.methodFile.isEmpty()) {
         QString error;
+        dm.setupModel()->setSetupValues(); // the burette the file's volumes are checked against
         id = installMethodFile(m_options.methodFile, &error);
         if (id <= 0)
             err << "vantor-cli: method file " << m_options.methodFile << ": " << error << "\n";
@@ -413,11 +418,10 @@ void TitrateRunner::storeRun(DataManagerBase &dm)
         m_outcome.storedResults << QString::number(double(results[i]), 'g', 6);
 
     // The summary screen's part: the run with its cycle, and the log entry.
-    if (!run->setTitrationValues(false))
-        return;
     TitrationLogModel entry;
     dm.attachLogModel(&entry);
-    entry.saveLogValues(false);
+    if (!RunWithLog::storeTitration(run, &entry, false, false))
+        return;
     entry.setAvgConc(m_outcome.storedResults.value(0, QStringLiteral("0")));
     entry.setRsd(QStringLiteral("0.00%"));
     entry.updateLog();

@@ -1,4 +1,4 @@
-#include "system/importexport.h"
+#include "models/importexport.h"
 
 #include "models/dbtransaction.h"
 #include "models/dbutil.h"
@@ -93,11 +93,21 @@ bool ImportExport::exportQueries(const QStringList &queries, const QStringList &
                 const QSqlRecord record = query.record();
                 rows.insert(record.value(m_primaryKey).toString(), rowToJson(record));
             }
+            if (query.lastError().isValid()) {
+                qDebug() << "ImportExport: reading" << tableNames.at(i) << "failed:" << query.lastError().text();
+                result = false;
+            }
             QString name = tableNames.at(i);
             if (!suffix.isEmpty())
                 name.replace(suffix, QString());
             document.insert(name, rows);
         }
+    }
+    if (!result) {
+        // Only a complete export replaces the file: a copy with tables
+        // missing must never stand in for the last good one.
+        qDebug() << "ImportExport: export incomplete;" << m_fileName << "left as it was";
+        return false;
     }
 
     // Written whole to a temporary file and renamed over the old one, so a
@@ -123,22 +133,28 @@ bool ImportExport::exportTables(const QStringList &tableNames, const QString &su
     QStringList names;
     for (const QString &t : tableNames) {
         if (!DbUtil::isPlainIdentifier(t)) {
-            qDebug() << "ImportExport: not a table name:" << t;
-            continue;
+            qDebug() << "ImportExport: not a table name:" << t << "; nothing exported";
+            return false;
         }
         queries << QStringLiteral("SELECT * FROM %1").arg(t);
         names << t;
     }
-    return exportQueries(queries, names, suffix) && names.size() == tableNames.size();
+    return exportQueries(queries, names, suffix);
 }
 
 bool ImportExport::exportAll()
 {
     QStringList names;
     QSqlQuery query;
-    if (DbUtil::exec(query, QStringLiteral("SELECT tbl_name FROM sqlite_master WHERE type='table'"))) {
-        while (query.next())
-            names << query.value(0).toString();
+    if (!DbUtil::exec(query, QStringLiteral("SELECT tbl_name FROM sqlite_master WHERE type='table'")))
+        return false;
+    while (query.next())
+        names << query.value(0).toString();
+    if (names.isEmpty()) {
+        // A file with no tables (or one that could not be read) has nothing
+        // to save, and its empty copy must not replace the last good one.
+        qDebug() << "ImportExport: no tables to export;" << m_fileName << "left as it was";
+        return false;
     }
     return exportTables(names, QString());
 }

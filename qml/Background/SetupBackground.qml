@@ -1,0 +1,80 @@
+import QtQuick 2.12
+import "../Constants/Colors.js" as Colors
+import "../Buttons"
+
+// The frame of the first-start pages: title, step, content, Back and Next.
+Rectangle {
+    id: page
+
+    property string title: ""
+    property string stepText: ""
+    property bool backVisible: true
+    property bool nextVisible: true
+    property string nextText: qsTr("Next") + ls.translatedText
+    default property alias content: contentArea.data
+    signal backClicked()
+    signal nextClicked()
+
+    width: 640
+    height: 480
+    color: Colors.whiteSmokeColor
+
+    Rectangle {
+        id: header
+        width: parent.width
+        height: 64
+        color: Colors.deeptangaroaColor
+        Text {
+            anchors.left: parent.left
+            anchors.leftMargin: 24
+            anchors.top: parent.top
+            anchors.topMargin: 8
+            color: Colors.paleSkyColor
+            font.family: "Roboto"
+            font.pixelSize: 13
+            text: page.stepText
+        }
+        Text {
+            anchors.left: parent.left
+            anchors.leftMargin: 24
+            anchors.right: parent.right
+            anchors.rightMargin: 24
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 10
+            elide: Text.ElideRight
+            color: Colors.whiteColor
+            font.family: "Roboto"
+            font.pixelSize: 22
+            font.weight: Font.Medium
+            text: page.title
+        }
+    }
+
+    Item {
+        id: contentArea
+        anchors.top: header.bottom
+        anchors.bottom: buttonRow.top
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.margins: 16
+    }
+
+    Row {
+        id: buttonRow
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 16
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        spacing: 16
+        PopupAlternateButton {
+            visible: page.backVisible
+            text: qsTr("Back") + ls.translatedText
+            onClicked: page.backClicked()
+        }
+        PopupButton {
+            visible: page.nextVisible
+            text: page.nextText
+            onClicked: page.nextClicked()
+        }
+    }
+}

@@ -1,0 +1,18 @@
+.pragma library
+// Glyphs of the Material Icons font (Debian's fonts-material-design-icons-iconfont)
+// by the role they play on the screens.
+
+var fontFamily = "Material Icons"
+var back = "\ue5c4"        // arrow_back
+var home = "\ue88a"        // home
+var settings = "\ue8b8"    // settings
+var logs = "\ue85d"        // assignment
+var methods = "\ue896"     // list
+var burette = "\ue3b8"     // colorize (a dropper)
+var measure = "\ue9e4"     // speed (a gauge)
+var info = "\ue88e"        // info
+var close = "\ue5cd"       // close
+var warning = "\ue002"     // warning
+var done = "\ue86c"        // check_circle
+var error = "\ue000"       // error
+var usb = "\ue1e0"         // usb

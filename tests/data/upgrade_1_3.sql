@@ -1,0 +1,2 @@
+-- Version 1.3: the meter table holds its one row.
+DELETE FROM MeasurementTable WHERE id=10002;

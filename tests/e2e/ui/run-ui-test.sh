@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Runs one UI driver script of this folder against the real application and
+# the virtual instrument: run-ui-test.sh NAME. The sandbox is new for each
+# test. NAME.seed.sql, when present, is applied to the database of a first
+# start before the script runs; NAME.args holds extra options of scripts/run.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+root=$(cd "$here/../../.." && pwd)
+name="$1"
+unset DISPLAY
+export KESTRUM_NO_BUILD=1
+sandbox=$(mktemp -d "${TMPDIR:-/tmp}/kestrum-ui.XXXXXX")
+trap 'rm -rf "$sandbox"' EXIT
+export KESTRUM_SANDBOX="$sandbox"
+shots="$root/build/ui-shots/$name"
+mkdir -p "$shots"
+cd "$shots"
+
+if [ -f "$here/$name.seed.sql" ]; then
+  # A first start makes the tables; the seed then sets the instrument up.
+  "$root/scripts/run" --drive "$here/boot.ui" >/dev/null
+  sed "s/@INSTRUMENT@/Bench 1/" "$here/$name.seed.sql" | sqlite3 "$sandbox/var/KestrumDB"
+fi
+args=()
+if [ -f "$here/$name.args" ]; then read -r -a args <"$here/$name.args"; fi
+exec "$root/scripts/run" "${args[@]}" --drive "$here/$name.ui"
