@@ -6,7 +6,7 @@
 #include "appconstants.h"
 #include "logrecords.h"
 #include "models/methoddraft.h"
-#include "system/importexport.h"
+#include "models/importexport.h"
 #include "testdatalayer.h"
 
 #include <QDir>

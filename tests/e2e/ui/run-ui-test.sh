@@ -3,6 +3,8 @@
 # the virtual instrument: run-ui-test.sh NAME. The sandbox is new for each
 # test. NAME.seed.sql, when present, is applied to the database of a first
 # start before the script runs; NAME.args holds extra options of scripts/run.
+# NAME.setup SANDBOX, when present, prepares the sandbox before the start,
+# and NAME.check SANDBOX looks at it after a passing script.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../../.." && pwd)
@@ -21,6 +23,8 @@ if [ -f "$here/$name.seed.sql" ]; then
   "$root/scripts/run" --drive "$here/boot.ui" >/dev/null
   sed "s/@INSTRUMENT@/Bench 1/" "$here/$name.seed.sql" | sqlite3 "$sandbox/var/KestrumDB"
 fi
+if [ -f "$here/$name.setup" ]; then bash "$here/$name.setup" "$sandbox"; fi
 args=()
 if [ -f "$here/$name.args" ]; then read -r -a args <"$here/$name.args"; fi
-exec "$root/scripts/run" "${args[@]}" --drive "$here/$name.ui"
+"$root/scripts/run" "${args[@]}" --drive "$here/$name.ui"
+if [ -f "$here/$name.check" ]; then bash "$here/$name.check" "$sandbox"; fi
