@@ -3,6 +3,7 @@
 #include "controller/burettecontroller.h"
 #include "interfaces/enginedatainterface.h"
 #include "controller/mspcontroller.h"
+#include "controller/slaveclock.h"
 #include "interfaces/runmeterinterface.h"
 #include "system/platform.h"
 
@@ -55,13 +56,51 @@ void TitrationControllerBase::qmlStartTitration()
         waitForTitrationAtHome();
 }
 
+void TitrationControllerBase::setWaitClock(SlaveClock *clock)
+{
+    if (m_waitClock)
+        disconnect(m_waitClock, nullptr, this, nullptr);
+    m_waitClock = clock;
+    if (clock)
+        connect(clock, &SlaveClock::advanced, this, &TitrationControllerBase::onWaitClock);
+}
+
+void TitrationControllerBase::onWaitClock(qint64 ms)
+{
+    if (m_clockWait == WaitNone || ms < m_clockWaitUntil)
+        return;
+    const ClockWait done = m_clockWait;
+    m_clockWait = WaitNone;
+    if (done == WaitHomePoll) {
+        m_homePollPending = false;
+        waitForTitrationAtHome();
+    } else {
+        startTitration();
+    }
+}
+
 void TitrationControllerBase::scheduleHomePoll()
 {
     m_homePollPending = true;
+    if (m_waitClock) {
+        m_clockWait = WaitHomePoll;
+        m_clockWaitUntil = m_waitClock->monotonicMs() + HOME_POLL_MS;
+        return;
+    }
     QTimer::singleShot(scaledMs(HOME_POLL_MS), this, [this] {
         m_homePollPending = false;
         waitForTitrationAtHome();
     });
+}
+
+void TitrationControllerBase::startPreStir(qint64 ms)
+{
+    if (m_waitClock) {
+        m_clockWait = WaitPreStir;
+        m_clockWaitUntil = m_waitClock->monotonicMs() + ms;
+        return;
+    }
+    preStirTimer.start(scaledMs(ms));
 }
 
 void TitrationControllerBase::waitForTitrationAtHome()
@@ -80,7 +119,7 @@ void TitrationControllerBase::waitForTitrationAtHome()
     data->setQmlStirrerState(true);
     mspCont->setStirSpeed(speed);
     const qint64 preStir = qint64(data->getTitratrationOrStandardardizationPreStir()) * MS_PER_SEC + MIN_PRESTIR_MS;
-    preStirTimer.start(scaledMs(preStir));
+    startPreStir(preStir);
 }
 
 void TitrationControllerBase::qmlStopTitration()
@@ -91,6 +130,8 @@ void TitrationControllerBase::qmlStopTitration()
     data->notifyValueChanged();
     data->setTitrationCancelled(true);
     preStirTimer.stop();
+    if (m_clockWait == WaitPreStir)
+        m_clockWait = WaitNone;
     stopTitration();
 }
 

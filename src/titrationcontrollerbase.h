@@ -6,6 +6,7 @@
 #include <QVariant>
 
 class RunMeterInterface;
+class SlaveClock;
 
 // The run controller as the screens see it ("tc"): the start sequence of a
 // run (meter, homing, stirrer, pre-stir), its stop, rinse, manual doses, the
@@ -24,8 +25,14 @@ public:
                             QObject *parent = nullptr);
 
     bool rinsing() const { return isRinse; }
-    bool preStirring() const { return preStirTimer.isActive(); }
+    bool preStirring() const { return preStirTimer.isActive() || m_clockWait == WaitPreStir; }
     bool homePollPending() const { return m_homePollPending; }
+
+    // The homing poll and the pre-stir wait count the instrument's time on
+    // this clock instead of the host's timers. The console runner sets it
+    // when the instrument runs faster than real time, so that the run starts
+    // after the same number of samples however busy the host is.
+    void setWaitClock(SlaveClock *clock);
 
 public slots:
     void qmlStartTitration();
@@ -51,10 +58,16 @@ signals:
     void stop_titration(QVariant text);
 
 private:
+    enum ClockWait { WaitNone, WaitHomePoll, WaitPreStir };
     void scheduleHomePoll();
+    void startPreStir(qint64 ms);
+    void onWaitClock(qint64 ms);
 
     RunMeterInterface *m_mc = nullptr;
     bool isRinse = false;
     bool m_homePollPending = false;
     QTimer preStirTimer;
+    SlaveClock *m_waitClock = nullptr;
+    ClockWait m_clockWait = WaitNone;
+    qint64 m_clockWaitUntil = 0;
 };

@@ -34,6 +34,12 @@ void BuretteController::setTickInterval(int ms)
     m_timer->setInterval(ms);
 }
 
+void BuretteController::tickWithSamples()
+{
+    m_timer->stop();
+    connect(m_msp, &mspController::mspNewDataSignal, this, &BuretteController::execute, Qt::UniqueConnection);
+}
+
 int BuretteController::capacityUl() const
 {
     return int(EngineData::get()->buretteSize()) * 1000;
@@ -250,14 +256,16 @@ void BuretteController::execute()
         if (d->isBuretteBusy()) {
             d->queryBurette();
         } else {
+            // A remainder larger than a full cylinder goes out a cylinder
+            // at a time, with a refill after each.
             m_tickCount = 0;
             qDebug() << "Reset Complete";
-            m_state = BURETTE_DOSE;
-            m_position = 0;
-            d->dispense(m_remainder);
-            m_position += m_remainder;
-            m_total += m_remainder;
-            m_remainder = 0;
+            const int part = qMin(m_remainder, capacityUl());
+            m_remainder -= part;
+            m_state = m_remainder > 0 ? BURETTE_LAST_PART : BURETTE_DOSE;
+            m_position = part;
+            d->dispense(part);
+            m_total += part;
         }
         break;
     case BURETTE_LAST_PART:

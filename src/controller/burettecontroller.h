@@ -45,6 +45,10 @@ public:
     int position() const { return m_position; }
     // Tests run the slave's clock faster and shorten the tick to match.
     void setTickInterval(int ms);
+    // One tick per sample of the slave instead of the timer: both run every
+    // 250 ms on the instrument, and this keeps them in step when the
+    // instrument runs faster than real time on a busy host.
+    void tickWithSamples();
 
 public slots:
     void execute();

@@ -81,7 +81,20 @@ bool mspController::portIsOpen() const
 
 int mspController::parseMspPacket()
 {
-    const QByteArray bytes = m_serial->buffer;
+    // The packet is what came up to the last CR (and the LF after it); the
+    // bytes behind it are the start of the next reply and stay.
+    QByteArray &buffer = m_serial->buffer;
+    int end = buffer.lastIndexOf('\r');
+    if (end < 0)
+        return 0;
+    ++end;
+    if (end < buffer.size() && buffer.at(end) == '\n')
+        ++end;
+    int begin = 0;
+    while (begin < end && buffer.at(begin) == '\n')
+        ++begin; // the LF of a reply whose CR came in the read before
+    const QByteArray bytes = buffer.mid(begin, end - begin);
+    buffer.remove(0, end);
     const int nul = bytes.indexOf('\0');
     emit mirrorFromMSP(QString::fromLocal8Bit(nul < 0 ? bytes : bytes.left(nul)));
 
@@ -99,7 +112,6 @@ int mspController::parseMspPacket()
             qDebug() << "Writing dataManager SerialNum and Version";
         }
     }
-    m_serial->buffer.clear();
     return result;
 }
 
@@ -110,6 +122,14 @@ void mspController::execute()
         m_daqState = DaqRunning; // the first poll goes out one tick later
         break;
     case DaqRunning:
+        // One poll at a time: a tick finds the last poll unanswered only
+        // when this process or the slave fell behind; it passes, for a few
+        // ticks at most, so that a lost reply is not waited for.
+        if (msp->probeInFlight() && m_pollsWaited < MaxPollsWaited) {
+            ++m_pollsWaited;
+            break;
+        }
+        m_pollsWaited = 0;
         msp->requestProbeData();
         break;
     default:

@@ -51,6 +51,8 @@ signals:
 
 private:
     int m_daqState = DaqStart;
+    int m_pollsWaited = 0;
+    static constexpr int MaxPollsWaited = 3;
     QTimer *m_pollTimer = nullptr;
     serialPort *m_serial = nullptr;
 };

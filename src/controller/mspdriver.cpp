@@ -22,6 +22,17 @@ float toFloatOrZero(const QString &word)
     return std::isfinite(v) ? v : 0.f;
 }
 
+// A word that is a finite number within float's range.
+bool finiteFloat(const QString &word, float *out)
+{
+    bool ok = false;
+    const float v = word.toFloat(&ok);
+    if (!ok || !std::isfinite(v))
+        return false;
+    *out = v;
+    return true;
+}
+
 void copyCut(char *dest, int size, const QString &word)
 {
     const QByteArray bytes = word.toLatin1();
@@ -198,13 +209,22 @@ void mspDriver::parseProbeData(QStringList &words)
         qDebug() << "Invalid msp probe data recieved";
         return;
     }
-    r.rawMillivolts = toFloatOrZero(w[0]);
-    r.temperature = toFloatOrZero(w[1]);
+    // The readings themselves must be numbers: "nan", "inf" or a number
+    // beyond a float make the sample invalid, never a reading of 0 mV.
+    bool stampOk = false, statusOk = false;
+    r.timestamp = w[3].toLong(&stampOk);
+    r.dispenseStatus = w[4].toInt(&statusOk);
+    if (!finiteFloat(w[0], &r.rawMillivolts) || !finiteFloat(w[1], &r.temperature)
+        || !finiteFloat(w[6], &r.millivolts) || !stampOk || !statusOk) {
+        if (m_probesAnswered < m_probesSent)
+            ++m_probesAnswered;
+        setLastError("UND");
+        m_probe.valid = false;
+        qDebug() << "Invalid msp probe data recieved: not a number in" << w[0] << w[1] << w[3] << w[4] << w[6];
+        return;
+    }
     r.firstDeviation = toFloatOrZero(w[2]);
-    r.timestamp = w[3].toLong();
-    r.dispenseStatus = w[4].toInt();
     r.secondDeviation = toFloatOrZero(w[5]);
-    r.millivolts = toFloatOrZero(w[6]);
     r.spareValue1 = toFloatOrZero(w[7]);
     r.spareValue2 = toFloatOrZero(w[8]);
     QString spare;

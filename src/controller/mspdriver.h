@@ -62,6 +62,8 @@ public:
 
     bool isBuretteAtLoad() const { return m_position == 2; }
     bool isBuretteBusy() const { return m_busy; }
+    // A measurement poll was sent and its reply has not come yet.
+    bool probeInFlight() const { return m_probesAnswered < m_probesSent; }
     int setBuretteBusy();
     bool isDispenseDone() const { return m_probe.dispenseStatus != 0; }
 

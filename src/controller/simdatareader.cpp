@@ -27,7 +27,7 @@ bool SimDataReader::exists()
     return QFile::exists(fileName());
 }
 
-void SimDataReader::next(double &data, double &volume)
+bool SimDataReader::next(double &data, double &volume)
 {
     if (!m_file.isOpen()) {
         m_file.setFileName(fileName());
@@ -45,24 +45,35 @@ void SimDataReader::next(double &data, double &volume)
             while (rest.size() > MaxLineChars);
             continue;
         }
-        const QStringList fields = line.split(QLatin1Char(','));
-        bool volumeOk = false;
-        const double v = fields.value(0).trimmed().toDouble(&volumeOk);
-        if (!volumeOk || !std::isfinite(v) || v < 0.0 || v > EndOfFileVolume)
+        double v = 0.0, d = 0.0;
+        if (!parseLine(line, v, d))
             continue;
-        bool dataOk = false;
-        const double d = fields.value(1).trimmed().toDouble(&dataOk);
-        if (!dataOk || !std::isfinite(d) || std::abs(d) > 100000.0) {
-            qDebug() << "Simulation line without a reading dropped:" << line;
-            continue;
-        }
         m_lastData = d;
         data = d;
         volume = v;
-        return;
+        return true;
     }
     data = m_lastData;
     volume = EndOfFileVolume;
+    return false;
+}
+
+bool SimDataReader::parseLine(const QString &line, double &volume, double &data)
+{
+    const QStringList fields = line.split(QLatin1Char(','));
+    bool volumeOk = false;
+    const double v = fields.value(0).trimmed().toDouble(&volumeOk);
+    if (!volumeOk || !std::isfinite(v) || v < 0.0 || v > EndOfFileVolume)
+        return false;
+    bool dataOk = false;
+    const double d = fields.value(1).trimmed().toDouble(&dataOk);
+    if (!dataOk || !std::isfinite(d) || std::abs(d) > MaxReading) {
+        qDebug() << "Simulation line without a reading dropped:" << line.left(80);
+        return false;
+    }
+    volume = v;
+    data = d;
+    return true;
 }
 
 void SimDataReader::closeAndAdvance()

@@ -16,9 +16,12 @@ public:
     // Whether the current file exists; if not, starts again at index 1 and
     // looks once more.
     bool exists();
-    // The next point of the current file, opening it if needed. At the end of
-    // the file: the last reading and a volume of 50000 µL.
-    void next(double &data, double &volume);
+    // The next point of the current file, opening it if needed; false at the
+    // end of the file (then the last reading and a volume of 50000 µL).
+    bool next(double &data, double &volume);
+    // One line "volume µL, reading mV": false for a line that is not one
+    // (a header, a volume beyond 50000 µL or not finite, no finite reading).
+    static bool parseLine(const QString &line, double &volume, double &data);
     // Closes the file and moves on to the next index.
     void closeAndAdvance();
 
@@ -28,6 +31,7 @@ public:
     // Longest line taken; a longer one is skipped whole.
     static constexpr int MaxLineChars = 256;
     static constexpr double EndOfFileVolume = 50000.0;
+    static constexpr double MaxReading = 100000.0; // mV
 
 private:
     QString m_directory;

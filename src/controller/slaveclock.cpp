@@ -15,4 +15,5 @@ void SlaveClock::onSample(long timeStamp, double)
         m_ms += timeStamp - m_lastStamp;
     m_seen = true;
     m_lastStamp = timeStamp;
+    emit advanced(m_ms);
 }

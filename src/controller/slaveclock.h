@@ -23,6 +23,10 @@ public:
 public slots:
     void onSample(long timeStamp, double data);
 
+signals:
+    // After each sample has moved the clock.
+    void advanced(qint64 ms);
+
 private:
     QDateTime m_start;
     qint64 m_ms = 0;

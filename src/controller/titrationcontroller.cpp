@@ -244,7 +244,13 @@ void TitrationController::execute(long timeStamp, double mvData)
 void TitrationController::simulationStep()
 {
     double data = 0.0, volume = 0.0;
-    m_simData.next(data, volume);
+    if (!m_simData.next(data, volume)) {
+        // The curve is over: the run ends here, whatever its volume limit,
+        // and no made-up point joins the curve.
+        m_simData.closeAndAdvance();
+        m_state = TITRATION_STATE_FINISHED;
+        return;
+    }
     const int microlitres = int(volume);
     m_volumetric->addPoint(double(microlitres), data);
     if (!m_algorithm)
@@ -262,7 +268,7 @@ void TitrationController::finishRun()
         if (!qIsFinite(r))
             r = 0.0;
     }
-    m_lastRun.reasonForEnd = m_algorithm->reasonForEnd;
+    m_lastRun.reasonForEnd = reasonText();
     m_lastRun.results = results;
     m_lastRun.durationMs = m_inSimulation ? qint64(m_sampleCount) * SimulationPeriodMs
                                           : qint64(m_lastStamp) - qint64(m_firstStamp);
@@ -310,7 +316,15 @@ void TitrationController::writeParameterLog()
 
 void TitrationController::writeReasonForEnd()
 {
-    m_parameterLog->writeStamped(QStringLiteral("\nReason for end: ") + m_algorithm->reasonForEnd);
+    m_parameterLog->writeStamped(QStringLiteral("\nReason for end: ") + reasonText());
+}
+
+QString TitrationController::reasonText() const
+{
+    // A run that ended without its algorithm saying why (a curve file that
+    // ran out) says so plainly.
+    const QString reason = m_algorithm ? m_algorithm->reasonForEnd.trimmed() : QString();
+    return reason.isEmpty() ? QStringLiteral("Unknown") : reason;
 }
 
 void TitrationController::volDataUpdated()

@@ -93,6 +93,7 @@ private:
     void writeSummary(const std::array<double, 3> &results);
     void writeParameterLog();
     void writeReasonForEnd();
+    QString reasonText() const;
     void releaseRunObjects();
 
     TitrationAlgorithmBase *m_algorithm = nullptr;

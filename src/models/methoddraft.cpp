@@ -8,14 +8,8 @@
 
 #include <QSqlQuery>
 
-int MethodDraft::save(const QString &name, QString *error) const
+void MethodDraft::fill(MethodModel &m) const
 {
-    MethodModel::createTables();
-    if (MethodModel::methodCount() >= MethodModel::maxMethods) {
-        *error = QStringLiteral("the database holds %1 methods already, the most it can").arg(MethodModel::maxMethods);
-        return 0;
-    }
-    MethodModel m;
     ElectrodeSetupModel *e = m.electrodeSetupModel();
     e->setElectrodeType(electrodeType);
     if (!iseType.isEmpty())
@@ -59,13 +53,41 @@ int MethodDraft::save(const QString &name, QString *error) const
     s->setTMin(tMin);
     s->setTMax(tMax);
     s->setThreshold(threshold);
+}
 
+int MethodDraft::save(const QString &name, QString *error) const
+{
+    MethodModel::createTables();
+    if (MethodModel::methodCount() >= MethodModel::maxMethods) {
+        *error = QStringLiteral("the database holds %1 methods already, the most it can").arg(MethodModel::maxMethods);
+        return 0;
+    }
+    MethodModel m;
+    fill(m);
     m.saveMethodValues(MethodModel::uniqueMethodName(name), QString());
     if (m.success() != 1 || m.id() <= 0) {
         *error = QStringLiteral("the method could not be stored");
         return 0;
     }
     return m.id();
+}
+
+int MethodDraft::replace(int id, QString *error) const
+{
+    MethodModel m(nullptr, false);
+    if (!m.loadMethod(id, QString(), false)) {
+        *error = QStringLiteral("the method %1 could not be read").arg(id);
+        return 0;
+    }
+    fill(m);
+    // The rows are written over where they are; the method keeps its name,
+    // its id and its history.
+    ElectrodeSetupModel *e = m.electrodeSetupModel();
+    e->setElectrodeSetupValues();
+    m.titrantSetupModel()->setTitrantSetupValues(e->electrodeType(), true);
+    m.titrationSetupModel()->setTitrationSetupValues(e->electrodeType());
+    m.titrantSetupModel()->updateMethodTable(id, titrantMolPerL);
+    return id;
 }
 
 int MethodDraft::findByName(const QString &name)

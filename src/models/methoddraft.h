@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class MethodModel;
+
 // A method given by the few choices a run needs, stored as the method
 // screens store one: the electrode, titrant and titration parts, with the
 // parts' defaults for everything else. The console runner builds its method
@@ -39,6 +41,12 @@ struct MethodDraft
     // Stores the method under `name` (made unique among the stored ones).
     // The new method's id, or 0 with a message for the user in *error.
     int save(const QString &name, QString *error) const;
+    // Writes this draft over the stored method `id` (its name, id and
+    // records stay). The id, or 0 with a message in *error.
+    int replace(int id, QString *error) const;
     // The id of the stored method of that name, 0 if there is none.
     static int findByName(const QString &name);
+
+private:
+    void fill(MethodModel &m) const;
 };

@@ -24,8 +24,8 @@ HostState &host()
         // A development aid of the host profile only: lets a developer or an
         // end-to-end test run the application in another sandbox.
         const QByteArray env = qgetenv("KESTRUM_SANDBOX");
-        state.root = QDir::cleanPath(env.isEmpty() ? QStringLiteral(KESTRUM_DEFAULT_SANDBOX)
-                                                   : QString::fromLocal8Bit(env));
+        state.root = QDir::cleanPath(QDir(env.isEmpty() ? QStringLiteral(KESTRUM_DEFAULT_SANDBOX)
+                                                        : QString::fromLocal8Bit(env)).absolutePath());
     }
     return state;
 }
@@ -72,7 +72,10 @@ void Platform::setSandboxRoot(const QString &root)
         qWarning() << "Platform: the target profile has no sandbox";
         return;
     }
-    host().root = QDir::cleanPath(root);
+    // A relative root is taken from the working directory now, once: device
+    // names below it must be absolute (a serial port named without a leading
+    // "/" is looked for under /dev).
+    host().root = root.isEmpty() ? root : QDir::cleanPath(QDir(root).absolutePath());
 }
 
 void Platform::prepareSandbox()

@@ -1,6 +1,6 @@
 # Closed-loop runs of the titration algorithms take their chemistry from the
 # virtual instrument's beaker.
-foreach(t unit_endpointrun unit_knownadditionrun)
+foreach(t unit_endpointrun unit_equivalencerun unit_knownadditionrun)
   if(TARGET ${t})
     target_link_libraries(${t} PRIVATE virtualinstrument)
   endif()

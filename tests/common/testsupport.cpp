@@ -1,5 +1,7 @@
 #include "testsupport.h"
 
+#include <QProcess>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -48,4 +50,16 @@ bool writeTextFile(const QString &path, const QString &text)
     if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
         return false;
     return f.write(text.toUtf8()) >= 0;
+}
+
+QString runVantorCli(const QStringList &args, int *exitCode, const QString &dir)
+{
+    QProcess p;
+    if (!dir.isEmpty())
+        p.setWorkingDirectory(dir);
+    p.start(QStringLiteral(KESTRUM_BIN_DIR "/vantor-cli"), args);
+    if (!p.waitForFinished(300000))
+        p.kill();
+    *exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    return QString::fromLocal8Bit(p.readAllStandardOutput() + p.readAllStandardError());
 }

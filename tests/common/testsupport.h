@@ -3,6 +3,7 @@
 #include "system/platform.h"
 
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -26,6 +27,10 @@ private:
 // For waiting on another process (the virtual instrument), never on a timing
 // of our own: those take the injectable clock.
 bool waitUntil(const std::function<bool()> &pred, int timeoutMs = 5000);
+
+// Runs build/bin/vantor-cli with `args` (from `dir` if given) and answers
+// its standard output and error; *exitCode is -1 if it crashed or hung.
+QString runVantorCli(const QStringList &args, int *exitCode, const QString &dir = QString());
 
 // Reads a whole text file ("" when missing).
 QString readTextFile(const QString &path);

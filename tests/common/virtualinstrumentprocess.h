@@ -15,6 +15,8 @@ public:
     ~VirtualInstrumentProcess();
 
     // Starts with a scenario given as JSON text; false if it did not come up.
+    // The instrument's time runs with the link's polls (250 ms a poll), so a
+    // test that polls `speed` times faster runs it that much faster.
     bool start(const QString &scenarioJson, double speed, const QStringList &extra = {});
     // Ends it (and waits); the link goes with it.
     void stop();

@@ -122,6 +122,20 @@ TEST_F(Burette, DoseLargerThanWhatIsLeftArrivesWholeAroundOneRefill)
     EXPECT_TRUE(data.console().contains(QStringLiteral("Dispensing(ul): 3000\r\n")));
 }
 
+TEST_F(Burette, DoseOfMoreThanACylinderAndWhatIsLeftTakesAsManyRefills)
+{
+    start(10, 10);
+    bc->dispense_ul(4000);
+    ASSERT_TRUE(waitIdle(1));
+    bc->dispense_ul(23000); // 6000 left, a full cylinder, then 7000
+    ASSERT_TRUE(waitIdle(2));
+    EXPECT_EQ(motions(), (QStringList{"BDS 4000", "BDS 6000", "SH", "BDS 10000", "SH", "BDS 7000"}));
+    EXPECT_EQ(bc->getTotalDispensed(), 27000);
+    EXPECT_EQ(bc->position(), 7000) << "never beyond the cylinder";
+    EXPECT_DOUBLE_EQ(instrumentTotal("dosed"), 27000.0);
+    EXPECT_FALSE(vi.traceText().contains(QStringLiteral("not delivered")));
+}
+
 TEST_F(Burette, DoseEndingExactlyAtCapacityIsNotSplit)
 {
     start(10, 10);

@@ -10,8 +10,12 @@
 #include "models/calibrationmodel.h"
 #include "models/measurementmodel.h"
 #include "testdatabase.h"
+#include "testsupport.h"
 #include "virtualinstrumentprocess.h"
 
+#include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QTemporaryDir>
 #include <QSignalSpy>
 #include <QSqlQuery>
 #include <gtest/gtest.h>
@@ -252,6 +256,71 @@ TEST_F(MeterOnSlave, AnElectrodeOfSeventyFivePercentIsRefused)
     mc->calDone();
     EXPECT_EQ(slopeError.count(), 1);
     EXPECT_TRUE(dm->calibrationCycleList().isEmpty()) << "nothing to store";
+}
+
+// The console's meter commands as a user calls them, on one sandbox: a
+// three-buffer calibration of the 97 % electrode with +12 mV at pH 7
+// reports them within what rounding the buffers to 0.01 allows, and a
+// measurement of buffer 7.00 then reads 7.00 to 0.02. A 75 % electrode is
+// refused with exit status 1, a bad option with 2.
+TEST(MeterCommands, CalibrateThreeBuffersThenMeasureBufferSeven)
+{
+    QTemporaryDir box;
+    const QString file = box.filePath(QStringLiteral("electrode.json"));
+    writeTextFile(file, scenario(25.0, 7.00));
+    const QString sandbox = box.filePath(QStringLiteral("sandbox"));
+    int code = -1;
+    QString out = runVantorCli({QStringLiteral("calibrate"), QStringLiteral("--scenario"), file, QStringLiteral("--buffers"),
+                                QStringLiteral("4.01,7.00,10.01"), QStringLiteral("--sandbox"), sandbox},
+                               &code);
+    ASSERT_EQ(code, 0) << out.toStdString();
+    EXPECT_EQ(out.count(QRegularExpression(QStringLiteral("Point [123]: buffer [0-9.]+ \\(pH [0-9.]+\\), -?[0-9.]+ mV, 25.0 °C, slope [0-9.]+ %\n"))), 3)
+        << out.toStdString();
+    const QRegularExpressionMatch slope = QRegularExpression(QStringLiteral("\nSlope: ([0-9.]+) %\n")).match(out);
+    const QRegularExpressionMatch offset = QRegularExpression(QStringLiteral("\nOffset: (-?[0-9.]+) mV\n")).match(out);
+    ASSERT_TRUE(slope.hasMatch() && offset.hasMatch()) << out.toStdString();
+    EXPECT_NEAR(slope.captured(1).toDouble(), kSlopePct, 0.3);
+    EXPECT_NEAR(offset.captured(1).toDouble(), kOffsetMv, 0.5);
+
+    out = runVantorCli({QStringLiteral("measure"), QStringLiteral("--scenario"), file, QStringLiteral("--sandbox"), sandbox}, &code);
+    ASSERT_EQ(code, 0) << out.toStdString();
+    const QRegularExpressionMatch value = QRegularExpression(QStringLiteral("^Value: ([0-9.]+) pH\n")).match(out);
+    ASSERT_TRUE(value.hasMatch()) << out.toStdString();
+    EXPECT_NEAR(value.captured(1).toDouble(), 7.00, 0.02);
+    EXPECT_TRUE(out.contains(QStringLiteral("\nTemperature: 25.0 °C\n"))) << out.toStdString();
+    EXPECT_TRUE(out.contains(QRegularExpression(QStringLiteral("\nStable after: [0-9]+\\.[0-9] s\n")))) << out.toStdString();
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("meter"));
+        db.setDatabaseName(sandbox + QStringLiteral("/var/KestrumDB"));
+        ASSERT_TRUE(db.open());
+        for (const char *table : {"calibrationTable", "calibrationLogTable", "measurementLogTable"}) {
+            QSqlQuery q(db);
+            ASSERT_TRUE(q.exec(QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(table))) && q.next()) << table;
+            EXPECT_EQ(q.value(0).toInt(), 1) << table;
+        }
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("meter"));
+
+    const QString flat = box.filePath(QStringLiteral("flat.json"));
+    writeTextFile(flat, scenario(25.0, 7.00).replace(QStringLiteral("\"slope_pct\":97"), QStringLiteral("\"slope_pct\":75")));
+    out = runVantorCli({QStringLiteral("calibrate"), QStringLiteral("--scenario"), flat, QStringLiteral("--buffers"),
+                        QStringLiteral("4.01,7.00")},
+                       &code);
+    EXPECT_EQ(code, 1) << out.toStdString();
+    EXPECT_TRUE(out.contains(QStringLiteral("Calibration refused: "))) << out.toStdString();
+    EXPECT_FALSE(out.contains(QStringLiteral("Slope: "))) << "nothing stored, nothing reported";
+    const QList<QStringList> bad = {
+        {QStringLiteral("calibrate")},
+        {QStringLiteral("calibrate"), QStringLiteral("--scenario"), file},
+        {QStringLiteral("calibrate"), QStringLiteral("--scenario"), file, QStringLiteral("--buffers"), QStringLiteral("4,x")},
+        {QStringLiteral("calibrate"), QStringLiteral("--scenario"), file, QStringLiteral("--standards"), QStringLiteral("220")},
+        {QStringLiteral("measure"), QStringLiteral("--scenario"), file, QStringLiteral("--mode"), QStringLiteral("Conductivity")},
+        {QStringLiteral("measure"), QStringLiteral("--scenario"), box.filePath(QStringLiteral("missing.json"))},
+    };
+    for (const QStringList &args : bad) {
+        runVantorCli(args, &code);
+        EXPECT_EQ(code, 2) << args.join(QLatin1Char(' ')).toStdString();
+    }
 }
 
 } // namespace

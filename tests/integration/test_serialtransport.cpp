@@ -81,6 +81,32 @@ TEST(SerialTransport, ReplySplitOverTwoReads)
     EXPECT_EQ(port.buffer, QByteArray("MG 1 25 0.1 100 1 0.1 5 0 0\rBBG"));
 }
 
+// A reply that begins in the read that ended another keeps its start; a
+// reading that is not a finite number makes no sample at all.
+TEST(SerialTransport, RepliesCutAnywhereAndReadingsThatAreNotNumbers)
+{
+    Link link;
+    FakeSlave slave;
+    ASSERT_TRUE(slave.open());
+    mspController msp(Platform::path(QStringLiteral("/dev/ttymxc2")));
+    msp.setReadInterval(5);
+    QSignalSpy data(&msp, &mspController::mspNewDataSignal);
+    slave.pty.write("MG 1 25 0.1 100 1 0.1 5 0 0\r\nMG 1 25 0.1 20");
+    ASSERT_TRUE(waitUntil([&] { return data.count() == 1; }));
+    slave.pty.write("0 1 0.1 6 0 0\r\n");
+    ASSERT_TRUE(waitUntil([&] { return data.count() == 2; }));
+    EXPECT_EQ(data.at(1).at(0).value<long>(), 200L);
+    EXPECT_DOUBLE_EQ(data.at(1).at(1).toDouble(), 6.0);
+
+    for (const char *bad : {"MG 1 25 0.1 300 1 0.1 nan 0 0\r", "MG 1 25 0.1 300 1 0.1 inf 0 0\r",
+                            "MG 1 25 0.1 300 1 0.1 1e300 0 0\r", "MG nan 25 0.1 300 1 0.1 7 0 0\r",
+                            "MG 1 -inf 0.1 300 1 0.1 7 0 0\r", "MG 1 25 0.1 x300 1 0.1 7 0 0\r"})
+        slave.pty.write(bad);
+    slave.pty.write("MG 1 25 0.1 400 1 0.1 7 0 0\r");
+    ASSERT_TRUE(waitUntil([&] { return data.count() == 3; }));
+    EXPECT_EQ(data.at(2).at(0).value<long>(), 400L) << "no sample from the replies that are not numbers";
+}
+
 TEST(SerialTransport, EndlessBytesWithoutLineEndAreDropped)
 {
     Link link;

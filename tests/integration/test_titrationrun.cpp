@@ -27,9 +27,11 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QSqlDatabase>
 #include <QSqlQuery>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <memory>
 
 namespace {
@@ -241,21 +243,10 @@ TEST_F(TitrationRun, CancelDuringTheRunReleasesEverything)
     EXPECT_EQ(tc->sampleCount(), samples);
 }
 
-// The console runner, as a user calls it.
-QString runCli(const QStringList &args, int *exitCode)
-{
-    QProcess p;
-    p.start(QStringLiteral(KESTRUM_BIN_DIR "/vantor-cli"), args);
-    if (!p.waitForFinished(120000))
-        p.kill();
-    *exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    return QString::fromLocal8Bit(p.readAllStandardOutput() + p.readAllStandardError());
-}
-
 TEST(VantorCli, TitratesTheAceticAcidScenario)
 {
     int code = -1;
-    const QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
+    const QString text = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
                                  QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json"),
                                  QStringLiteral("--technique"), QStringLiteral("Equivalence Pt."),
                                  QStringLiteral("--speed"), QStringLiteral("50")},
@@ -280,7 +271,7 @@ TEST(VantorCli, TitratesTheAceticAcidScenario)
 TEST(VantorCli, KnownAdditionReportsTheSampleConcentration)
 {
     int code = -1;
-    const QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
+    const QString text = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
                                  QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/sodium-ise.json"),
                                  QStringLiteral("--technique"), QStringLiteral("Multiple Known Addition"),
                                  QStringLiteral("--speed"), QStringLiteral("50")},
@@ -297,6 +288,66 @@ TEST(VantorCli, KnownAdditionReportsTheSampleConcentration)
     const QRegularExpressionMatch r = QRegularExpression(QStringLiteral("\nResult: ([0-9.e-]+) M\n")).match(text);
     ASSERT_TRUE(r.hasMatch()) << text.toStdString();
     EXPECT_DOUBLE_EQ(r.captured(1).toDouble(), c.captured(1).toDouble());
+}
+
+// One seed, one result: two known-addition runs of the same scenario, side
+// by side so that each loads the machine for the other, print the same
+// figures to the last digit. The instrument's time is counted in polls, not
+// taken from the wall clock.
+TEST(VantorCli, TheSameSeedGivesTheSameResultUnderLoad)
+{
+    const QStringList args{QStringLiteral("titrate"), QStringLiteral("--scenario"),
+                           QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/sodium-ise.json"),
+                           QStringLiteral("--technique"), QStringLiteral("Multiple Known Addition"),
+                           QStringLiteral("--speed"), QStringLiteral("100")};
+    QProcess a, b;
+    for (QProcess *p : {&a, &b})
+        p->start(QStringLiteral(KESTRUM_BIN_DIR "/vantor-cli"), args);
+    ASSERT_TRUE(a.waitForFinished(180000) && b.waitForFinished(180000));
+    const QString first = QString::fromLocal8Bit(a.readAllStandardOutput());
+    const QString second = QString::fromLocal8Bit(b.readAllStandardOutput());
+    EXPECT_EQ(a.exitCode(), 0) << first.toStdString();
+    EXPECT_TRUE(first.contains(QStringLiteral("Known addition concentration"))) << first.toStdString();
+    EXPECT_EQ(first, second);
+}
+
+// The runner's own method is one, written over by each run: a sandbox takes
+// any number of runs (the library holds ten methods). A relative sandbox is
+// taken from the working directory.
+TEST(VantorCli, ReusesItsOwnMethodAndTakesARelativeSandbox)
+{
+    QTemporaryDir work;
+    const QString curve = work.filePath(QStringLiteral("curve.txt"));
+    QString text;
+    for (int ul = 0; ul <= 8000; ul += 100)
+        text += QStringLiteral("%1, %2\n").arg(ul).arg(200.0 * std::tanh((ul - 5000) / 300.0), 0, 'f', 3);
+    writeTextFile(curve, text);
+    int code = -1;
+    QString out = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
+                          QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json"),
+                          QStringLiteral("--sandbox"), QStringLiteral("box"), QStringLiteral("--timeout"),
+                          QStringLiteral("120")},
+                         &code, work.path());
+    ASSERT_EQ(code, 0) << out.toStdString();
+    for (int run = 0; run < 11; ++run) {
+        out = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--replay"), curve, QStringLiteral("--sandbox"),
+                      QStringLiteral("box"), QStringLiteral("--sample-ml"), QString::number(run + 1)},
+                     &code, work.path());
+        ASSERT_EQ(code, 0) << "run " << run << ": " << out.toStdString();
+    }
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("box"));
+        db.setDatabaseName(work.filePath(QStringLiteral("box/var/KestrumDB")));
+        ASSERT_TRUE(db.open());
+        QSqlQuery q(db);
+        ASSERT_TRUE(q.exec(QStringLiteral("SELECT m.methodName, t.sampleAmountValue FROM methodSetupTable m "
+                                          "JOIN titrationSetupTable t ON t.methodId = m.id WHERE m.id != 99999")));
+        ASSERT_TRUE(q.next());
+        EXPECT_EQ(q.value(0).toString(), QStringLiteral("vantor-cli"));
+        EXPECT_FLOAT_EQ(q.value(1).toFloat(), 11.f) << "the last run's options";
+        EXPECT_FALSE(q.next()) << "one method for all the runs";
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("box"));
 }
 
 // A method stored in the sandbox's database beforehand (20 mL of sample)
@@ -317,13 +368,13 @@ TEST(VantorCli, RunsAStoredMethodByNameAndStoresItsRun)
     const QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json");
 
     int code = 0;
-    QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"),
+    QString text = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"),
                            QStringLiteral("Acetic 21 mL"), QStringLiteral("--sandbox"), root},
                           &code);
     EXPECT_EQ(code, 2) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("no method \"Acetic 21 mL\""))) << text.toStdString();
 
-    text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"),
+    text = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"),
                    QStringLiteral("Acetic 20 mL"), QStringLiteral("--sandbox"), root, QStringLiteral("--speed"),
                    QStringLiteral("50")},
                   &code);
@@ -373,7 +424,7 @@ TEST(VantorCli, RunsTheMethodOfAMethodFile)
     }
     const QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json");
     int code = 0;
-    const QString text = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario,
+    const QString text = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario,
                                  QStringLiteral("--method"), file, QStringLiteral("--speed"), QStringLiteral("50")},
                                 &code);
     EXPECT_EQ(code, 0) << text.toStdString();
@@ -384,7 +435,7 @@ TEST(VantorCli, RunsTheMethodOfAMethodFile)
     // A file that is not a method file is refused with a message.
     const QString junk = out.filePath(QStringLiteral("junk.json"));
     writeTextFile(junk, QStringLiteral("[1,2,3]"));
-    const QString refused = runCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario,
+    const QString refused = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario,
                                     QStringLiteral("--method"), junk},
                                    &code);
     EXPECT_EQ(code, 2) << refused.toStdString();
@@ -395,6 +446,14 @@ TEST(VantorCli, RunsTheMethodOfAMethodFile)
 TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
 {
     const QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json");
+    // Curves with nothing to titrate and a beaker of negative strength.
+    QTemporaryDir files;
+    const QString empty = files.filePath(QStringLiteral("empty.txt"));
+    const QString junk = files.filePath(QStringLiteral("junk.txt"));
+    const QString negative = files.filePath(QStringLiteral("negative.json"));
+    writeTextFile(empty, QString());
+    writeTextFile(junk, QStringLiteral("volume, mV\nfifty, 3\n1, nan\n2, 5\n"));
+    writeTextFile(negative, QStringLiteral(R"({"beaker":{"analyte":{"conc_mol_L":-0.1}}})"));
     const QList<QStringList> bad = {
         {},
         {QStringLiteral("dance")},
@@ -416,11 +475,14 @@ TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
         {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--method"), QStringLiteral("A"),
          QStringLiteral("--sandbox"), QStringLiteral("/tmp"), QStringLiteral("--endpoints"), QStringLiteral("2")},
         {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--sample-ml"), QStringLiteral("0")},
+        {QStringLiteral("titrate"), QStringLiteral("--replay"), empty},
+        {QStringLiteral("titrate"), QStringLiteral("--replay"), junk},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), negative},
     };
     for (const QStringList &args : bad) {
         int code = 0;
-        const QString text = runCli(args, &code);
-        EXPECT_GT(code, 0) << args.join(QLatin1Char(' ')).toStdString();
+        const QString text = runVantorCli(args, &code);
+        EXPECT_EQ(code, 2) << args.join(QLatin1Char(' ')).toStdString();
         EXPECT_FALSE(text.trimmed().isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
         EXPECT_FALSE(text.contains(QStringLiteral("Titration Summary")));
     }

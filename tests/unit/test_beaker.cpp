@@ -166,6 +166,15 @@ TEST(ScenarioFile, BadFilesAreRefusedWithAReason)
         "{\"beaker\":{\"kind\":\"acid-base\",\"titrant\":{\"kind\":\"weak-base\"}}}",
         "{\"beaker\":{\"kind\":\"ise\",\"ion\":{\"charge\":0}}}",
         "{\"beaker\":{\"volume_mL\":-5}}", "{\"slave\":{\"serial\":\"two words\"}}",
+        // Every number: finite, in range, of its type; nothing falls back to a default.
+        "{\"beaker\":{\"analyte\":{\"conc_mol_L\":-0.1}}}", "{\"beaker\":{\"analyte\":{\"conc_mol_L\":0}}}",
+        "{\"beaker\":{\"analyte\":{\"conc_mol_L\":1e300}}}", "{\"beaker\":{\"analyte\":{\"conc_mol_L\":\"fifty\"}}}",
+        "{\"beaker\":{\"titrant\":{\"conc_mol_L\":0}}}", "{\"beaker\":{\"volume_mL\":0}}",
+        "{\"beaker\":{\"volume_mL\":\"fifty\"}}", "{\"beaker\":{\"analyte\":{\"pKa\":[4.76,\"x\"]}}}",
+        "{\"beaker\":{\"kind\":\"redox\",\"analyte\":{\"n\":1.5}}}",
+        "{\"beaker\":{\"kind\":\"redox\",\"titrant\":{\"conc_mol_L\":-1}}}",
+        "{\"beaker\":{\"kind\":\"ise\",\"ion\":{\"conc_mol_L\":0}}}", "{\"beaker\":{\"kind\":\"buffer\",\"pH\":\"7\"}}",
+        "{\"beaker\":5}", "{\"electrode\":[1]}", "{\"temperature_probe\":\"yes\"}", "{\"burette_mL\":20.5}",
     };
     for (const char *json : bad) {
         Scenario s;

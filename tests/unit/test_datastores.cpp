@@ -315,6 +315,28 @@ TEST(VolumetricDataStore, FinalizeStopsWithNothingPastTheMinimumVolume)
     EXPECT_EQ(store.peakVolume(0), 0.0);
 }
 
+// A curve that starts at its steepest (a weak base, a redox couple with no
+// oxidised form): the slope only falls past the minimum volume, so its start
+// is no peak, online or at the end; the step further on is.
+TEST(VolumetricDataStore, TheSteepStartOfACurveIsNoPeak)
+{
+    auto start = [](double v) { return 300.0 * (1.0 - std::exp(-v / 150.0)); };
+    VolumetricDataStore onlyStart;
+    onlyStart.setMinimumVolume(40.0);
+    fillCurve(onlyStart, 0.0, 4000.0, 40.0, start);
+    EXPECT_EQ(onlyStart.peakCount(), 0);
+    EXPECT_EQ(onlyStart.finalizePeaks(1), 0);
+    EXPECT_EQ(onlyStart.peakIndex(0), 0) << "nothing is set";
+
+    for (double end : {9000.0, 6120.0}) { // the run confirms the step, or stops on it
+        VolumetricDataStore store;
+        store.setMinimumVolume(40.0);
+        fillCurve(store, 0.0, end, 40.0, [&](double v) { return start(v) + step(v, 6000.0, 200.0, 100.0); });
+        EXPECT_EQ(store.finalizePeaks(1), 1) << end;
+        EXPECT_NEAR(store.peakVolume(0), 6000.0, 60.0) << end;
+    }
+}
+
 TEST(VolumetricDataStore, WritesItsLog)
 {
     {

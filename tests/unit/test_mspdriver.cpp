@@ -183,13 +183,10 @@ TEST(MspDriverReplies, ReadBacksAndBadNumbers)
     d.msp.parsePacket("BSG twenty\rMG x nan inf 99999999999999999999 1e99 - -- 1e50 ?\r");
     i = d.info();
     EXPECT_EQ(i.buretteSize, 0);
-    const mspProbeRecord r = d.record();
-    EXPECT_TRUE(r.valid);
-    EXPECT_EQ(r.rawMillivolts, 0.f);
-    EXPECT_EQ(r.temperature, 0.f);
-    EXPECT_EQ(r.firstDeviation, 0.f);
-    EXPECT_EQ(r.timestamp, 0);
-    EXPECT_EQ(r.spareValue1, 0.f);
+    // Readings that are not numbers make no sample, never one of 0 mV.
+    EXPECT_EQ(d.probe.count(), 0);
+    EXPECT_FALSE(d.record().valid);
+    EXPECT_EQ(d.info().lastErrorText(), "UND");
 }
 
 TEST(MspDriverReplies, ErrorWordsOfTheSlave)

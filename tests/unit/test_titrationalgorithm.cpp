@@ -189,7 +189,7 @@ TEST_F(Algorithm, RoutineSettings)
     EXPECT_EQ(volumetric.minimumVolume(), 40.0) << "four first doses";
     EXPECT_EQ(volumetric.slopeThreshold(), 0.2f);
     EXPECT_EQ(volumetric.curvatureLimit(), 0.0002f);
-    EXPECT_EQ(algorithm.reasonForEnd, QStringLiteral("Uknown"));
+    EXPECT_EQ(algorithm.reasonForEnd, QStringLiteral("Unknown"));
     EXPECT_EQ(algorithm.phase(), TitrationAlgorithmBase::ALG_INITIAL_READING);
 }
 

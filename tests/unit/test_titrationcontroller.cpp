@@ -177,17 +177,22 @@ TEST_F(RunController, SimulationFilesPlayInTurnAndWrapRound)
 {
     writeTextFile(simFile(1), QStringLiteral("0,100\n1000,90\n"));
     writeTextFile(simFile(2), QStringLiteral("# header\n0,50\nbad line\n"));
-    data.maxVolmL = 1.f; // the first file reaches the limit, the second ends early
     QSignalSpy completed(tc.get(), &TitrationController::titrationCompletedSignal);
-    const int files[] = {1, 2, 1};
-    for (int expected : files) {
+    // The first file reaches the limit; the second ends early, and at the
+    // end of its file whatever the limit, with no made-up point.
+    const struct { int file; float maxMl; } runs[] = {{1, 1.f}, {2, 1.f}, {1, 100.f}, {2, 100.f}};
+    for (const auto &r : runs) {
+        data.maxVolmL = r.maxMl;
         tc->qmlStartTitration();
         ASSERT_TRUE(tc->inSimulation());
-        EXPECT_EQ(tc->simDataReader().index(), expected);
-        playUntilEnd();
+        EXPECT_EQ(tc->simDataReader().index(), r.file);
+        EXPECT_LT(playUntilEnd(), 20) << "file " << r.file << ", " << r.maxMl << " mL";
+        if (r.maxMl > 50.f) { // the file ran out; the algorithm said nothing
+            EXPECT_TRUE(tc->lastRun().reasonForEnd.startsWith(QLatin1String("Unknown;"))) << tc->lastRun().reasonForEnd.toStdString();
+        }
     }
-    EXPECT_EQ(completed.count(), 3);
-    EXPECT_EQ(tc->simDataReader().index(), 2);
+    EXPECT_EQ(completed.count(), 4);
+    EXPECT_EQ(tc->simDataReader().index(), 3) << "the next run wraps round to the first";
     QFile::remove(simFile(1));
     QFile::remove(simFile(2));
     tc->qmlStartTitration();

@@ -31,6 +31,7 @@ if(NOT KESTRUM_ASAN)
     ${asan_dir}/reports/logmanager.cpp
     ${asan_dir}/models/concentrationcalc.cpp
     ${PROJECT_SOURCE_DIR}/tools/virtual-instrument/beaker.cpp
+    ${PROJECT_SOURCE_DIR}/tools/virtual-instrument/jsonfields.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../common/testsupport.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../main/gtest_qt_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../unit/test_titrationcontroller.cpp)
@@ -46,6 +47,11 @@ if(NOT KESTRUM_ASAN)
   add_test(NAME asan.RunController COMMAND asan_titrationcontroller)
   set_tests_properties(asan.RunController PROPERTIES LABELS unit
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0:abort_on_error=1")
+endif()
+
+# The meter commands are tested with the meter against the instrument.
+if(TARGET integration_meteronslave)
+  add_dependencies(integration_meteronslave vantor-cli)
 endif()
 
 # The UI driver's script runner lives in the console's library.

@@ -1,6 +1,7 @@
 // vantor-cli: the instrument's headless console, for method development,
 // validation and service work.
 
+#include "meterrunner.h"
 #include "titrateoptions.h"
 #include "titraterunner.h"
 #include "uiscript.h"
@@ -28,6 +29,8 @@ QString mainUsage()
     return QStringLiteral("usage: vantor-cli COMMAND [options]\n"
                           "commands:\n"
                           "  titrate   run one titration against the virtual instrument, or replay a curve\n"
+                          "  measure   read the electrode of a scenario until the reading is stable\n"
+                          "  calibrate calibrate the electrode of a scenario with buffers or standards\n"
                           "  ui        run a UI driver script against the running application\n\n")
            + TitrateOptions::usage() + QStringLiteral("\n") + UiScript::usage();
 }
@@ -41,6 +44,8 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(filterMessages);
     QTextStream out(stdout);
     QTextStream err(stderr);
+    out.setCodec("UTF-8");
+    err.setCodec("UTF-8");
 
     QStringList args = app.arguments().mid(1);
     if (args.isEmpty() || args.first() == QLatin1String("--help") || args.first() == QLatin1String("-h")) {
@@ -48,6 +53,21 @@ int main(int argc, char *argv[])
         return args.isEmpty() ? 2 : 0;
     }
     const QString command = args.takeFirst();
+    if (command == QLatin1String("measure") || command == QLatin1String("calibrate")) {
+        const MeterRunner::Command which = command == QLatin1String("measure") ? MeterRunner::Measure : MeterRunner::Calibrate;
+        if (args.contains(QStringLiteral("--help"))) {
+            out << MeterRunner::usage(which);
+            return 0;
+        }
+        MeterRunner meter(which);
+        QString error;
+        if (!meter.parse(args, &error)) {
+            err << "vantor-cli " << command << ": " << error << "\n" << MeterRunner::usage(which);
+            return 2;
+        }
+        g_verbose = meter.verbose();
+        return meter.run(out, err);
+    }
     if (command == QLatin1String("ui")) {
         if (args.contains(QStringLiteral("--help"))) {
             out << UiScript::usage();

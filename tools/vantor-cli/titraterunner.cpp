@@ -4,16 +4,15 @@
 #include "beaker.h"
 #include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
+#include "controller/simdatareader.h"
 #include "controller/slaveclock.h"
 #include "processresources.h"
+#include "sandboxsession.h"
 #include "datamanagerbase.h"
-#include "datamigrator.h"
-#include "models/dbutil.h"
 #include "models/methoddraft.h"
 #include "models/methodfilevalidator.h"
 #include "models/methodmodel.h"
 #include "models/runwithlog.h"
-#include "models/sysinfomodel.h"
 #include "models/titrationlogmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "pseudoterminal.h"
@@ -33,8 +32,6 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
-#include <QSqlDatabase>
-#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 
@@ -45,7 +42,9 @@
 namespace {
 
 constexpr qint64 kMaxReplayBytes = 16 * 1024 * 1024;
+constexpr int kMinReplayPoints = 4; // the first slope needs three, the peak search four
 constexpr int kKnownAddition = 3;
+const char *const kOwnMethod = "vantor-cli";
 const char *const kTechniqueNames[] = {"Preset End Pt.", "Equivalence Pt.", "Engineering Basic pH",
                                        "Multiple Known Addition"};
 const char *const kControlNames[] = {"Routine", "Quick", "Careful", "User Defined"};
@@ -76,46 +75,6 @@ int logFileCount()
             ++n;
     }
     return n;
-}
-
-// The sandbox's database on the default connection, as the application
-// opens it, closed again when the run is over.
-class SandboxDatabase
-{
-public:
-    SandboxDatabase()
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
-        db.setDatabaseName(Platform::path(QStringLiteral(DATABASE_FILE_NAME)));
-        m_open = db.open();
-    }
-    ~SandboxDatabase()
-    {
-        {
-            QSqlDatabase db = QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false);
-            db.close();
-        }
-        QSqlDatabase::removeDatabase(QLatin1String(QSqlDatabase::defaultConnection));
-    }
-    bool isOpen() const { return m_open; }
-
-private:
-    bool m_open = false;
-};
-
-// The start-up check of the application. A file it cannot bring forward is
-// saved to JSON and emptied, and the application restarts; the second pass
-// here stands for that restart. A new file takes the same way to its first
-// version row.
-bool migrateDatabase(QTextStream &err)
-{
-    const bool fresh = !DbUtil::tableExists(SysInfoModel::tableName);
-    if (DataMigrator::dmPtr()->migrate())
-        return true;
-    if (!fresh)
-        err << "vantor-cli: the database was of another version; it was saved to "
-            << DataMigrator::backupFilePath() << " and emptied\n";
-    return DataMigrator::dmPtr()->migrate();
 }
 
 // Installs the method of a method file (the JSON of a method export: its
@@ -165,25 +124,11 @@ TitrateRunner::TitrateRunner(const TitrateOptions &options)
 
 int TitrateRunner::run(QTextStream &out, QTextStream &err)
 {
-    const QString previousRoot = Platform::sandboxRoot();
-    QTemporaryDir temporary;
-    const QString root = m_options.sandbox.isEmpty() ? temporary.path() : m_options.sandbox;
-    if (!QDir().mkpath(root)) {
-        err << "vantor-cli: cannot make the sandbox " << root << "\n";
-        return 2;
-    }
-    Platform::setSandboxRoot(root);
-    Platform::prepareSandbox();
     int status = 2;
     bool allCompleted = true;
     {
-        SandboxDatabase database;
-        if (!database.isOpen()) {
-            err << "vantor-cli: cannot open the database " << Platform::path(QStringLiteral(DATABASE_FILE_NAME)) << "\n";
-        } else if (!migrateDatabase(err)) {
-            err << "vantor-cli: the database " << Platform::path(QStringLiteral(DATABASE_FILE_NAME))
-                << " is of another version and could not be brought forward\n";
-        } else {
+        SandboxSession sandbox(m_options.sandbox);
+        if (sandbox.open(err)) {
             for (int run = 1; run <= m_options.runs; ++run) {
                 m_outcome = Outcome();
                 status = runInSandbox(err);
@@ -201,7 +146,6 @@ int TitrateRunner::run(QTextStream &out, QTextStream &err)
             }
         }
     }
-    Platform::setSandboxRoot(previousRoot);
     if (status == 2)
         return status;
     return allCompleted ? 0 : 1;
@@ -223,11 +167,26 @@ int TitrateRunner::loadInput(Scenario &scenario, QTextStream &err)
             << (curve.size() > kMaxReplayBytes ? " (larger than 16 MiB)" : "") << "\n";
         return 2;
     }
+    // A curve is points the engine can use; a file with fewer is refused
+    // before the run rather than titrated to a made-up end.
+    const QByteArray bytes = curve.read(kMaxReplayBytes);
+    int points = 0;
+    for (const QByteArray &line : bytes.split('\n')) {
+        double volume = 0.0, mv = 0.0;
+        if (line.size() <= SimDataReader::MaxLineChars
+            && SimDataReader::parseLine(QString::fromLatin1(line), volume, mv))
+            ++points;
+    }
+    if (points < kMinReplayPoints) {
+        err << "vantor-cli: the curve " << m_options.replayFile << " holds " << points
+            << " points (lines \"volume uL, mV\"); at least " << kMinReplayPoints << " are needed\n";
+        return 2;
+    }
     const QString target = Platform::path(QStringLiteral("/var/Kestrum/log/simdata/data-1.txt"));
     QDir().mkpath(QFileInfo(target).absolutePath());
     QFile::remove(target);
     QFile copy(target);
-    if (!copy.open(QIODevice::WriteOnly) || copy.write(curve.readAll()) < 0) {
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(bytes) < 0) {
         err << "vantor-cli: cannot place the curve at " << target << "\n";
         return 2;
     }
@@ -286,8 +245,12 @@ int TitrateRunner::methodOfRun(DataManagerBase &dm, const Scenario &scenario, QT
         if (id <= 0)
             err << "vantor-cli: no method \"" << m_options.methodName << "\" is stored in " << database << "\n";
     } else {
+        // The runner's own method is one, written over with each run's
+        // options, not a new one each time: the library holds ten.
         QString error;
-        id = draftOf(scenario).save(QStringLiteral("vantor-cli"), &error);
+        const MethodDraft draft = draftOf(scenario);
+        const int own = MethodDraft::findByName(QLatin1String(kOwnMethod));
+        id = own > 0 ? draft.replace(own, &error) : draft.save(QLatin1String(kOwnMethod), &error);
         if (id <= 0)
             err << "vantor-cli: the run's method cannot be stored in " << database << ": " << error << "\n";
     }
@@ -357,7 +320,7 @@ int TitrateRunner::runEngine(DataManagerBase &dm, Scenario &scenario, QTextStrea
             err << "vantor-cli: virtual instrument: " << pty->errorString() << "\n";
             return 2;
         }
-        session = std::make_unique<SlaveSession>(pty.get(), slave.get(), speed);
+        session = std::make_unique<SlaveSession>(pty.get(), slave.get());
     }
 
     mspController msp(device);
@@ -366,10 +329,15 @@ int TitrateRunner::runEngine(DataManagerBase &dm, Scenario &scenario, QTextStrea
     BuretteController burette(&msp);
     burette.setTickInterval(std::max(1, int(250 / speed)));
     SlaveClock clock(&msp);
-    if (live)
-        Clock::setSource(&clock);
     TitrationControllerBase tc(&msp, &burette, nullptr);
     tc.setTimeScale(speed);
+    if (live) {
+        // Everything the run does is counted in the instrument's polls, so
+        // the result does not depend on how busy the host is.
+        Clock::setSource(&clock);
+        burette.tickWithSamples();
+        tc.setWaitClock(&clock);
+    }
 
     QEventLoop loop;
     bool completed = false;
@@ -445,7 +413,8 @@ void TitrateRunner::storeRun(DataManagerBase &dm)
         return;
     const float results[3] = {cycle->calCon(), cycle->calCon2(), cycle->calCon3()};
     const int found = int(std::count_if(m_outcome.results.begin(), m_outcome.results.end(), [](double v) { return v > 0; }));
-    for (int i = 0; i < std::max(1, found); ++i)
+    // A run that found no end point has no result to print ("none").
+    for (int i = 0; i < found; ++i)
         m_outcome.storedResults << QString::number(double(results[i]), 'g', 6);
 
     // The summary screen's part: the run with its cycle, and the log entry.
@@ -453,7 +422,7 @@ void TitrateRunner::storeRun(DataManagerBase &dm)
     dm.attachLogModel(&entry);
     if (!RunWithLog::storeTitration(run, &entry, false, false))
         return;
-    entry.setAvgConc(m_outcome.storedResults.first());
+    entry.setAvgConc(m_outcome.storedResults.value(0, QStringLiteral("0")));
     entry.setRsd(QStringLiteral("0.00%"));
     entry.updateLog();
     dm.initializeTitration();
@@ -466,11 +435,14 @@ void TitrateRunner::report(QTextStream &out) const
         out << "Known addition concentration (mol/L): " << QString::number(m_outcome.mkaResult[0], 'g', 6) << "\n";
         out << "Electrode slope (mV/decade): " << QString::number(m_outcome.mkaResult[1], 'f', 2) << "\n";
     }
+    if (m_outcome.storedResults.isEmpty() && m_outcome.completed)
+        out << "Result: none\n";
     for (int i = 0; i < m_outcome.storedResults.size(); ++i) {
         out << (i == 0 ? QStringLiteral("Result: ") : QStringLiteral("Result %1: ").arg(i + 1))
             << m_outcome.storedResults[i] << " " << m_outcome.resultUnit << "\n";
     }
-    out << "Reason for end: " << m_outcome.reasonForEnd << "\n";
+    out << "Reason for end: " << (m_outcome.reasonForEnd.isEmpty() ? QStringLiteral("Unknown") : m_outcome.reasonForEnd)
+        << "\n";
     out << "Doses: " << m_outcome.doses << "\n";
     out << "Duration (s): " << QString::number(m_outcome.durationS, 'f', 1) << "\n";
     out.flush();

@@ -1,5 +1,7 @@
 #include "beaker.h"
 
+#include "jsonfields.h"
+
 #include <QJsonArray>
 
 #include <algorithm>
@@ -25,11 +27,10 @@ double bisect(F f, double lo, double hi)
     return 0.5 * (lo + hi);
 }
 
-double number(const QJsonObject &o, const char *key, double fallback)
-{
-    const QJsonValue v = o.value(QLatin1String(key));
-    return v.isDouble() ? v.toDouble() : fallback;
-}
+// Upper bounds of a sane scenario: no solution is stronger than 20 mol/L,
+// no beaker holds more than 10 L.
+constexpr double kMaxMolar = 20.0;
+constexpr double kMaxMl = 10000.0;
 
 } // namespace
 
@@ -42,47 +43,54 @@ double Beaker::nernstSlope(double celsius)
 std::unique_ptr<Beaker> Beaker::fromJson(const QJsonObject &b, double celsius, double e0Mv,
                                          double slopePct, QString *error)
 {
-    const QString kind = b.value(QLatin1String("kind")).toString(QStringLiteral("acid-base"));
-    const double volume = number(b, "volume_mL", 50);
-    if (!(volume > 0)) {
-        *error = QStringLiteral("beaker volume_mL must be above 0");
+    QString kind = QStringLiteral("acid-base");
+    double volume = 50;
+    JsonFields beaker(b, QStringLiteral("beaker"), error);
+    beaker.text("kind", &kind).number("volume_mL", 0, kMaxMl, &volume, true);
+    if (!beaker.ok())
         return nullptr;
-    }
+
     if (kind == QLatin1String("acid-base")) {
         AcidBaseBeaker::Params p;
-        const QJsonObject a = b.value(QLatin1String("analyte")).toObject();
-        const QJsonObject t = b.value(QLatin1String("titrant")).toObject();
+        QJsonObject a, t;
+        QString form = QStringLiteral("acid"), tk = QStringLiteral("strong-base");
+        beaker.object("analyte", &a).object("titrant", &t);
+        JsonFields analyte(a, QStringLiteral("beaker.analyte"), error);
+        JsonFields titrant(t, QStringLiteral("beaker.titrant"), error);
+        if (!beaker.ok()
+            || !analyte.number("conc_mol_L", 0, kMaxMolar, &p.concentration, true)
+                    .text("form", &form)
+                    .integer("acid_charge", -6, 6, &p.acidCharge)
+                    .ok()
+            || !titrant.text("kind", &tk).number("conc_mol_L", 0, kMaxMolar, &p.titrantConcentration, true).ok())
+            return nullptr;
         p.volumeMl = volume;
         if (a.contains(QLatin1String("pKa"))) {
-            p.pKa.clear();
             const QJsonValue v = a.value(QLatin1String("pKa"));
-            if (v.isDouble()) {
-                p.pKa.push_back(v.toDouble());
-            } else {
-                const QJsonArray arr = v.toArray();
-                for (const QJsonValue &x : arr)
-                    p.pKa.push_back(x.toDouble());
+            const QJsonArray list = v.isArray() ? v.toArray() : QJsonArray{v};
+            p.pKa.clear();
+            for (const QJsonValue &x : list) {
+                if (!x.isDouble() || !std::isfinite(x.toDouble()) || x.toDouble() < -20 || x.toDouble() > 30) {
+                    *error = QStringLiteral("\"beaker.analyte.pKa\" must be numbers from -20 to 30");
+                    return nullptr;
+                }
+                p.pKa.push_back(x.toDouble());
             }
         }
         if (p.pKa.empty() || p.pKa.size() > 6) {
             *error = QStringLiteral("analyte pKa must list 1 to 6 values");
             return nullptr;
         }
-        p.concentration = number(a, "conc_mol_L", 0.1);
-        const QString form = a.value(QLatin1String("form")).toString(QStringLiteral("acid"));
         if (form != QLatin1String("acid") && form != QLatin1String("base")) {
             *error = QStringLiteral("analyte form must be \"acid\" or \"base\"");
             return nullptr;
         }
         p.startsAsAcid = form == QLatin1String("acid");
-        p.acidCharge = int(number(a, "acid_charge", 0));
-        const QString tk = t.value(QLatin1String("kind")).toString(QStringLiteral("strong-base"));
         if (tk != QLatin1String("strong-base") && tk != QLatin1String("strong-acid")) {
             *error = QStringLiteral("titrant kind must be \"strong-base\" or \"strong-acid\"");
             return nullptr;
         }
         p.titrantIsBase = tk == QLatin1String("strong-base");
-        p.titrantConcentration = number(t, "conc_mol_L", 0.1);
         p.celsius = celsius;
         p.e0Mv = e0Mv;
         p.slopePct = slopePct;
@@ -90,32 +98,42 @@ std::unique_ptr<Beaker> Beaker::fromJson(const QJsonObject &b, double celsius, d
     }
     if (kind == QLatin1String("redox")) {
         RedoxBeaker::Params p;
-        const QJsonObject a = b.value(QLatin1String("analyte")).toObject();
-        const QJsonObject t = b.value(QLatin1String("titrant")).toObject();
+        QJsonObject a, t;
+        beaker.object("analyte", &a).object("titrant", &t);
+        JsonFields analyte(a, QStringLiteral("beaker.analyte"), error);
+        JsonFields titrant(t, QStringLiteral("beaker.titrant"), error);
+        if (!beaker.ok()
+            || !analyte.number("E0_mV", -5000, 5000, &p.analyteE0)
+                    .integer("n", 1, 6, &p.analyteN)
+                    .number("conc_mol_L", 0, kMaxMolar, &p.analyteConcentration, true)
+                    .number("oxidised_fraction", 0, 0.5, &p.initialOxidisedFraction, true)
+                    .ok()
+            || !titrant.number("E0_mV", -5000, 5000, &p.titrantE0)
+                    .integer("n", 1, 6, &p.titrantN)
+                    .number("conc_mol_L", 0, kMaxMolar, &p.titrantConcentration, true)
+                    .ok())
+            return nullptr;
         p.volumeMl = volume;
-        p.analyteE0 = number(a, "E0_mV", 771);
-        p.analyteN = std::max(1, int(number(a, "n", 1)));
-        p.analyteConcentration = number(a, "conc_mol_L", 0.1);
-        p.titrantE0 = number(t, "E0_mV", 1440);
-        p.titrantN = std::max(1, int(number(t, "n", 1)));
-        p.titrantConcentration = number(t, "conc_mol_L", 0.1);
-        p.initialOxidisedFraction = std::clamp(number(a, "oxidised_fraction", 1e-4), 1e-15, 0.5);
+        p.initialOxidisedFraction = std::max(p.initialOxidisedFraction, 1e-15);
         p.celsius = celsius;
         p.e0Mv = e0Mv;
         return std::make_unique<RedoxBeaker>(p);
     }
     if (kind == QLatin1String("ise")) {
         IseBeaker::Params p;
-        const QJsonObject ion = b.value(QLatin1String("ion")).toObject();
-        const QJsonObject t = b.value(QLatin1String("titrant")).toObject();
-        p.volumeMl = volume;
-        p.charge = int(number(ion, "charge", 1));
+        QJsonObject ion, t;
+        beaker.object("ion", &ion).object("titrant", &t);
+        JsonFields ionFields(ion, QStringLiteral("beaker.ion"), error);
+        JsonFields titrant(t, QStringLiteral("beaker.titrant"), error);
+        if (!beaker.ok()
+            || !ionFields.integer("charge", -3, 3, &p.charge).number("conc_mol_L", 0, kMaxMolar, &p.concentration, true).ok()
+            || !titrant.number("conc_mol_L", 0, kMaxMolar, &p.titrantConcentration, true).ok())
+            return nullptr;
         if (p.charge == 0) {
             *error = QStringLiteral("ion charge must not be 0");
             return nullptr;
         }
-        p.concentration = number(ion, "conc_mol_L", 0.001);
-        p.titrantConcentration = number(t, "conc_mol_L", 0.1);
+        p.volumeMl = volume;
         p.celsius = celsius;
         p.e0Mv = e0Mv;
         p.slopePct = slopePct;
@@ -123,17 +141,14 @@ std::unique_ptr<Beaker> Beaker::fromJson(const QJsonObject &b, double celsius, d
     }
     if (kind == QLatin1String("buffer")) {
         BufferBeaker::Params p;
-        p.pH = number(b, "pH", 7.0);
-        if (p.pH < -2.0 || p.pH > 16.0) {
-            *error = QStringLiteral("buffer pH must lie between -2 and 16");
+        if (!beaker.number("pH", -2.0, 16.0, &p.pH).ok())
             return nullptr;
-        }
         p.celsius = celsius;
         p.e0Mv = e0Mv;
         p.slopePct = slopePct;
         return std::make_unique<BufferBeaker>(p);
     }
-    *error = QStringLiteral("unknown beaker kind \"%1\"").arg(kind);
+    *error = QStringLiteral("unknown beaker kind \"%1\"").arg(kind.left(32));
     return nullptr;
 }
 

@@ -5,17 +5,12 @@
 
 #include <QTimer>
 
-SlaveSession::SlaveSession(PseudoTerminal *pty, VirtualSlave *slave, double speed, QObject *parent)
+SlaveSession::SlaveSession(PseudoTerminal *pty, VirtualSlave *slave, QObject *parent)
     : QObject(parent)
     , m_pty(pty)
     , m_slave(slave)
-    , m_speed(speed)
-    , m_timer(new QTimer(this))
 {
-    m_real.start();
     connect(m_pty, &PseudoTerminal::received, this, &SlaveSession::onReceived);
-    connect(m_timer, &QTimer::timeout, this, &SlaveSession::tick);
-    m_timer->start(10);
     m_slave->onEvent = [this](const QString &text) { trace('*', text.toUtf8()); };
 }
 
@@ -23,16 +18,6 @@ bool SlaveSession::setTraceFile(const QString &fileName)
 {
     m_trace.setFileName(fileName);
     return m_trace.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text);
-}
-
-qint64 SlaveSession::instrumentMs() const
-{
-    return qint64(double(m_real.nsecsElapsed()) * m_speed / 1e6);
-}
-
-void SlaveSession::tick()
-{
-    m_slave->advanceTo(instrumentMs());
 }
 
 void SlaveSession::trace(char kind, const QByteArray &text)
@@ -48,7 +33,11 @@ void SlaveSession::onReceived(const QByteArray &bytes)
     for (const char c : bytes) {
         if (c == '\r' || c == '\n') {
             if (!m_discarding && !m_line.isEmpty()) {
-                m_slave->advanceTo(instrumentMs());
+                // The instrument's time is the polls': one period passes
+                // with each measurement asked for, whatever the wall clock
+                // did meanwhile.
+                if (m_line == "MG")
+                    m_slave->advanceTo(m_slave->now() + PollPeriodMs);
                 trace('>', m_line);
                 const QByteArray answer = m_slave->handle(m_line);
                 if (!answer.isEmpty()) {

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 TitrationAlgEndPoint::TitrationAlgEndPoint(TemporalDataStore *temporal, VolumetricDataStore *volumetric,
                                            QObject *parent)
@@ -68,7 +69,70 @@ unsigned int TitrationAlgEndPoint::nextDose()
     const double step = std::max(std::abs(reading - currentTarget()) * kApproachFactor, double(preset(m_presets.deltaE)));
     m_deltaE = float(step);
     updateMaxSlope();
-    return doseForStep(step);
+    unsigned int dose = doseForStep(step);
+
+    // Never aim past the end point: the slope learnt so far can be far
+    // below the slope ahead, so the dose is held to the distance left over
+    // the curve's present slope, with a safety factor. The smallest dose
+    // still moves the run on, over the end point by the band.
+    // Where the slope grows from dose to dose a break lies ahead (the slope
+    // of a curve running into an equivalence goes as one over the distance
+    // to it), and no dose goes more than part of the way to it either.
+    const double slope = presentSlope();
+    double limit = std::numeric_limits<double>::infinity();
+    if (slope > 0.0)
+        limit = kAimFactor * std::abs(reading - currentTarget()) / slope;
+    limit = std::min(limit, kAimFactor * distanceToBreak());
+    if (double(dose) > limit && dose > m_deltaVmin) {
+        dose = std::max(m_deltaVmin, toUnsignedVolume(limit));
+        m_lastDose = dose;
+    }
+    return dose;
+}
+
+double TitrationAlgEndPoint::distanceToBreak() const
+{
+    // From the slopes of the last two segments: s ~ 1 / (Vb - v) puts the
+    // break Vb at (m2 - m1) / (s2 / s1 - 1) past the last segment's middle.
+    const int n = m_volumetric->size();
+    if (n < 3)
+        return std::numeric_limits<double>::infinity();
+    const double v0 = m_volumetric->volumeAt(n - 3), v1 = m_volumetric->volumeAt(n - 2), v2 = m_volumetric->volumeAt(n - 1);
+    if (!(v1 > v0 && v2 > v1))
+        return std::numeric_limits<double>::infinity();
+    const double s1 = std::abs(m_volumetric->dataAt(n - 2) - m_volumetric->dataAt(n - 3)) / (v1 - v0);
+    const double s2 = std::abs(m_volumetric->dataAt(n - 1) - m_volumetric->dataAt(n - 2)) / (v2 - v1);
+    if (!(s1 > 0.0) || !(s2 > s1) || !std::isfinite(s2))
+        return std::numeric_limits<double>::infinity();
+    const double ahead = 0.5 * (v2 - v0) / (s2 / s1 - 1.0) - 0.5 * (v2 - v1);
+    return std::max(ahead, 0.0);
+}
+
+double TitrationAlgEndPoint::presentSlope() const
+{
+    // mV per µL between the last two settled readings; 0 if not known.
+    const int n = m_volumetric->size();
+    if (n < 2)
+        return 0.0;
+    const double dv = m_volumetric->volumeAt(n - 1) - m_volumetric->volumeAt(n - 2);
+    const double slope = std::abs(m_volumetric->dataAt(n - 1) - m_volumetric->dataAt(n - 2)) / dv;
+    return dv > 0.0 && std::isfinite(slope) ? slope : 0.0;
+}
+
+bool TitrationAlgEndPoint::crossingVolume(double target, double &volume) const
+{
+    // The first pair of settled readings on either side of the end point,
+    // joined by a straight line: the last doses before it are small.
+    const int n = m_volumetric->size();
+    for (int i = 0; i + 1 < n; ++i) {
+        const double a = m_volumetric->dataAt(i), b = m_volumetric->dataAt(i + 1);
+        if ((a < target && target <= b) || (a > target && target >= b)) {
+            const double va = m_volumetric->volumeAt(i), vb = m_volumetric->volumeAt(i + 1);
+            volume = va + (target - a) / (b - a) * (vb - va);
+            return std::isfinite(volume);
+        }
+    }
+    return false;
 }
 
 bool TitrationAlgEndPoint::isEnded()
@@ -111,7 +175,7 @@ std::array<double, 3> TitrationAlgEndPoint::getResults()
     std::array<double, 3> results{{0.0, 0.0, 0.0}};
     for (int i = 0; i < std::min<int>(m_endPointsWanted, 3); ++i) {
         double volume = 0.0;
-        if (!VolumetricMath::volumeAtValue(*m_volumetric, m_endPoints[size_t(i)], volume))
+        if (!crossingVolume(m_endPoints[size_t(i)], volume))
             volume = double(m_dispensed);
         results[size_t(i)] = volume;
     }

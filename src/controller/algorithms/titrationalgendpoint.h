@@ -23,6 +23,9 @@ public:
     static constexpr double kApproachFactor = 0.2;
     // The curve has to move this far (mV) before its direction is believed.
     static constexpr double kDirectionGate = 9.0;
+    // Part of the distance left to the end point that a dose may cover at
+    // the curve's present slope.
+    static constexpr double kAimFactor = 0.5;
 
     float deltaE() const { return m_deltaE; }
     unsigned int deltaVmax() const { return m_deltaVmax; }
@@ -34,6 +37,9 @@ public:
 
 private:
     double currentTarget() const;
+    double presentSlope() const;
+    double distanceToBreak() const;
+    bool crossingVolume(double target, double &volume) const;
 
     float m_deltaE = 0.f;
     double m_endPointBand = 1.0;

@@ -55,12 +55,31 @@ unsigned int TitrationAlgMillivolt::nextDose()
 
 std::array<double, 3> TitrationAlgMillivolt::getResults()
 {
-    m_volumetric->finalizePeaks(m_endPointsWanted);
+    // Found: maxima inside the curve. Equivalence points among them: those
+    // whose slope reaches the threshold, as the search during the run asks.
+    // A maximum below it is still reported, for the chemist to judge, and
+    // the reason for the end says that it is no equivalence point.
+    const int found = std::min(m_volumetric->finalizePeaks(m_endPointsWanted), int(m_endPointsWanted));
+    int confirmed = 0;
+    for (int i = 0; i < found; ++i) {
+        if (m_volumetric->peakSlope(i) >= double(m_volumetric->slopeThreshold()))
+            ++confirmed;
+    }
+    if (confirmed < m_endPointsWanted && !m_reportedMissing) {
+        // Said once, however often the results are asked for.
+        m_reportedMissing = true;
+        reasonForEnd += confirmed == 0 ? QStringLiteral("; no equivalence point found")
+                                       : QStringLiteral("; equivalence points found: %1 of %2").arg(confirmed).arg(m_endPointsWanted);
+        if (found > confirmed)
+            reasonForEnd += QStringLiteral(", the steepest point is reported");
+    }
 
     std::array<double, 3> volumes{{0.0, 0.0, 0.0}};
     double values[3] = {0.0, 0.0, 0.0};
     const bool ph = m_dm->displayUnits() == QLatin1String("pH");
-    for (int i = 0; i < std::min<int>(m_endPointsWanted, 3); ++i) {
+    // An end point that was not found is reported as 0, never as the start
+    // of the curve.
+    for (int i = 0; i < std::min<int>(found, 3); ++i) {
         // The inflection of a cubic over three points before the peak to one
         // after it, trusted only within one volume step of the peak.
         const int index = m_volumetric->peakIndex(i);

@@ -21,4 +21,5 @@ public:
 
 private:
     float m_deltaE = 0.f;
+    bool m_reportedMissing = false;
 };

@@ -34,7 +34,7 @@ public:
     TitrationAlgorithmBase(TemporalDataStore *temporal, VolumetricDataStore *volumetric, QObject *parent = nullptr);
     ~TitrationAlgorithmBase() override;
 
-    QString reasonForEnd = QStringLiteral("Uknown");
+    QString reasonForEnd = QStringLiteral("Unknown");
 
     virtual unsigned int run();
     virtual bool isEnded();

@@ -4,12 +4,20 @@
 #include "controller/algorithms/storelogrow.h"
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
 const double kCoefficients[2] = {0.5, 0.5};
 const int kConfirmations = 5;
 const int kValleyWindow = 5;
+// A slope counts as a maximum inside the curve only if the slope rose to it
+// from below this part of it, past the minimum volume. Where the slope only
+// falls (the steep start of a weak acid, a weak base or a redox couple) the
+// first points hold the greatest slope, and that is not an equivalence point.
+// Half, not any lower value, so that the noise on a falling start cannot
+// make a maximum of its own.
+const double kRiseFraction = 0.5;
 
 int signOf(double x)
 {
@@ -92,7 +100,12 @@ void VolumetricDataStore::searchPeaks()
 
     if (!m_searchingValley) {
         const double magnitude = std::abs(m_slope.back());
-        if (lastVolume() > m_minimumVolume && qIsFinite(magnitude) && magnitude > m_peakSlope[i]
+        const bool pastMinimum = lastVolume() > m_minimumVolume;
+        // The second peak is looked for only after a valley: it rose by then.
+        const bool rose = i > 0 || m_lowestSlope < magnitude * kRiseFraction;
+        if (pastMinimum && qIsFinite(magnitude) && magnitude < m_lowestSlope)
+            m_lowestSlope = magnitude;
+        if (pastMinimum && rose && qIsFinite(magnitude) && magnitude > m_peakSlope[i]
             && lastSlopesFollow(lastData() - dataAt(0))) {
             m_peakSlope[i] = magnitude;
             if (m_baseSlope == 0.f && magnitude > m_slopeThreshold)
@@ -164,13 +177,13 @@ void VolumetricDataStore::setPeakFromSlope(int i, int index)
     m_peakVolume[i] = midpointVolume(index);
 }
 
-void VolumetricDataStore::finalizePeaks(int wanted)
+int VolumetricDataStore::finalizePeaks(int wanted)
 {
     if (m_peakCount == wanted)
-        return;
+        return m_peakCount;
     const int n = size();
     if (n < 1 || wanted < 1)
-        return;
+        return 0;
 
     // The search is on signed slopes: for a falling curve the greatest slope
     // is the most negative one and a valley is a local maximum.
@@ -187,6 +200,21 @@ void VolumetricDataStore::finalizePeaks(int wanted)
         }
         return best;
     };
+    // The greatest slope in [from, to) that the slope rose to from a lower
+    // value inside the range; -1 where the slope only falls.
+    auto interiorBestIn = [&](int from, int to) {
+        const double sign = rising ? 1.0 : -1.0;
+        double lowest = std::numeric_limits<double>::infinity();
+        int best = -1;
+        for (int k = from; k < to; ++k) {
+            const double s = sign * slope[k];
+            if (std::isfinite(s) && s > 0.0 && lowest < s * kRiseFraction && (best < 0 || beats(slope[k], slope[best])))
+                best = k;
+            if (std::isfinite(s) && s < lowest)
+                lowest = s;
+        }
+        return best;
+    };
 
     int start = -1;
     for (int k = 0; k < n; ++k) {
@@ -197,12 +225,14 @@ void VolumetricDataStore::finalizePeaks(int wanted)
     }
     // No point past the minimum volume: nothing to search.
     if (start < 0)
-        return;
+        return 0;
 
-    const int p1 = bestIn(start, n);
+    const int p1 = interiorBestIn(start, n);
+    if (p1 < 0)
+        return 0;
     if (wanted == 1) {
         setPeakFromSlope(0, p1);
-        return;
+        return 1;
     }
 
     int forwardValley = n - 1;
@@ -223,18 +253,17 @@ void VolumetricDataStore::finalizePeaks(int wanted)
             break;
         }
     }
-    const bool hasR = backwardValley > start;
-    const int r = hasR ? bestIn(start, backwardValley) : -1;
-    const double b = hasR ? slope[r] : slope[start];
+    const int r = backwardValley > start ? interiorBestIn(start, backwardValley) : -1;
 
     int p2 = p1;
-    if (later && std::abs(a) > std::abs(b))
+    if (later && (r < 0 || std::abs(a) > std::abs(slope[r])))
         p2 = q;
-    else if (hasR)
+    else if (r >= 0)
         p2 = r;
 
     setPeakFromSlope(0, std::min(p1, p2));
     setPeakFromSlope(1, std::max(p1, p2));
+    return p2 == p1 ? 1 : 2;
 }
 
 int VolumetricDataStore::peakIndex(int i) const

@@ -6,6 +6,7 @@
 
 #include <QtGlobal>
 
+#include <limits>
 #include <vector>
 
 // The titration curve: one point per settled volume (µL) with its reading
@@ -24,8 +25,10 @@ public:
     void addPoint(double volume, double data);
 
     // Searches the whole curve afresh for `wanted` peaks, when the run has
-    // ended with a different number found.
-    void finalizePeaks(int wanted);
+    // ended with a different number found. Answers how many it found (a
+    // peak is a maximum inside the curve, never its steep start); where it
+    // found none the peak fields keep what they hold.
+    int finalizePeaks(int wanted);
 
     void setMinimumVolume(double volume);
     void setSlopeThreshold(float threshold) { m_slopeThreshold = threshold; }
@@ -69,6 +72,8 @@ private:
     quint8 m_confirmCount = 0;
     bool m_searchingValley = false;
     float m_baseSlope = 0.f;
+    // Smallest slope magnitude past the minimum volume so far.
+    double m_lowestSlope = std::numeric_limits<double>::infinity();
     float m_slopeThreshold = 0.2f;
     double m_minimumVolume = 10.0;
     float m_curvatureLimit = 0.0001f;
