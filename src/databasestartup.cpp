@@ -13,17 +13,11 @@
 
 namespace {
 
-DatabaseStartup::State g_state = DatabaseStartup::State::Ready;
 QString g_message;
 
 const char *kInMemory = ":memory:";
 
 } // namespace
-
-DatabaseStartup::State DatabaseStartup::state()
-{
-    return g_state;
-}
 
 QString DatabaseStartup::message()
 {
@@ -37,7 +31,6 @@ QString DatabaseStartup::restartMarkerPath()
 
 DatabaseStartup::State DatabaseStartup::open(const QString &fileName)
 {
-    g_state = State::Ready;
     g_message.clear();
     QSqlDatabase db = QSqlDatabase::contains(QLatin1String(QSqlDatabase::defaultConnection))
         ? QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false)
@@ -51,7 +44,7 @@ DatabaseStartup::State DatabaseStartup::open(const QString &fileName)
 
     DataMigrator *migrator = DataMigrator::dmPtr();
     if (migrator->migrate())
-        return g_state;
+        return State::Ready;
     switch (migrator->outcome()) {
     case DataMigrator::Outcome::Unreadable:
         return runReadOnly(QStringLiteral("The database file %1 cannot be read (it is damaged or not a database).").arg(fileName));
@@ -63,7 +56,7 @@ DatabaseStartup::State DatabaseStartup::open(const QString &fileName)
     // Emptied after its copy was written: the service starts afresh once.
     if (!restartOncePerBoot())
         qDebug() << "DatabaseStartup: going on without a restart";
-    return g_state;
+    return State::Ready;
 }
 
 bool DatabaseStartup::restartOncePerBoot()
@@ -88,7 +81,6 @@ bool DatabaseStartup::restartOncePerBoot()
 
 DatabaseStartup::State DatabaseStartup::runReadOnly(const QString &why)
 {
-    g_state = State::ReadOnly;
     g_message = why + QStringLiteral(" Nothing is stored until it is serviced; the file and its backup are left untouched.");
     qDebug().noquote() << "DatabaseStartup:" << g_message;
     // The models still need tables to stand on: an empty one in memory.
@@ -97,5 +89,5 @@ DatabaseStartup::State DatabaseStartup::runReadOnly(const QString &why)
     db.setDatabaseName(QString::fromLatin1(kInMemory));
     if (!db.open())
         qDebug() << "DatabaseStartup: not even a database in memory:" << db.lastError().text();
-    return g_state;
+    return State::ReadOnly;
 }

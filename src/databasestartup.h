@@ -17,7 +17,6 @@ public:
     // state the session runs in.
     static State open(const QString &fileName);
 
-    static State state();
     // Empty when the file is in use; otherwise what the screen shows.
     static QString message();
 

@@ -1,7 +1,5 @@
 #include "datamanagerbase.h"
 
-#include "models/modelproperty.h"
-
 #include "databasestartup.h"
 
 #include "meter/cmeasurementcontext.h"

@@ -143,7 +143,6 @@ public:
     void attachLogModel(StandardisationLogModel *log);
     ObjectListModel *methods() const;
     const QList<MethodModel *> &methodList() const;
-    MethodLibrary *methodLibrary() const { return m_library; }
     int methodCount() const { return m_methodCount; }
     void setMethodCount(int count);
 

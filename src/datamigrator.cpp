@@ -107,9 +107,8 @@ bool DataMigrator::wipeDatabaseRebuildSysInfo()
     {
         DbTransaction unit;
         bool ok = true;
-        for (const QString &name : DbUtil::tableNames()) {
-            if (name.startsWith(QLatin1String("sqlite_")))
-                continue; // SQLite's own tables go with the tables they serve
+        // SQLite's own tables go with the tables they serve.
+        for (const QString &name : qAsConst(ownTables)) {
             const bool dropped = DbUtil::execText(QStringLiteral("DROP TABLE \"%1\"").arg(QString(name).replace(QLatin1Char('"'), QStringLiteral("\"\""))));
             qDebug() << "DROP TABLE" << name << " Result: " << dropped;
             ok = dropped && ok;

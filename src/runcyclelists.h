@@ -33,7 +33,6 @@ public:
     void loadStoredMkaAdditions(int titrationId);
     // Back to the run in progress.
     void showRun();
-    bool showingStoredCycles() const { return m_storedCyclesShown; }
 
 private:
     template <class Entry>

@@ -52,7 +52,6 @@ public:
     // Deletes the oldest entry with its calibration, points and report, as
     // one unit.
     static bool pruneOldest();
-    static QSet<int> calibrationsInUse(bool *ok);
 
     // Builds the entry from a stored row (all columns or the list's).
     void loadFromRecord(const QSqlRecord &row);
@@ -74,6 +73,7 @@ signals:
     void notificationSignal(QVariant etype);
 
 private:
+    static QSet<int> calibrationsInUse(bool *ok);
     static bool deleteCalibration(const QVariant &calibrationId);
 
     int m_id = defaultId;

@@ -61,7 +61,6 @@ public:
 
     static bool createTables();
     static bool migrate(const QString &fromVersion);
-    static bool raiseIdSequenceAboveRuns();
     // Stored methods, the working method not counted.
     static int methodCount();
     // A name that no stored method has: a trailing "~N" is taken off and
@@ -133,6 +132,7 @@ signals:
     void valueChanged();
 
 private:
+    static bool raiseIdSequenceAboveRuns();
     bool ensureScratchMethod();
     void setPartsMethodId(int id);
     // Writes the three parts under the method id `id`; false when one failed.

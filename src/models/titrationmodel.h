@@ -58,7 +58,6 @@ public:
     int cycleno() const { return m_cycleno; }
     // A new cycle of the number in `cycleno`, in place of an unfinished one.
     TitrationCycleModel *startCycle();
-    TitrationCycleModel *cycleNumbered(int cycleNo) const;
     void setCycleno(int cycleno);
 
     const QList<TitrationCycleModel *> &titrationCycles() const { return m_titrationCycles; }
@@ -101,6 +100,7 @@ signals:
     void runStored(bool isTitration, const QString &when);
 
 private:
+    TitrationCycleModel *cycleNumbered(int cycleNo) const;
     QQmlListProperty<TitrationCycleModel> titrationCyclesList();
     QQmlListProperty<MKATitrationCycleModel> mkaTitrationCyclesList();
     QQmlListProperty<MKAadditionModel> mkaAdditionList();
