@@ -20,7 +20,7 @@ TitrationControllerBase *TitrationControllerBase::tcPtr()
     return instance;
 }
 
-TitrationControllerBase::TitrationControllerBase(mspController *msp, BuretteController *burette,
+TitrationControllerBase::TitrationControllerBase(SlaveLink *msp, BuretteController *burette,
                                                  RunMeterInterface *meter, QObject *parent)
     : TitrationController(msp, burette, parent)
     , m_mc(meter ? meter : RunMeterInterface::standIn())
@@ -45,7 +45,7 @@ void TitrationControllerBase::qmlStartTitration()
         startTitration();
         return;
     }
-    mspDriver *d = mspCont->msp;
+    SlaveLink *d = mspCont;
     if (!d->isBuretteAtLoad()) {
         d->setHomeBurette();
         d->queryBurette();
@@ -105,7 +105,7 @@ void TitrationControllerBase::startPreStir(qint64 ms)
 
 void TitrationControllerBase::waitForTitrationAtHome()
 {
-    mspDriver *d = mspCont->msp;
+    SlaveLink *d = mspCont;
     if (!d->isBuretteAtLoad()) {
         d->queryBurette();
         scheduleHomePoll();

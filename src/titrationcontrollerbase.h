@@ -21,7 +21,7 @@ public:
     static constexpr double uLtomL = 1000.0;
 
     static TitrationControllerBase *tcPtr();
-    TitrationControllerBase(mspController *msp, BuretteController *bc, RunMeterInterface *meter,
+    TitrationControllerBase(SlaveLink *msp, BuretteController *bc, RunMeterInterface *meter,
                             QObject *parent = nullptr);
 
     bool rinsing() const { return isRinse; }

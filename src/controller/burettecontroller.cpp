@@ -8,8 +8,8 @@
 
 namespace {
 
-void home(mspController *c) { c->msp->setHomeBurette(); }
-void toEnd(mspController *c) { c->msp->setEndBurette(); }
+void home(SlaveLink *c) { c->setHomeBurette(); }
+void toEnd(SlaveLink *c) { c->setEndBurette(); }
 
 } // namespace
 
@@ -19,7 +19,7 @@ BuretteController *BuretteController::bcPtr()
     return instance;
 }
 
-BuretteController::BuretteController(mspController *msp, QObject *parent)
+BuretteController::BuretteController(SlaveLink *msp, QObject *parent)
     : QObject(parent)
     , m_timer(new QTimer(this))
     , m_msp(msp)
@@ -37,7 +37,7 @@ void BuretteController::setTickInterval(int ms)
 void BuretteController::tickWithSamples()
 {
     m_timer->stop();
-    connect(m_msp, &mspController::mspNewDataSignal, this, &BuretteController::execute, Qt::UniqueConnection);
+    connect(m_msp, &SlaveLink::mspNewDataSignal, this, &BuretteController::execute, Qt::UniqueConnection);
 }
 
 int BuretteController::capacityUl() const
@@ -47,18 +47,18 @@ int BuretteController::capacityUl() const
 
 // Sends a motion, asks for the busy flag and counts the burette busy until
 // the slave's answer says otherwise.
-void BuretteController::moveAndWatch(void (*command)(mspController *))
+void BuretteController::moveAndWatch(void (*command)(SlaveLink *))
 {
     command(m_msp);
-    m_msp->msp->queryBurette();
-    m_msp->msp->setBuretteBusy();
+    m_msp->queryBurette();
+    m_msp->setBuretteBusy();
 }
 
 void BuretteController::stopHomeAndWatch(int nextState)
 {
     m_msp->stopAndHomeBurette();
-    m_msp->msp->queryBurette();
-    m_msp->msp->setBuretteBusy();
+    m_msp->queryBurette();
+    m_msp->setBuretteBusy();
     m_state = nextState;
 }
 
@@ -73,7 +73,7 @@ void BuretteController::dispense_ul(int volume)
         part = capacity - m_position;
         m_remainder = m_position + volume - capacity;
         if (part > 0) {
-            m_msp->msp->dispense(part);
+            m_msp->dispense(part);
             m_state = BURETTE_LAST_PART;
         } else {
             // The cylinder is already empty: no dose of nothing, refill first.
@@ -83,7 +83,7 @@ void BuretteController::dispense_ul(int volume)
         }
     } else {
         m_state = BURETTE_DOSE;
-        m_msp->msp->dispense(part);
+        m_msp->dispense(part);
     }
     dm->setDispenseInProgress(true);
     dm->sendToConsole(QStringLiteral("Dispensing(ul): %1\r\n").arg(part));
@@ -95,7 +95,7 @@ void BuretteController::dispense_manual_ul(int volume)
 {
     m_state = BURETTE_MANUAL_DOSE;
     m_tickCount = 0;
-    m_msp->msp->dispense(qMin(capacityUl(), volume));
+    m_msp->dispense(qMin(capacityUl(), volume));
     EngineData::get()->setDispenseInProgress(true);
     qDebug() << "Dispensing: " << volume;
 }
@@ -103,7 +103,7 @@ void BuretteController::dispense_manual_ul(int volume)
 void BuretteController::startManualContinuousDispense()
 {
     m_state = BURETTE_MANUAL_CONTINUOUS;
-    m_msp->msp->setEndBurette();
+    m_msp->setEndBurette();
     qDebug() << "Manual(continuous) Dispense Started";
 }
 
@@ -135,25 +135,25 @@ void BuretteController::resetBurette()
 void BuretteController::sizeHandshake()
 {
     mspInfoRecord info;
-    m_msp->msp->getInfo(info);
+    m_msp->getInfo(info);
     const int configured = int(EngineData::get()->buretteSize());
     if (configured != info.buretteSize) {
-        m_msp->msp->setBuretteSize(configured);
-        m_msp->msp->getBuretteSize();
+        m_msp->setBuretteSize(configured);
+        m_msp->getBuretteSize();
     }
 }
 
 // The first look at the dispense status falls at least one tick after the dose.
 bool BuretteController::doseFinished()
 {
-    const bool done = m_msp->msp->isDispenseDone() && m_tickCount >= 1;
+    const bool done = m_msp->isDispenseDone() && m_tickCount >= 1;
     ++m_tickCount;
     return done;
 }
 
 bool BuretteController::flushStep()
 {
-    mspDriver *d = m_msp->msp;
+    SlaveLink *d = m_msp;
     switch (m_flushState) {
     case 0:
         m_flushDone = false;
@@ -197,7 +197,7 @@ bool BuretteController::flushStep()
 void BuretteController::execute()
 {
     EngineDataInterface *dm = EngineData::get();
-    mspDriver *d = m_msp->msp;
+    SlaveLink *d = m_msp;
     switch (m_state) {
     case BURETTE_READY:
     case BURETTE_IDLE:

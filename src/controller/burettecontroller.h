@@ -4,7 +4,7 @@
 #include <QString>
 
 class QTimer;
-class mspController;
+class SlaveLink;
 
 // Turns requests for volume into motions of the slave's piston burette and
 // watches them to their end: titration doses (split around a refill when the
@@ -30,7 +30,7 @@ public:
     };
 
     static BuretteController *bcPtr();
-    explicit BuretteController(mspController *msp, QObject *parent = nullptr);
+    explicit BuretteController(SlaveLink *msp, QObject *parent = nullptr);
 
     void dispense_ul(int volume);
     void dispense_manual_ul(int volume);
@@ -64,7 +64,7 @@ signals:
 private:
     int capacityUl() const;
     void stopHomeAndWatch(int nextState);
-    void moveAndWatch(void (*command)(mspController *));
+    void moveAndWatch(void (*command)(SlaveLink *));
     bool flushStep();
     void sizeHandshake();
     bool doseFinished();
@@ -74,7 +74,7 @@ private:
     int m_remainder = 0;   // µL held back until after the refill
     QTimer *m_timer = nullptr;
     int m_state = BURETTE_IDLE;
-    mspController *m_msp = nullptr;
+    SlaveLink *m_msp = nullptr;
     int m_flushState = 0;
     bool m_flushDone = false;
     int m_tickCount = 0;

@@ -35,7 +35,7 @@ MeterController *MeterController::mcPtr(MeterDataInterface *dataLayer)
     return instance;
 }
 
-MeterController::MeterController(mspController *msp, MeterDataInterface *dataManager, QObject *parent)
+MeterController::MeterController(SlaveLink *msp, MeterDataInterface *dataManager, QObject *parent)
     : QObject(parent)
     , m_dataManager(dataManager)
     , m_dataGuard(dynamic_cast<QObject *>(dataManager))
@@ -145,7 +145,7 @@ void MeterController::startMeterConnection()
     if (m_connected || !m_msp)
         return;
     m_probeLogged = false;
-    connect(m_msp, &mspController::mspNewDataSignal, this, &MeterController::execute);
+    connect(m_msp, &SlaveLink::mspNewDataSignal, this, &MeterController::execute);
     m_connected = true;
 }
 
@@ -154,7 +154,7 @@ void MeterController::stopMeterConnection()
     if (!m_connected)
         return;
     if (m_msp)
-        disconnect(m_msp, &mspController::mspNewDataSignal, this, &MeterController::execute);
+        disconnect(m_msp, &SlaveLink::mspNewDataSignal, this, &MeterController::execute);
     m_connected = false;
 }
 

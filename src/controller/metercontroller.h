@@ -8,7 +8,7 @@
 #include <QString>
 
 class CMeasurementContext;
-class mspController;
+class SlaveLink;
 
 // The meter as the screens see it ("mc"): turns the slave's sample stream
 // into the live value and stable flag of direct measurement, and into the
@@ -28,7 +28,7 @@ public:
 
     // The singleton uses the application's data manager and slave link;
     // tests give their own.
-    MeterController(mspController *msp, MeterDataInterface *dataManager, QObject *parent = nullptr);
+    MeterController(SlaveLink *msp, MeterDataInterface *dataManager, QObject *parent = nullptr);
     ~MeterController() override;
 
     CMeasurementContext *context() const { return m_context; }
@@ -102,6 +102,6 @@ private:
     int m_significantDigits = 4;
     QString m_meterProbeType;
     QString m_meterIseProbeType;
-    mspController *m_msp = nullptr;
+    SlaveLink *m_msp = nullptr;
     bool m_probeLogged = false;
 };

@@ -14,7 +14,7 @@ mspController *mspController::mspcPtr()
 }
 
 mspController::mspController(const QString &device, QObject *parent)
-    : QObject(parent)
+    : SlaveLink(parent)
     , msp(new mspDriver(this))
     , m_serial(new serialPort(device, this))
 {

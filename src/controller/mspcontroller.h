@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/mspdriver.h"
+#include "interfaces/slavelink.h"
 
 #include <QObject>
 #include <QString>
@@ -8,10 +9,10 @@
 class QTimer;
 class serialPort;
 
-// The one object the application calls for the slave: owns the driver and
-// the UART, polls the measurement every 250 ms, forwards every sample and
-// mirrors every reply to the remote port.
-class mspController : public QObject
+// The serial link to the slave: owns the driver and the UART, polls the
+// measurement every 250 ms, forwards every sample and mirrors every reply to
+// the remote port.
+class mspController : public SlaveLink
 {
     Q_OBJECT
 public:
@@ -23,10 +24,22 @@ public:
     enum DaqState { DaqStart = 0, DaqStopped = 1, DaqRunning = 2 };
     int daqState() const { return m_daqState; }
 
-    void setStirSpeed(int speed);
-    void stopStirrer();
-    void setBacklight(int brightness);
-    void stopAndHomeBurette();
+    void setStirSpeed(int speed) override;
+    void stopStirrer() override;
+    void setBacklight(int brightness) override;
+    void stopAndHomeBurette() override;
+    void dispense(int microlitres) override { msp->dispense(microlitres); }
+    void setHomeBurette() override { msp->setHomeBurette(); }
+    void setEndBurette() override { msp->setEndBurette(); }
+    void queryBurette() override { msp->queryBurette(); }
+    void setBuretteBusy() override { msp->setBuretteBusy(); }
+    void setBuretteSize(int millilitres) override { msp->setBuretteSize(millilitres); }
+    void getBuretteSize() override { msp->getBuretteSize(); }
+    bool isBuretteAtLoad() const override { return msp->isBuretteAtLoad(); }
+    bool isBuretteBusy() const override { return msp->isBuretteBusy(); }
+    bool isDispenseDone() const override { return msp->isDispenseDone(); }
+    void getInfo(mspInfoRecord &record) const override { msp->getInfo(record); }
+    void getProbeRecord(mspProbeRecord &record) const override { msp->getProbeRecord(record); }
     void sendRemoteCommand(const QString &text);
 
     // Tests run the instrument's clock faster and shorten these to match.
@@ -45,7 +58,6 @@ public slots:
     void storeData();
 
 signals:
-    void mspNewDataSignal(long timeStamp, double data);
     void mirrorFromMSP(const QString &cmdAnswer);
     void mspErrorOccured(const QString &mes);
 

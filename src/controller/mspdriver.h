@@ -1,5 +1,7 @@
 #pragma once
 
+#include "interfaces/slavelink.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QObject>
@@ -8,39 +10,6 @@
 #include <QTextStream>
 
 class QIODevice;
-
-// The last MG reply of the slave, one field per word of the reply.
-struct mspProbeRecord {
-    float rawMillivolts = 0.f;    // 1
-    float temperature = 0.f;      // 2, degrees Celsius; 125 or more: no probe
-    float firstDeviation = 0.f;   // 3
-    long timestamp = 0;           // 4, ms on the slave's clock
-    int dispenseStatus = 0;       // 5, 0 while a BDS dose is delivered
-    float secondDeviation = 0.f;  // 6
-    float millivolts = 0.f;       // 7, the probe reading
-    float spareValue1 = 0.f;      // 8
-    float spareValue2 = 0.f;      // 9
-    int spareStatus = 0;          // 10, may be absent
-    bool valid = false;           // fields 1 to 9 were present
-};
-
-// Everything else the slave reported; copied out in one piece.
-struct mspInfoRecord {
-    char version[32];
-    int backlight = 0;
-    int stirSpeed = 0;
-    int buretteSize = 0;          // mL
-    int valve = 0;
-    bool versionValid = false;
-    char lastError[3];
-    char serialNumber[16];        // 15 characters and a terminator
-    bool newVersion = false;
-
-    mspInfoRecord();
-    QString versionText() const;
-    QString serialText() const;
-    QString lastErrorText() const;
-};
 
 // Builds the commands of the slave's ASCII protocol, parses its replies and
 // keeps the last known state of the slave. Bytes go out through the device

@@ -1,12 +1,12 @@
 #include "controller/slaveclock.h"
 
-#include "controller/mspcontroller.h"
+#include "interfaces/slavelink.h"
 
-SlaveClock::SlaveClock(mspController *msp, QObject *parent)
+SlaveClock::SlaveClock(SlaveLink *msp, QObject *parent)
     : QObject(parent)
     , m_start(QDateTime::currentDateTime())
 {
-    connect(msp, &mspController::mspNewDataSignal, this, &SlaveClock::onSample);
+    connect(msp, &SlaveLink::mspNewDataSignal, this, &SlaveClock::onSample);
 }
 
 void SlaveClock::onSample(long timeStamp, double)

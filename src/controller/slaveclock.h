@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-class mspController;
+class SlaveLink;
 
 // A clock that follows the slave's own time stamps: each MG reply moves it to
 // the reply's time. Installed when the instrument's clock runs faster than
@@ -15,7 +15,7 @@ class SlaveClock : public QObject, public ClockSource
 {
     Q_OBJECT
 public:
-    explicit SlaveClock(mspController *msp, QObject *parent = nullptr);
+    explicit SlaveClock(SlaveLink *msp, QObject *parent = nullptr);
 
     qint64 monotonicMs() const override { return m_ms; }
     QDateTime now() const override { return m_start.addMSecs(m_ms); }

@@ -8,7 +8,7 @@
 #include "controller/algorithms/volumetricdatastore.h"
 #include "controller/burettecontroller.h"
 #include "interfaces/enginedatainterface.h"
-#include "controller/mspcontroller.h"
+#include "interfaces/slavelink.h"
 #include "reports/logmanager.h"
 #include "system/clock.h"
 
@@ -32,7 +32,7 @@ void toConsoleAndLog(EngineDataInterface *dm, const QString &text)
 
 } // namespace
 
-TitrationController::TitrationController(mspController *msp, BuretteController *burette, QObject *parent)
+TitrationController::TitrationController(SlaveLink *msp, BuretteController *burette, QObject *parent)
     : QObject(parent)
     , mspCont(msp)
     , bc(burette)
@@ -142,7 +142,7 @@ void TitrationController::startTitration()
         connect(m_simTimer, &QTimer::timeout, this, &TitrationController::simTimerUpdate, Qt::UniqueConnection);
         m_simTimer->start(scaledMs(SimulationPeriodMs));
     } else {
-        connect(mspCont, &mspController::mspNewDataSignal, this, &TitrationController::execute,
+        connect(mspCont, &SlaveLink::mspNewDataSignal, this, &TitrationController::execute,
                 Qt::UniqueConnection);
     }
 
@@ -160,7 +160,7 @@ void TitrationController::stopTitration()
         disconnect(m_simTimer, &QTimer::timeout, this, &TitrationController::simTimerUpdate);
     } else {
         bc->resetBurette();
-        disconnect(mspCont, &mspController::mspNewDataSignal, this, &TitrationController::execute);
+        disconnect(mspCont, &SlaveLink::mspNewDataSignal, this, &TitrationController::execute);
     }
     if (m_algorithm) {
         writeReasonForEnd();

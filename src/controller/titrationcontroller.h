@@ -14,7 +14,7 @@ class QTimer;
 class TemporalDataStore;
 class TitrationAlgorithmBase;
 class VolumetricDataStore;
-class mspController;
+class SlaveLink;
 
 // The engine of one titration or standardization run: builds the stores and
 // the algorithm, pumps every slave sample through them, turns the doses the
@@ -35,7 +35,7 @@ public:
     static constexpr int SimulationPeriodMs = 200;
     static constexpr int MaxLogFiles = 100;
 
-    TitrationController(mspController *msp, BuretteController *bc, QObject *parent = nullptr);
+    TitrationController(SlaveLink *msp, BuretteController *bc, QObject *parent = nullptr);
     ~TitrationController() override;
 
     int state() const { return m_state; }
@@ -83,7 +83,7 @@ protected:
     int scaledMs(qint64 ms) const;
     static EngineDataInterface *dm();
 
-    mspController *mspCont = nullptr;
+    SlaveLink *mspCont = nullptr;
     BuretteController *bc = nullptr;
     bool m_inSimulation = false;
 

@@ -99,29 +99,6 @@ protected:
 
 } // namespace
 
-TEST_F(Burette, DoseLargerThanWhatIsLeftArrivesWholeAroundOneRefill)
-{
-    start(10, 10);
-    bc->dispense_ul(7000);
-    EXPECT_TRUE(data.dm.engine()->getDispenseInProgress());
-    ASSERT_TRUE(waitIdle(1));
-    EXPECT_FALSE(data.dm.engine()->getDispenseInProgress());
-
-    bc->dispense_ul(6000); // 3000 left in the cylinder
-    EXPECT_EQ(bc->state(), BuretteController::BURETTE_LAST_PART);
-    ASSERT_TRUE(waitUntil([&] { return bc->state() == BuretteController::BURETTE_REFILLING; }, 20000));
-    EXPECT_TRUE(data.dm.engine()->getDispenseInProgress()); // the dose is not over during the refill
-    EXPECT_EQ(completed->count(), 1);
-    ASSERT_TRUE(waitIdle(2));
-    EXPECT_EQ(completed->count(), 2); // one completion for the split dose
-
-    EXPECT_EQ(motions(), (QStringList{"BDS 7000", "BDS 3000", "SH", "BDS 3000"}));
-    EXPECT_EQ(bc->getTotalDispensed(), 13000);
-    EXPECT_EQ(bc->position(), 3000);
-    EXPECT_DOUBLE_EQ(instrumentTotal("dosed"), 13000.0);
-    EXPECT_TRUE(data.console().contains(QStringLiteral("Dispensing(ul): 3000\r\n")));
-}
-
 TEST_F(Burette, DoseOfMoreThanACylinderAndWhatIsLeftTakesAsManyRefills)
 {
     start(10, 10);
@@ -134,24 +111,6 @@ TEST_F(Burette, DoseOfMoreThanACylinderAndWhatIsLeftTakesAsManyRefills)
     EXPECT_EQ(bc->position(), 7000) << "never beyond the cylinder";
     EXPECT_DOUBLE_EQ(instrumentTotal("dosed"), 27000.0);
     EXPECT_FALSE(vi.traceText().contains(QStringLiteral("not delivered")));
-}
-
-TEST_F(Burette, DoseEndingExactlyAtCapacityIsNotSplit)
-{
-    start(10, 10);
-    bc->dispense_ul(4000);
-    ASSERT_TRUE(waitIdle(1));
-    bc->dispense_ul(6000);
-    EXPECT_EQ(bc->state(), BuretteController::BURETTE_DOSE);
-    ASSERT_TRUE(waitIdle(2));
-    EXPECT_EQ(bc->position(), 10000);
-
-    // The next dose finds the cylinder empty: refill first, no dose of nothing.
-    bc->dispense_ul(2500);
-    ASSERT_TRUE(waitIdle(3));
-    EXPECT_EQ(motions(), (QStringList{"BDS 4000", "BDS 6000", "SH", "BDS 2500"}));
-    EXPECT_EQ(bc->getTotalDispensed(), 12500);
-    EXPECT_DOUBLE_EQ(instrumentTotal("dosed"), 12500.0);
 }
 
 TEST_F(Burette, FlushEmptiesAndRefillsTheCylinder)

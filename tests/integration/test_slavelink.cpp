@@ -28,7 +28,7 @@ struct Samples {
     std::vector<double> mv;
 };
 
-class SlaveLink : public ::testing::Test
+class SerialLink : public ::testing::Test
 {
 protected:
 
@@ -51,7 +51,7 @@ protected:
 
 } // namespace
 
-TEST_F(SlaveLink, VersionAndSerialArrive)
+TEST_F(SerialLink, VersionAndSerialArrive)
 {
     ASSERT_TRUE(vi.start(kAcetic, 5)) << vi.errorText().toStdString();
     auto msp = connect(5);
@@ -59,7 +59,7 @@ TEST_F(SlaveLink, VersionAndSerialArrive)
     EXPECT_EQ(data.dm.getMfgSerialNum(), QStringLiteral("VP400-0042"));
 }
 
-TEST_F(SlaveLink, PollRunsEveryQuarterSecondOnTheInstrumentsClock)
+TEST_F(SerialLink, PollRunsEveryQuarterSecondOnTheInstrumentsClock)
 {
     ASSERT_TRUE(vi.start(kAcetic, 4)) << vi.errorText().toStdString();
     auto msp = connect(4);
@@ -77,7 +77,7 @@ TEST_F(SlaveLink, PollRunsEveryQuarterSecondOnTheInstrumentsClock)
     EXPECT_NEAR(samples.mv.back(), -59.16 * (2.88 - 7.0), 0.8);
 }
 
-TEST_F(SlaveLink, DoseMovesThePistonAndTheMillivoltsFollowTheChemistry)
+TEST_F(SerialLink, DoseMovesThePistonAndTheMillivoltsFollowTheChemistry)
 {
     const double speed = 25;
     ASSERT_TRUE(vi.start(kAcetic, speed)) << vi.errorText().toStdString();
@@ -118,7 +118,7 @@ TEST_F(SlaveLink, DoseMovesThePistonAndTheMillivoltsFollowTheChemistry)
     }, 20000));
 }
 
-TEST_F(SlaveLink, InstrumentGoneAndBack)
+TEST_F(SerialLink, InstrumentGoneAndBack)
 {
     ASSERT_TRUE(vi.start(kAcetic, 10)) << vi.errorText().toStdString();
     auto msp = connect(10);
@@ -137,7 +137,7 @@ TEST_F(SlaveLink, InstrumentGoneAndBack)
 // The electrode goes from one buffer into another while the link runs: the
 // millivolts settle at the new buffer's value with the electrode's lag, and
 // a bad control line is refused without disturbing the instrument.
-TEST_F(SlaveLink, ElectrodeMovesBetweenBuffers)
+TEST_F(SerialLink, ElectrodeMovesBetweenBuffers)
 {
     const double speed = 20;
     ASSERT_TRUE(vi.start(QStringLiteral(R"({"seed":5,"temperature_C":25,
