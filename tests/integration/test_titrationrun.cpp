@@ -33,6 +33,8 @@
 
 #include <cmath>
 #include <memory>
+#include <tuple>
+#include <vector>
 
 namespace {
 
@@ -243,52 +245,78 @@ TEST_F(TitrationRun, CancelDuringTheRunReleasesEverything)
     EXPECT_EQ(tc->sampleCount(), samples);
 }
 
-TEST(VantorCli, TitratesTheAceticAcidScenario)
+// Whole runs of each technique through the console runner and the virtual
+// instrument: what it prints against the scenario's chemistry.
+struct CliRun {
+    const char *name;
+    const char *scenario;     // a file of the scenarios folder, or the scenario itself
+    QStringList options;
+    // Each figure the summary must show: a pattern with one number, its value, the tolerance.
+    std::vector<std::tuple<const char *, double, double>> figures;
+    const char *reason;       // a line the summary must hold, or nullptr
+};
+
+class VantorCliRun : public ::testing::TestWithParam<CliRun>
 {
+};
+
+TEST_P(VantorCliRun, PrintsTheScenariosChemistry)
+{
+    const CliRun &c = GetParam();
+    QTemporaryDir dir;
+    QString scenario = QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/%1")
+                           .arg(QLatin1String(c.scenario));
+    if (c.scenario[0] == '{') {
+        scenario = dir.filePath(QStringLiteral("scenario.json"));
+        QFile f(scenario);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(c.scenario);
+    }
     int code = -1;
-    const QString text = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
-                                 QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json"),
-                                 QStringLiteral("--technique"), QStringLiteral("Equivalence Pt."),
-                                 QStringLiteral("--speed"), QStringLiteral("50")},
-                                &code);
+    const QString text = runVantorCli(QStringList{QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario,
+                                                  QStringLiteral("--speed"), QStringLiteral("50")}
+                                          + c.options,
+                                      &code);
     EXPECT_EQ(code, 0) << text.toStdString();
     EXPECT_TRUE(text.startsWith(QStringLiteral("Titration Summary\nTotal Vol Dispensed (ul):"))) << text.toStdString();
-    const QRegularExpression ep(QStringLiteral("End Point 1 Volume Dispensed \\(ul\\):([0-9.]+)\n"));
-    const QRegularExpressionMatch m = ep.match(text);
-    ASSERT_TRUE(m.hasMatch()) << text.toStdString();
-    EXPECT_NEAR(m.captured(1).toDouble(), 10000.0, 50.0);
-    // 10 mL of sample unless told otherwise: the acid's 0.1 mol/L.
-    const QRegularExpressionMatch r = QRegularExpression(QStringLiteral("\nResult: ([0-9.e-]+) M\n")).match(text);
-    ASSERT_TRUE(r.hasMatch()) << text.toStdString();
-    EXPECT_NEAR(r.captured(1).toDouble(), 0.1, 0.0005);
-    EXPECT_TRUE(text.contains(QStringLiteral("Reason for end: Reached final equivalence point at count: 1\n")));
-    EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("Doses: [1-9][0-9]*\n"))));
+    for (const auto &[pattern, value, tolerance] : c.figures) {
+        const QRegularExpressionMatch m = QRegularExpression(QString::fromUtf8(pattern)).match(text);
+        ASSERT_TRUE(m.hasMatch()) << pattern << "\n" << text.toStdString();
+        EXPECT_NEAR(m.captured(1).toDouble(), value, tolerance) << pattern;
+    }
+    if (c.reason) {
+        EXPECT_TRUE(text.contains(QString::fromUtf8(c.reason))) << text.toStdString();
+    }
     EXPECT_TRUE(text.contains(QRegularExpression(QStringLiteral("Duration \\(s\\): [0-9]+\\.[0-9]\n"))));
 }
 
-// A known-addition run of 0.001 mol/L sodium with a 0.1 mol/L standard on a
-// 98 % electrode (57.98 mV/decade at 25 °C) reports the sample and the slope.
-TEST(VantorCli, KnownAdditionReportsTheSampleConcentration)
-{
-    int code = -1;
-    const QString text = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--scenario"),
-                                 QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/sodium-ise.json"),
-                                 QStringLiteral("--technique"), QStringLiteral("Multiple Known Addition"),
-                                 QStringLiteral("--speed"), QStringLiteral("50")},
-                                &code);
-    EXPECT_EQ(code, 0) << text.toStdString();
-    const QRegularExpressionMatch c =
-        QRegularExpression(QStringLiteral("Known addition concentration \\(mol/L\\): ([0-9.e-]+)\n")).match(text);
-    ASSERT_TRUE(c.hasMatch()) << text.toStdString();
-    EXPECT_NEAR(c.captured(1).toDouble(), 0.001, 0.00002);
-    const QRegularExpressionMatch s =
-        QRegularExpression(QStringLiteral("Electrode slope \\(mV/decade\\): ([0-9.]+)\n")).match(text);
-    ASSERT_TRUE(s.hasMatch()) << text.toStdString();
-    EXPECT_NEAR(s.captured(1).toDouble(), 57.98, 1.0);
-    const QRegularExpressionMatch r = QRegularExpression(QStringLiteral("\nResult: ([0-9.e-]+) M\n")).match(text);
-    ASSERT_TRUE(r.hasMatch()) << text.toStdString();
-    EXPECT_DOUBLE_EQ(r.captured(1).toDouble(), c.captured(1).toDouble());
-}
+// 5 mL of 0.1 mol/L HCl in 50 mL with 0.1 mol/L NaOH reaches -118 mV (about
+// pH 9 on the ideal electrode) at 5.005 mL, by the charge balance.
+INSTANTIATE_TEST_SUITE_P(
+    Techniques, VantorCliRun,
+    ::testing::Values(
+        // 10 mL of sample unless told otherwise: the acid's 0.1 mol/L.
+        CliRun{"AceticAcidToItsEquivalencePoint", "acetic-acid-10ml.json",
+               {QStringLiteral("--technique"), QStringLiteral("Equivalence Pt.")},
+               {{"End Point 1 Volume Dispensed \\(ul\\):([0-9.]+)\n", 10000.0, 50.0},
+                {"\nResult: ([0-9.e-]+) M\n", 0.1, 0.0005}},
+               "Reason for end: Reached final equivalence point at count: 1\n"},
+        // 0.001 mol/L sodium, a 0.1 mol/L standard, a 98 % electrode (57.98 mV/decade).
+        CliRun{"SodiumByKnownAddition", "sodium-ise.json",
+               {QStringLiteral("--technique"), QStringLiteral("Multiple Known Addition")},
+               {{"Known addition concentration \\(mol/L\\): ([0-9.e-]+)\n", 0.001, 0.00002},
+                {"Electrode slope \\(mV/decade\\): ([0-9.]+)\n", 57.98, 1.0},
+                {"\nResult: ([0-9.e-]+) M\n", 0.001, 0.00002}},
+               nullptr},
+        CliRun{"HydrochloricAcidToAPresetPotential",
+               R"({"burette_mL":20,"seed":1,"electrode":{"E0_mV":0,"slope_pct":100,"tau_s":1.0,"noise_mV":0.05},
+                   "beaker":{"kind":"acid-base","volume_mL":50,"analyte":{"pKa":[-6],"conc_mol_L":0.01,"form":"acid"},
+                             "titrant":{"kind":"strong-base","conc_mol_L":0.1}}})",
+               {QStringLiteral("--technique"), QStringLiteral("Preset End Pt."), QStringLiteral("--endpoint-mv"),
+                QStringLiteral("-118")},
+               {{"End Point 1 Volume Dispensed \\(ul\\):([0-9.]+)\n", 5005.4, 25.0}},
+               "Reason for end: Passed below final endpoint: -118\n"}),
+    [](const ::testing::TestParamInfo<CliRun> &info) { return std::string(info.param.name); });
 
 // One seed, one result: two known-addition runs of the same scenario, side
 // by side so that each loads the machine for the other, print the same
