@@ -45,35 +45,13 @@ TEST_P(PresetLookup, Reads)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Table, PresetLookup,
+    Fallbacks, PresetLookup,
     ::testing::Values(
-        PresetCase{"default dose Careful", row(&Presets::defaultDose), 0, 2, 50},
         PresetCase{"first dose Quick, Redox reads the pH row", row(&Presets::firstDose), 1, 1, 25},
-        PresetCase{"dE/dt Redox reads the pH row", row(&Presets::dEdt), 1, 0, 0.133},
-        PresetCase{"dE/dt monovalent ion Quick", row(&Presets::dEdt), 2, 1, 0.167},
-        PresetCase{"dE/dt divalent ion Careful", row(&Presets::dEdt), 3, 2, 0.0415},
         PresetCase{"tMax User Defined falls back to Routine", row(&Presets::tMax), 0, 3, 8000},
-        PresetCase{"tMax divalent Quick", row(&Presets::tMax), 3, 1, 5000},
-        PresetCase{"settle tMin Careful", row(&Presets::settleTMin), 2, 2, 3000},
-        PresetCase{"settle tMax Careful", row(&Presets::settleTMax), 0, 2, 35000},
-        PresetCase{"curvature limit", row(&Presets::curvatureLimit), 1, 1, 0.0002},
-        PresetCase{"slope threshold", row(&Presets::slopeThreshold), 3, 2, 0.2},
-        PresetCase{"dE Redox has its own row", row(&Presets::deltaE), 1, 1, 15},
-        PresetCase{"dE divalent", row(&Presets::deltaE), 3, 2, 3},
-        PresetCase{"dVmax Redox has its own row", row(&Presets::deltaVmax), 1, 0, 200},
         PresetCase{"dVmax divalent reads the monovalent row", row(&Presets::deltaVmax), 3, 1, 500},
         PresetCase{"dVmin divalent reads the pH row", row(&Presets::deltaVmin), 3, 2, 5},
-        PresetCase{"dVmin monovalent reads the pH row", row(&Presets::deltaVmin), 2, 1, 20},
-        PresetCase{"dVmin Redox Quick", row(&Presets::deltaVmin), 1, 1, 25},
-        PresetCase{"end-point band Careful", row(&Presets::endPointBand), 0, 2, 0.5},
-        PresetCase{"MKA dE divalent Careful", row(&Presets::mkaDeltaE), 3, 2, 9},
-        PresetCase{"MKA dE/dt divalent Quick", row(&Presets::mkaDEdt), 3, 1, 0.04165},
-        PresetCase{"MKA tMax Careful", row(&Presets::mkaTMax), 2, 2, 120000},
-        PresetCase{"MKA dVmin Quick", row(&Presets::mkaDeltaVmin), 3, 1, 100},
-        PresetCase{"MKA slope, one column for all", row(&Presets::mkaSlope), 2, 2, 59.2},
-        PresetCase{"MKA slope divalent", row(&Presets::mkaSlope), 3, 1, 29.6},
-        PresetCase{"MKA slope low divalent", row(&Presets::mkaSlopeLow), 3, 0, 25},
-        PresetCase{"MKA slope high monovalent", row(&Presets::mkaSlopeHigh), 2, 3, 60}));
+        PresetCase{"MKA slope, one column for all", row(&Presets::mkaSlope), 2, 2, 59.2}));
 
 TEST(PresetLookupFailure, ThrowsOutOfRange)
 {
