@@ -352,10 +352,9 @@ const QList<CalibrationCycleModel *> &DataManagerBase::calibrationCycleList()
     return meterRecords()->cycles();
 }
 
-QQmlListProperty<CalibrationCycleModel> DataManagerBase::calibrationcycles()
+ObjectListModel *DataManagerBase::calibrationcycles()
 {
-    m_calibrationcycles = meterRecords()->cycles();
-    return QQmlListProperty<CalibrationCycleModel>(this, &m_calibrationcycles);
+    return meterRecords()->cycleView();
 }
 
 void DataManagerBase::meterFreshData()

@@ -273,7 +273,8 @@ private:
     Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel NOTIFY valueChanged)
     Q_PROPERTY(CalibrationModel *calibrationModel READ calibrationModel NOTIFY valueChanged)
     Q_PROPERTY(CalibrationCycleModel *calibrationCycleModel READ calibrationCycleModel NOTIFY valueChanged)
-    Q_PROPERTY(QQmlListProperty<CalibrationCycleModel> calibrationcycles READ calibrationcycles NOTIFY valueChanged)
+    // The points of the calibration in hand, as a view model (role "modelData").
+    Q_PROPERTY(ObjectListModel *calibrationcycles READ calibrationcycles NOTIFY valueChanged)
 
 public:
     // Made on first use, with the meter state row loaded.
@@ -281,7 +282,7 @@ public:
     MeasurementModel *measurementModel() override;
     CalibrationModel *calibrationModel() override;
     CalibrationCycleModel *calibrationCycleModel() override;
-    QQmlListProperty<CalibrationCycleModel> calibrationcycles();
+    ObjectListModel *calibrationcycles();
     const QList<CalibrationCycleModel *> &calibrationCycleList() override;
     // One finished point of the calibration in hand, into memory.
     void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp) override;
@@ -303,5 +304,4 @@ private:
     void meterFreshData();
 
     MeterRecords *m_meterRecords = nullptr;
-    QList<CalibrationCycleModel *> m_calibrationcycles;
 };

@@ -22,7 +22,10 @@ MeterRecords::MeterRecords(QObject *parent)
     : QObject(parent)
     , m_measurement(new MeasurementModel(this))
     , m_livePoint(new CalibrationCycleModel(this))
+    , m_cycleView(new ObjectListModel(this))
 {
+    // Every change of the points is announced by changed().
+    connect(this, &MeterRecords::changed, this, [this] { m_cycleView->reset(m_cycles); });
     CalibrationModel::createTables();
     m_measurement->createMeasurementTableAndLoadModel();
 }
@@ -185,6 +188,7 @@ bool MeterRecords::insertATCCalibrationValues(float probeTemperature, float temp
     point->setTemperatureMode(probePresent ? QStringLiteral("ATC") : QStringLiteral("MAN"));
     point->setCycleNo(1);
     m_cycles.append(point);
+    emit changed();
     return c->setCalibrationValues(false, m_cycles, QStringLiteral("INSERT"));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "models/objectlistmodel.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -31,6 +33,8 @@ public:
     CalibrationCycleModel *calibrationCycleModel() const { return m_livePoint; }
     QList<CalibrationCycleModel *> &cycles() { return m_cycles; }
     const QList<CalibrationCycleModel *> &cycles() const { return m_cycles; }
+    // The points of the calibration in hand as the screens list them.
+    ObjectListModel *cycleView() const { return m_cycleView; }
 
     // A new calibration of the given electrode, or of the meter's own
     // settings; the previous one and its points go.
@@ -73,4 +77,5 @@ private:
     CalibrationModel *m_calibration = nullptr;
     CalibrationCycleModel *m_livePoint = nullptr;
     QList<CalibrationCycleModel *> m_cycles;
+    ObjectListModel *m_cycleView = nullptr;
 };

@@ -218,6 +218,8 @@ TEST_F(Meter, ThreePointCalibrationGivesTheElectrodesSlopeAndOffset)
     EXPECT_EQ(slopeError.count(), 0);
     const QList<CalibrationCycleModel *> &points = dm->calibrationCycleList();
     ASSERT_EQ(points.size(), 3);
+    ASSERT_EQ(dm->calibrationcycles()->count(), 3) << "the screens list the same points";
+    EXPECT_EQ(dm->calibrationcycles()->get(2), points[2]);
     const float buffers[3] = {4.01f, 7.00f, 10.01f};
     for (int i = 0; i < 3; ++i) {
         EXPECT_FLOAT_EQ(points[i]->buffer(), buffers[i]);
@@ -412,6 +414,7 @@ TEST_F(Meter, StoredCalibrationSurvivesARestartAndServesTheRunsConversions)
     EXPECT_EQ(dm->calibrationModel()->id(), id);
     ASSERT_EQ(dm->calibrationCycleList().size(), 3);
     EXPECT_EQ(dm->calibrationCycleList().at(2)->cycleNo(), 3);
+    EXPECT_EQ(dm->calibrationcycles()->get(2), dm->calibrationCycleList().at(2)) << "a loaded calibration is listed";
     for (double pH : {4.01, 7.00, 10.01}) {
         EXPECT_NEAR(dm->engine()->millivoltsToPH(float(electrodeMv(pH, 97.0, 12.0, 25.0))), pH, 0.011);
         EXPECT_NEAR(dm->engine()->phToMillivolts(float(pH)), electrodeMv(pH, 97.0, 12.0, 25.0), 0.6);
