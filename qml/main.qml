@@ -10,6 +10,7 @@ import "Constants/NumberFormat.js" as NumberFormat
 import "Constants/Temperature.js" as Temperature
 import "Constants/NamePatterns.js" as NamePatterns
 import "Background"
+import "Constants"
 import "BurettePages"
 import "CustomComponent"
 import "LogPages"
@@ -209,6 +210,15 @@ ApplicationWindow {
             currentFullscreen.resetPage()
         }
         fullscreenContainer.visible = false
+    }
+
+    // The end of the wizard from home: the save offer before the run (the
+    // run screens' "Save Method" question where it stands, else the name page).
+    function offerSaveMethod() {
+        if (typeof titration07 !== "undefined")
+            showPopup(titration07)
+        else
+            titration08.present()
     }
 
     // ---- back, cancel, section helpers -------------------------------------
@@ -416,6 +426,21 @@ ApplicationWindow {
     // ---- 1. hidden pages and helpers ---------------------------------------
     DynamicLoader { id: dynamicLoader }
     DisplayValues { id: displayValues }
+    TranslationListElements { id: listElements }
+    WizardFlow { id: wizardFlow }
+    // The method wizard's pages, pushed on the stack of the section on show.
+    Item {
+        visible: false
+        Titration04 { id: titration04; visible: false }
+        Titration05 { id: titration05; visible: false }
+        Titration06 { id: titration06; visible: false }
+        TitrantSetupMKA { id: titrantSetupMka; visible: false }
+        TitrationSetupMKA { id: titrationSetupMka; visible: false }
+        UserDefinedProcessControll { id: userDefinedProcessControll; visible: false }
+        EntryPage { id: entryPage; visible: false }
+        MultipleOptionsPage { id: multipleOptionsPage; visible: false }
+        Titration24 { id: titration24; visible: false }
+    }
 
     // ---- 2. the six section stacks -----------------------------------------
     CustomStackView {
@@ -503,6 +528,7 @@ ApplicationWindow {
         Item { id: popupContainer; anchors.fill: parent }
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
+        Titration08 { id: titration08 }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
     }
 

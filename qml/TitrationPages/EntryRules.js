@@ -214,3 +214,70 @@ function validate(key, text, ctx) {
 function keyFor(base, unit) {
     return base + unit
 }
+
+// Names typed on the method pages. kind: "format" names (electrode,
+// titrant, standard) or "formatNum" identifiers (titrant id, sample ids).
+var SPECIAL = "Special characters are not allowed"
+var names = {
+    electrodeName: { title: "Electrode Name", pattern: "format", max: 14,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
+    titrantName: { title: "User Defined Titrant Name", pattern: "format", max: 14,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
+    titrantID: { title: "Titrant ID", pattern: "formatNum", max: 14, trim: true,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters" },
+    standardName: { title: "User Defined Standard Name", pattern: "format", max: 14,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric \ncharacters." },
+    sampleIdManual: { title: "Sample ID-Manual", pattern: "formatNum", max: 14, trim: true, blank: "Sample Id cannot be blank",
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
+    sampleIdPrefix: { title: "Sample ID-Auto-Incremental", pattern: "formatNum", max: 10, trim: true, blank: "Sample Id cannot be blank",
+        tooLong: "Invalid name. Please enter up to 10 alphanumeric characters.", noUnderscore: true }
+}
+
+// patterns: { format: RegExp, formatNum: RegExp }. Answers { ok, value, message }.
+function validateName(kind, text, patterns) {
+    var n = names[kind]
+    var t = n.trim ? String(text).replace(/^\s+|\s+$/g, "") : String(text)
+    if (t.length === 0 && n.blank)
+        return { ok: false, message: n.blank }
+    if (t.length === 0 || t.length > n.max)
+        return { ok: false, message: n.tooLong }
+    if (!patterns[n.pattern].test(t) || (n.noUnderscore && t.indexOf("_") >= 0))
+        return { ok: false, message: SPECIAL }
+    return { ok: true, value: t, message: "" }
+}
+
+// The name and password of a method saved from the Methods section: the
+// first message, or "". Fields left at the placeholder count as empty.
+function methodNameMessage(name, password, confirm, formatNum, placeholder) {
+    var n = String(name).replace(/^\s+|\s+$/g, "")
+    var p = password === placeholder ? "" : String(password)
+    var c = confirm === placeholder ? "" : String(confirm)
+    if (n === "" || n === placeholder)
+        return "Method name cannot be empty"
+    if (!formatNum.test(n))
+        return SPECIAL
+    if (n.length > 14)
+        return "Invalid name. Please enter up to 14 alphanumeric  characters."
+    if (p !== "" && c !== "" && p !== c)
+        return "Password & confirm password should be same"
+    if (p.length > 14)
+        return "Invalid Password. Please enter up to 14 alphanumeric characters."
+    if (p !== "" && !formatNum.test(p))
+        return SPECIAL
+    return ""
+}
+
+// The same from home: { message, field } ("name" or "password"), or message "".
+function saveMethodMessage(name, password, formatNum, placeholder) {
+    var n = String(name).replace(/^\s+|\s+$/g, "")
+    var p = password === placeholder ? "" : String(password)
+    if (n === "" || n === placeholder)
+        return { message: "Method Name can't be empty", field: "name" }
+    if (!formatNum.test(n))
+        return { message: SPECIAL, field: "name" }
+    if (p !== "" && !formatNum.test(p))
+        return { message: SPECIAL, field: "password" }
+    if (n.length >= 15 || p.length >= 15)
+        return { message: "Invalid name. Please enter up to 14 alphanumeric characters.", field: "name" }
+    return { message: "", field: "" }
+}
