@@ -26,6 +26,7 @@ MainContentBackground {
         options = model
         selectedIndex = index
         originPage = originPageObject
+        list.forceLayout()
         list.positionViewAtIndex(Math.max(0, index), ListView.Contain)
     }
 
@@ -39,6 +40,7 @@ MainContentBackground {
         boundsBehavior: Flickable.StopAtBounds
         model: page.options
         delegate: Rectangle {
+            objectName: "option" + index
             width: list.width
             height: 46
             color: area.pressed ? Colors.zirconColor : Colors.whiteColor

@@ -59,10 +59,14 @@ MainContentBackground {
         header3Text = Qt.binding(function() { return qsTr(title) + ls.translatedText })
         lastValues = values
         errorMessage = ""
+        fields.model = 0
         fields.model = values.length
         for (var i = 0; i < values.length; ++i)
             fields.itemAt(i).text = values[i]
         mainWindow.currentStack.push(page)
+        // The first field takes the focus, and with it is cleared for the
+        // new value. The keyboard's own hiding leaves the focus where it is:
+        // keys of an attached keyboard go on into the field.
         if (fields.count > 0)
             fields.itemAt(0).forceActiveFocus()
     }
@@ -75,11 +79,18 @@ MainContentBackground {
                     ? EntryRules.validateName(nameKind, text, { format: mainWindow.format, formatNum: mainWindow.formatNum })
                     : EntryRules.validate(keys[i], text, { buretteSize: setup.buretteSize })
             if (!r.ok) {
+                // The next tap on a field takes the focus anew: it clears
+                // the field and the message.
+                for (var f = 0; f < fields.count; ++f)
+                    fields.itemAt(f).release()
+                Qt.inputMethod.hide()
                 errorMessage = r.message
                 return false
             }
             values.push(r.value)
         }
+        for (var k = 0; k < fields.count; ++k)
+            fields.itemAt(k).release()
         Qt.inputMethod.hide()
         mainWindow.currentStack.pop()
         if (target) {
@@ -114,6 +125,7 @@ MainContentBackground {
             Row {
                 property alias text: field.text
                 function forceActiveFocus() { field.forceActiveFocus() }
+                function release() { field.focus = false }
                 spacing: 12
                 TextField {
                     id: field
@@ -127,7 +139,6 @@ MainContentBackground {
                     color: page.errorMessage !== "" ? Colors.orangepeelColor : Colors.deeptangaroaColor
                     onActiveFocusChanged: {
                         if (activeFocus) {
-                            mainWindow.currentEdit = field
                             page.errorMessage = ""
                             text = ""
                         } else if (text === "") {

@@ -40,6 +40,8 @@ PopupBackground {
             errorField = r.field
             return
         }
+        nameField.focus = false
+        passwordField.focus = false
         Qt.inputMethod.hide()
         method.saveMethodValues(name, passwordField.text)
         dm.reInitializeMethodModel(method.id)
@@ -76,7 +78,6 @@ PopupBackground {
                 height: 44
                 maximumLength: 20
                 placeholderText: mainWindow.tapToTextString
-                onActiveFocusChanged: if (activeFocus) mainWindow.currentEdit = nameField
             }
         }
         Row {
@@ -91,7 +92,6 @@ PopupBackground {
                 maximumLength: 20
                 echoMode: TextInput.Password
                 placeholderText: mainWindow.tapToTextString
-                onActiveFocusChanged: if (activeFocus) mainWindow.currentEdit = passwordField
             }
         }
         Text {

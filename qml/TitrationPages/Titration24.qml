@@ -36,6 +36,8 @@ MainContentBackground {
             errorMessage = message
             return
         }
+        nameField.focus = false
+        passwordField.focus = false
         Qt.inputMethod.hide()
         method.saveMethodValues(name, passwordField.text)
         if (method.success !== 1) {
@@ -89,7 +91,7 @@ MainContentBackground {
             height: 44
             maximumLength: 20
             placeholderText: mainWindow.tapToTextString
-            onActiveFocusChanged: if (activeFocus) { mainWindow.currentEdit = nameField; page.errorMessage = "" }
+            onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
         }
         Text { text: qsTr("Password (Optional)") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
         TextField {
@@ -100,7 +102,7 @@ MainContentBackground {
             maximumLength: 20
             echoMode: TextInput.Password
             placeholderText: mainWindow.tapToTextString
-            onActiveFocusChanged: if (activeFocus) { mainWindow.currentEdit = passwordField; page.errorMessage = "" }
+            onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
         }
         Text { text: qsTr("Confirm Password") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
         TextField {
@@ -111,7 +113,7 @@ MainContentBackground {
             maximumLength: 20
             echoMode: TextInput.Password
             placeholderText: mainWindow.tapToTextString
-            onActiveFocusChanged: if (activeFocus) { mainWindow.currentEdit = confirmField; page.errorMessage = "" }
+            onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
         }
     }
 }

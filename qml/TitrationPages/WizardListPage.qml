@@ -54,6 +54,7 @@ MainContentBackground {
         while (rows.count > titles.length)
             rows.remove(rows.count - 1)
         dropdownDatasource = source
+        list.forceLayout()
         list.contentY = Math.min(keepY, Math.max(0, list.contentHeight - list.height))
     }
 
@@ -86,6 +87,9 @@ MainContentBackground {
         comboTitle = rows.get(index).title
         comboOptions.model = dropdownDatasource[index]
         combo.visible = true
+        // Placed now, so that a tap coming before the next frame finds each
+        // option where it is drawn.
+        comboColumn.forceLayout()
     }
 
     ListModel { id: rows }
@@ -170,6 +174,7 @@ MainContentBackground {
                 Repeater {
                     id: comboOptions
                     Rectangle {
+                        objectName: "comboOption" + index
                         width: comboColumn.width
                         height: 46
                         color: optionArea.pressed ? Colors.zirconColor : Colors.whiteColor
