@@ -189,10 +189,25 @@ ApplicationWindow {
     }
 
     // ---- full-screen layer ------------------------------------------------
+    // The run screens start their first cycle as they open.
     function showFullscreenOn(view) {
         currentFullscreen = view
         fullscreenContainer.visible = true
         view.visible = true
+        if (view === titrantStandardization) {
+            dm.deviceMode = "Standardization"
+            view.start()
+            updateStirSpeed(titrant.stirSpeed)
+        } else if (view === startTitrationFullscreen) {
+            dm.deviceMode = "Titration"
+            if (electrode.electrodeType === "ISE-MKA") {
+                view.mkaPageReset(view.cycleIndex <= 1)
+                view.startMkaTitration()
+            } else {
+                view.start()
+            }
+            updateStirSpeed(titration.stirSpeed)
+        }
         fullscreenContainer.opacity = 1
         fullscreenContainer.scale = 1
     }
@@ -428,6 +443,11 @@ ApplicationWindow {
             sideBar.switchIndicatorColor()
         }
         Titration01 { id: titration01; visible: false }
+        Titration03 { id: titration03; visible: false }
+        TitrationPreCheckScreen { id: titrationPreCheck; visible: false }
+        Titration14 { id: titration14; visible: false }
+        TitrationSummary { id: titrationSummaryPage; visible: false }
+        StandardizationSummary { id: standardizationSummary; visible: false }
     }
     CustomStackView {
         id: settingsStack
@@ -447,6 +467,7 @@ ApplicationWindow {
         initialItem: titration21
         onCurrentItemChanged: sideBar.resetBackButton()
         Titration21 { id: titration21; visible: false }
+        MethodPrecheck { id: methodPrecheck; visible: false }
     }
     CustomStackView {
         id: buretteStack
@@ -482,6 +503,8 @@ ApplicationWindow {
         opacity: 0
         scale: 0.85
         visible: false
+        StartTitrationScreen { id: startTitrationFullscreen }
+        StartTitrationScreen { id: titrantStandardization; standardization: true }
     }
 
     // ---- 5. popup frame ----------------------------------------------------
@@ -504,6 +527,9 @@ ApplicationWindow {
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
+        ManualSampleIdPopup { id: manualSampleIdPopup }
+        VariableSampleAmountPopup { id: variableSampleAmountPopup }
+        VariableStandardAmountPopup { id: variableStandardAmountPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------
