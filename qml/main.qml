@@ -190,10 +190,25 @@ ApplicationWindow {
     }
 
     // ---- full-screen layer ------------------------------------------------
+    // The run screens start their first cycle as they open.
     function showFullscreenOn(view) {
         currentFullscreen = view
         fullscreenContainer.visible = true
         view.visible = true
+        if (view === titrantStandardization) {
+            dm.deviceMode = "Standardization"
+            view.start()
+            updateStirSpeed(titrant.stirSpeed)
+        } else if (view === startTitrationFullscreen) {
+            dm.deviceMode = "Titration"
+            if (electrode.electrodeType === "ISE-MKA") {
+                view.mkaPageReset(view.cycleIndex <= 1)
+                view.startMkaTitration()
+            } else {
+                view.start()
+            }
+            updateStirSpeed(titration.stirSpeed)
+        }
         fullscreenContainer.opacity = 1
         fullscreenContainer.scale = 1
     }
@@ -212,13 +227,9 @@ ApplicationWindow {
         fullscreenContainer.visible = false
     }
 
-    // The end of the wizard from home: the save offer before the run (the
-    // run screens' "Save Method" question where it stands, else the name page).
+    // The end of the wizard from home: the offer to keep the setup as a method.
     function offerSaveMethod() {
-        if (typeof titration07 !== "undefined")
-            showPopup(titration07)
-        else
-            titration08.present()
+        showPopup(titration07)
     }
 
     // ---- back, cancel, section helpers -------------------------------------
@@ -453,6 +464,11 @@ ApplicationWindow {
             sideBar.switchIndicatorColor()
         }
         Titration01 { id: titration01; visible: false }
+        Titration03 { id: titration03; visible: false }
+        TitrationPreCheckScreen { id: titrationPreCheck; visible: false }
+        Titration14 { id: titration14; visible: false }
+        TitrationSummary { id: titrationSummaryPage; visible: false }
+        StandardizationSummary { id: standardizationSummary; visible: false }
     }
     CustomStackView {
         id: settingsStack
@@ -472,6 +488,7 @@ ApplicationWindow {
         initialItem: titration21
         onCurrentItemChanged: sideBar.resetBackButton()
         Titration21 { id: titration21; visible: false }
+        MethodPrecheck { id: methodPrecheck; visible: false }
     }
     CustomStackView {
         id: buretteStack
@@ -507,6 +524,8 @@ ApplicationWindow {
         opacity: 0
         scale: 0.85
         visible: false
+        StartTitrationScreen { id: startTitrationFullscreen }
+        StartTitrationScreen { id: titrantStandardization; standardization: true }
     }
 
     // ---- 5. popup frame ----------------------------------------------------
@@ -528,8 +547,12 @@ ApplicationWindow {
         Item { id: popupContainer; anchors.fill: parent }
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
+        Titration07 { id: titration07 }
         Titration08 { id: titration08 }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
+        ManualSampleIdPopup { id: manualSampleIdPopup }
+        VariableSampleAmountPopup { id: variableSampleAmountPopup }
+        VariableStandardAmountPopup { id: variableStandardAmountPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------

@@ -21,3 +21,4 @@ var arrowUp = "\ue5d8"     // arrow_upward
 var arrowDown = "\ue5db"   // arrow_downward
 var radioOn = "\ue837"     // radio_button_checked
 var radioOff = "\ue836"    // radio_button_unchecked
+var edit = "\ue3c9"       // edit (a pencil)

@@ -19,16 +19,19 @@ PopupBackground {
     signal methodSaved()
     signal cancelled()
 
+    // Saved or not, the run comes next.
+    onMethodSaved: titration07.goOn()
+    onCancelled: titration07.goOn()
+
     function errorToggle() {
         errorMessage = ""
         errorField = ""
     }
 
-    function present() {
+    function reset() {
         nameField.text = ""
         passwordField.text = ""
         errorToggle()
-        mainWindow.showPopup(popup)
     }
 
     function save() {
@@ -58,7 +61,6 @@ PopupBackground {
         electrode.setElectrodeSetupValues()
         titrant.setTitrantSetupValues(electrode.electrodeType, true)
         titration.setTitrationSetupValues(electrode.electrodeType)
-        mainWindow.hidePopup()
         dynamicLoader.loadSuccessPopUp(qsTr("Method Saved") + ls.translatedText,
                                        qsTr("Your method has\nbeen saved as - ") + ls.translatedText + name, "")
         methodSaved()
@@ -108,7 +110,11 @@ PopupBackground {
             spacing: 16
             PopupAlternateButton {
                 text: qsTr("Cancel") + ls.translatedText
-                onClicked: { Qt.inputMethod.hide(); mainWindow.hidePopup(); popup.cancelled() }
+                onClicked: {
+                    Qt.inputMethod.hide()
+                    mainWindow.hidePopup()
+                    popup.cancelled()
+                }
             }
             PopupButton {
                 objectName: "saveMethodSave"

@@ -3,10 +3,12 @@ import "../Background"
 import "../Buttons"
 import "../CustomComponent"
 import "../Constants/Colors.js" as Colors
+import "../Constants/Icons.js" as Icons
 
-// The method list, the first page of the Methods section: the stored
-// methods (a tap opens one for changes through the wizard's pages) and the
-// way to a new method while fewer than ten are stored.
+// The method list, the first page of the Methods section: a tap on a method
+// makes it the current one and opens its pre-check; its edit mark opens it
+// in the wizard's pages to be changed in place; "New Method" builds one
+// while fewer than ten are stored.
 MainContentBackground {
     id: page
     objectName: "Methods"
@@ -16,8 +18,15 @@ MainContentBackground {
 
     function populateModel() {
         dm.getMethodsFromDB()
-        methodListView.model = dm.methods
         methodButton1.visible = dm.methodCount < 10
+    }
+
+    function openMethod(id) {
+        setup.currentMethodId = id
+        setup.setSetupValues()
+        dm.reInitializeMethodModel(id)
+        methodPrecheck.changeHeaderButtonText()
+        methodStack.push(methodPrecheck)
     }
 
     function newMethod() {
@@ -25,43 +34,69 @@ MainContentBackground {
         titration04.startNewMethod()
     }
 
-    function editMethod(index) {
-        var entry = dm.methods.get(index)
-        setup.currentMethodId = entry.id
+    function editMethod(id) {
+        setup.currentMethodId = id
         setup.setSetupValues()
+        titration.reagentWeightType = ""
         methodStack.push(titration04)
-        titration04.startEditing(entry.id)
+        titration04.startEditing(id)
     }
 
     ListView {
         id: methodListView
         anchors.top: parent.top
         anchors.left: parent.left
-        width: parent.width - (scroller.needed ? 60 : 0)
         anchors.bottom: footer.top
+        anchors.margins: 16
+        width: parent.width - 32 - (scroller.needed ? 56 : 0)
         clip: true
+        spacing: 8
         boundsBehavior: Flickable.StopAtBounds
+        model: dm.methods
+
         // Carries out the deletions pending in the list.
         function deleteSelected() {}
+
         delegate: Rectangle {
             width: methodListView.width
-            height: 46
-            color: area.pressed ? Colors.zirconColor : Colors.whiteColor
+            height: 56
+            radius: 4
+            color: rowArea.pressed ? Colors.zirconColor : Colors.whiteColor
+            border.color: Colors.lineColor
             Text {
-                x: 20
+                anchors.left: parent.left
+                anchors.leftMargin: 16
+                anchors.right: editMark.left
+                anchors.rightMargin: 8
                 anchors.verticalCenter: parent.verticalCenter
-                color: Colors.deeptangaroaColor
-                font.family: "Roboto"
-                font.pixelSize: 17
+                elide: Text.ElideRight
                 text: modelData.methodName
+                color: Colors.deeptangaroaColor
+                font.pixelSize: 18
             }
-            Rectangle { anchors.bottom: parent.bottom; width: parent.width; height: 1; color: Colors.lineColor }
             MouseArea {
-                id: area
+                id: rowArea
                 anchors.fill: parent
-                onClicked: {
-                    methodListView.currentIndex = index
-                    page.editMethod(index)
+                onClicked: page.openMethod(modelData.id)
+            }
+            Rectangle {
+                id: editMark
+                objectName: "editMethod" + index
+                anchors.right: parent.right
+                width: 56
+                height: parent.height
+                color: editArea.pressed ? Colors.zirconColor : "transparent"
+                Text {
+                    anchors.centerIn: parent
+                    font.family: Icons.fontFamily
+                    font.pixelSize: 24
+                    color: Colors.summerSkyColor
+                    text: Icons.edit
+                }
+                MouseArea {
+                    id: editArea
+                    anchors.fill: parent
+                    onClicked: page.editMethod(modelData.id)
                 }
             }
         }
@@ -74,6 +109,13 @@ MainContentBackground {
         anchors.rightMargin: 8
         anchors.top: parent.top
         anchors.topMargin: 12
+    }
+    Text {
+        anchors.centerIn: parent
+        visible: methodListView.count === 0
+        text: qsTr("No methods saved") + ls.translatedText
+        color: Colors.slateColor
+        font.pixelSize: 17
     }
     Item {
         id: footer
@@ -89,5 +131,5 @@ MainContentBackground {
             onClicked: page.newMethod()
         }
     }
-    Component.onCompleted: populateModel()
+    Component.onCompleted: methodButton1.visible = dm.methodCount < 10
 }
