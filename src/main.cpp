@@ -90,11 +90,6 @@ int main(int argc, char *argv[])
     qmlRegisterAnonymousType<MKATitrationCycleModel>("Kestrum", 1);
     qmlRegisterAnonymousType<MKAadditionModel>("Kestrum", 1);
     qmlRegisterAnonymousType<ObjectListModel>("Kestrum", 1);
-    // The method's parts, read through method.electrodeSetupModel and its sisters.
-    qmlRegisterAnonymousType<ElectrodeSetupModel>("Kestrum", 1);
-    qmlRegisterAnonymousType<TitrantSetupModel>("Kestrum", 1);
-    qmlRegisterAnonymousType<TitrationSetupModel>("Kestrum", 1);
-    qmlRegisterAnonymousType<TitrationModel>("Kestrum", 1);
     qmlRegisterType<MethodModel>("qmllisttest", 1, 0, "MethodModel");
 
     // The back end, strictly in this order: each constructor reaches for

@@ -30,7 +30,7 @@ Column {
             radius: 22
             color: tap.pressed ? Colors.zirconColor : Colors.whiteColor
             border.color: Colors.lineColor
-            enabled: modelData < 0 ? !buttons.target.atYBeginning : !buttons.target.atYEnd
+            enabled: buttons.target !== null && (modelData < 0 ? !buttons.target.atYBeginning : !buttons.target.atYEnd)
             opacity: enabled ? 1 : 0.4
             Text {
                 anchors.centerIn: parent
