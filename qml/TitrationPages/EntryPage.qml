@@ -75,6 +75,10 @@ MainContentBackground {
         var values = []
         for (var i = 0; i < fields.count; ++i) {
             var text = fields.itemAt(i).text
+            // A field left empty where the value has no empty default keeps
+            // the value it had.
+            if (nameKind === "" && text.trim() === "" && EntryRules.entry(keys[i]).empty === undefined)
+                text = lastValues[i]
             var r = nameKind !== ""
                     ? EntryRules.validateName(nameKind, text, { format: mainWindow.format, formatNum: mainWindow.formatNum })
                     : EntryRules.validate(keys[i], text, { buretteSize: setup.buretteSize })

@@ -11,8 +11,9 @@ import "EntryRules.js" as EntryRules
 PopupBackground {
     id: popup
     title: qsTr("Save Method") + ls.translatedText
-    height: 290
-    y: 16
+    // High on the screen: the keyboard takes the lower part.
+    height: 264
+    y: 8
 
     property string errorMessage: ""
     property string errorField: ""
@@ -98,7 +99,7 @@ PopupBackground {
         }
         Text {
             width: parent.width
-            height: 36
+            height: 20
             wrapMode: Text.WordWrap
             color: Colors.orangepeelColor
             font.family: "Roboto"
