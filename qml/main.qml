@@ -194,6 +194,7 @@ ApplicationWindow {
     function showFullscreenOn(view) {
         currentFullscreen = view
         fullscreenContainer.visible = true
+        fullscreenContainer.enabled = true
         view.visible = true
         if (view === titrantStandardization) {
             dm.deviceMode = "Standardization"
@@ -213,7 +214,9 @@ ApplicationWindow {
         fullscreenContainer.scale = 1
     }
 
+    // The screen going away takes no more taps while it fades.
     function hideFullscreen() {
+        fullscreenContainer.enabled = false
         fullscreenContainer.opacity = 0
         fullscreenContainer.scale = 0.85
         fullscreenHideTimer.start()

@@ -83,8 +83,8 @@ MainContentBackground {
     PopupButton {
         id: nextButton
         objectName: "standardizationNextButton"
-        anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.left: parent.left
+        anchors.leftMargin: 20
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 16
         width: 160

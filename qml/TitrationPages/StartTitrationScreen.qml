@@ -507,14 +507,15 @@ Rectangle {
         y: 52
         width: 224
         height: 350
+        // The end point is marked on the point of the curve nearest to its volume.
         onVolumeGenerated: {
+            var nearest = -1
             for (var i = 0; i < splineSeries.count; ++i) {
-                var p = splineSeries.at(i)
-                if (Math.abs(p.x - veqp) < 0.0005) {
-                    scatterSeries.append(p.x, p.y)
-                    break
-                }
+                if (nearest < 0 || Math.abs(splineSeries.at(i).x - veqp) < Math.abs(splineSeries.at(nearest).x - veqp))
+                    nearest = i
             }
+            if (nearest >= 0 && veqp > 0)
+                scatterSeries.append(splineSeries.at(nearest).x, splineSeries.at(nearest).y)
         }
     }
 

@@ -103,7 +103,7 @@ MainContentBackground {
                 }
                 Text {
                     objectName: "lastAverage"
-                    text: method.titrationSetupModel.avgConc !== "" ? method.titrationSetupModel.avgConc + " " + method.titrationSetupModel.resultUnits : ""
+                    text: titration.avgConc !== "" ? titration.avgConc + " " + titration.resultUnits : ""
                     color: Colors.deeptangaroaColor
                     font.pixelSize: 17
                 }

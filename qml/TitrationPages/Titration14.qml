@@ -45,8 +45,8 @@ MainContentBackground {
         }
     }
     PopupButton {
-        anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.left: parent.left
+        anchors.leftMargin: 20
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 20
         width: 180

@@ -183,7 +183,7 @@ MainContentBackground {
             id: standardizeButton
             objectName: "standardizeButton"
             width: 130
-            visible: method.titrantSetupModel.concInputMode !== "Manual Entry" && (page.inMethodStack || page.isFromRepeatButton)
+            visible: titrant.concInputMode !== "Manual Entry" && (page.inMethodStack || page.isFromRepeatButton)
             text: qsTr("Standardize") + ls.translatedText
             onClicked: page.standardize()
         }

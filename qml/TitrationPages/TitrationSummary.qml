@@ -120,8 +120,8 @@ MainContentBackground {
 
     Row {
         id: buttons
-        anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.left: parent.left
+        anchors.leftMargin: 20
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 16
         spacing: 12

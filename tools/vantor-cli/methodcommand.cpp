@@ -72,6 +72,8 @@ int MethodCommand::run(const QStringList &args, QTextStream &out, QTextStream &e
     SandboxSession session(sandbox);
     if (!session.open(err))
         return 2;
+    // The method tables and the working method, as the application's start makes them.
+    const MethodModel working;
     return install ? MethodCommand::install(rest.at(1), out, err) : list(out);
 }
 
