@@ -2,6 +2,7 @@ import QtQuick 2.12
 import QtTest 1.12
 import "../../qml/TitrationPages/EntryRules.js" as EntryRules
 import "../../qml/TitrationPages/WizardRows.js" as WizardRows
+import "../../qml/Constants/NamePatterns.js" as NamePatterns
 
 TestCase {
     name: "Wizard"
@@ -201,5 +202,39 @@ TestCase {
         compare(WizardRows.finishCheck(t, true), " Sample Amount value can't be blank!")
         t.sampleAmount = "Variable Weight"; t.sampleDensity = 0
         compare(WizardRows.finishCheck(t, true), " Sample Density value can't be blank!")
+    }
+    // Names: length limits, the pattern, the sample prefix's "_", blanks.
+    function test_names_data() {
+        var tooLong = "Invalid name. Please enter up to 14 alphanumeric characters."
+        return [
+            { tag: "electrode ok", kind: "electrodeName", text: "Glass 1", message: "" },
+            { tag: "electrode 15", kind: "electrodeName", text: "ABCDEFGHIJKLMNO", message: tooLong },
+            { tag: "electrode mark", kind: "electrodeName", text: "Glass#1", message: "Special characters are not allowed" },
+            { tag: "titrant id trimmed", kind: "titrantID", text: "  Lot7  ", message: "", value: "Lot7" },
+            { tag: "standard 15", kind: "standardName", text: "ABCDEFGHIJKLMNO", message: "Invalid name. Please enter up to 14 alphanumeric \ncharacters." },
+            { tag: "sample blank", kind: "sampleIdManual", text: "   ", message: "Sample Id cannot be blank" },
+            { tag: "prefix 10", kind: "sampleIdPrefix", text: "ABCDEFGHIJ", message: "" },
+            { tag: "prefix 11", kind: "sampleIdPrefix", text: "ABCDEFGHIJK", message: "Invalid name. Please enter up to 10 alphanumeric characters." },
+            { tag: "prefix underscore", kind: "sampleIdPrefix", text: "AB_1", message: "Special characters are not allowed" }
+        ]
+    }
+    function test_names(data) {
+        var patterns = { format: NamePatterns.userName(), formatNum: NamePatterns.identifier("English") }
+        var r = EntryRules.validateName(data.kind, data.text, patterns)
+        compare(r.message, data.message)
+        if (data.value !== undefined)
+            compare(r.value, data.value)
+    }
+
+    function test_method_names() {
+        var num = NamePatterns.identifier("English")
+        var ph = "Tap to enter text"
+        compare(EntryRules.methodNameMessage(ph, ph, ph, num, ph), "Method name cannot be empty")
+        compare(EntryRules.methodNameMessage("ABCDEFGHIJKLMNO", "", "", num, ph),
+                "Invalid name. Please enter up to 14 alphanumeric  characters.")
+        compare(EntryRules.methodNameMessage("Acid 1", "ab", "ac", num, ph), "Password & confirm password should be same")
+        compare(EntryRules.methodNameMessage("Acid 1", ph, ph, num, ph), "")
+        compare(EntryRules.saveMethodMessage("", "", num, ph).message, "Method Name can't be empty")
+        compare(EntryRules.saveMethodMessage("Acid 1", "a#b", num, ph).field, "password")
     }
 }
