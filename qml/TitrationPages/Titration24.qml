@@ -15,7 +15,6 @@ MainContentBackground {
 
     property string mode: "Create Method"
     property string errorMessage: ""
-    property int flag: 0
 
     function openCreate() {
         mode = "Create Method"
