@@ -32,8 +32,7 @@ WizardListPage {
     function setupTitrationMenu() {
         if (electrodeType !== "pH" && titration.displayUnits !== "mV")
             titration.displayUnits = "mV"
-        if (titration.titrationTechnique !== "Preset End Pt." && titration.noOfEndPoints > 2)
-            titration.noOfEndPoints = 1
+        titration.noOfEndPoints = WizardRows.endPointsFor(titration.titrationTechnique, titration.noOfEndPoints)
     }
 
     function endPointText() {

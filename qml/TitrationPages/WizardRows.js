@@ -46,6 +46,12 @@ function endPointCounts(technique, forTitrant) {
     return ["1", "2"]
 }
 
+// The end-point count kept when the technique changes: three end points
+// exist only with preset end points, and fall back to one.
+function endPointsFor(technique, count) {
+    return technique !== "Preset End Pt." && count > 2 ? 1 : count
+}
+
 function hasReactionRatio(unitIndex) { return unitIndex !== 22 && unitIndex !== 23 }
 function needsSampleMolWeight(unitIndex) {
     return (unitIndex >= 2 && unitIndex <= 9) || (unitIndex >= 13 && unitIndex <= 19)

@@ -118,6 +118,9 @@ TestCase {
         compare(WizardRows.endPointCounts("Preset End Pt.", true), ["1"])
         compare(WizardRows.endPointCounts("Preset End Pt.", false), ["1", "2", "3"])
         compare(WizardRows.endPointCounts("Equivalence Pt.", false), ["1", "2"])
+        compare(WizardRows.endPointsFor("Equivalence Pt.", 3), 1)
+        compare(WizardRows.endPointsFor("Equivalence Pt.", 2), 2)
+        compare(WizardRows.endPointsFor("Preset End Pt.", 3), 3)
     }
 
     function rowsOf(changes) {
