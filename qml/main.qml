@@ -552,6 +552,7 @@ ApplicationWindow {
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
         Titration07 { id: titration07 }
         Titration08 { id: titration08 }
+        PasswordVerificationPopUp { id: passwordVerificationPopUp }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
         ManualSampleIdPopup { id: manualSampleIdPopup }
         VariableSampleAmountPopup { id: variableSampleAmountPopup }

@@ -34,6 +34,14 @@ MainContentBackground {
         titration04.startNewMethod()
     }
 
+    // A method with a password opens for changes after the password.
+    function requestEdit(id, password) {
+        if (password.length > 0)
+            passwordVerificationPopUp.ask(id, password)
+        else
+            editMethod(id)
+    }
+
     function editMethod(id) {
         setup.currentMethodId = id
         setup.setSetupValues()
@@ -96,7 +104,7 @@ MainContentBackground {
                 MouseArea {
                     id: editArea
                     anchors.fill: parent
-                    onClicked: page.editMethod(modelData.id)
+                    onClicked: page.requestEdit(modelData.id, modelData.methodPassword)
                 }
             }
         }
