@@ -533,6 +533,7 @@ ApplicationWindow {
         ManualSampleIdPopup { id: manualSampleIdPopup }
         VariableSampleAmountPopup { id: variableSampleAmountPopup }
         VariableStandardAmountPopup { id: variableStandardAmountPopup }
+        VariableReagentWeightPopup { id: variablereagentweightPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------
