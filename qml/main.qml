@@ -557,6 +557,7 @@ ApplicationWindow {
         ManualSampleIdPopup { id: manualSampleIdPopup }
         VariableSampleAmountPopup { id: variableSampleAmountPopup }
         VariableStandardAmountPopup { id: variableStandardAmountPopup }
+        VariableReagentWeightPopup { id: variablereagentweightPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------

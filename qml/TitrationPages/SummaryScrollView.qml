@@ -105,13 +105,14 @@ Item {
         ScrollBar.vertical: ScrollBar {}
         delegate: Rectangle {
             width: table.width
-            height: Math.max(36, 22 * view.endPoints + 10)
+            height: Math.max(32, 22 * view.endPoints + 10)
             color: index % 2 ? Colors.whiteSmokeColor : Colors.whiteColor
             Row {
-                anchors.verticalCenter: parent.verticalCenter
-                Text { width: 60; text: cycleNo; font.pixelSize: 16; color: Colors.deeptangaroaColor }
+                height: parent.height
+                Text { width: 60; anchors.verticalCenter: parent.verticalCenter; text: cycleNo; font.pixelSize: 16; color: Colors.deeptangaroaColor }
                 Text {
                     width: 110
+                    anchors.verticalCenter: parent.verticalCenter
                     visible: !view.isMka
                     text: initial
                     font.pixelSize: 16
@@ -119,6 +120,7 @@ Item {
                 }
                 Text {
                     width: 130
+                    anchors.verticalCenter: parent.verticalCenter
                     text: {
                         var t = []
                         for (var k = 0; k < Math.min(view.endPoints, conc.count); ++k)
@@ -128,9 +130,10 @@ Item {
                     font.pixelSize: 16
                     color: Colors.deeptangaroaColor
                 }
-                Text { width: view.isMka ? 110 : 110; text: second; font.pixelSize: 16; color: Colors.deeptangaroaColor }
+                Text { width: 110; anchors.verticalCenter: parent.verticalCenter; text: second; font.pixelSize: 16; color: Colors.deeptangaroaColor }
                 Text {
                     width: 110
+                    anchors.verticalCenter: parent.verticalCenter
                     visible: view.isMka
                     text: initial
                     font.pixelSize: 16
@@ -138,7 +141,8 @@ Item {
                 }
                 CheckBox {
                     objectName: "inclInAvg" + cycleNo
-                    height: 34
+                    anchors.verticalCenter: parent.verticalCenter
+                    height: 32
                     checked: incl
                     enabled: !view.fromLog
                     onToggled: {

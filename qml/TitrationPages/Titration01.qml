@@ -74,11 +74,11 @@ MainContentBackground {
         visible: page.hasHistory
         anchors.fill: parent
         anchors.margins: 20
-        spacing: 12
+        spacing: 10
 
         Rectangle {
             width: parent.width
-            height: 132
+            height: 112
             radius: 4
             color: Colors.whiteColor
             border.color: Colors.lineColor
@@ -86,8 +86,8 @@ MainContentBackground {
             Column {
                 id: lastTitrationLabels
                 anchors.fill: parent
-                anchors.margins: 14
-                spacing: 6
+                anchors.margins: 12
+                spacing: 4
                 Text {
                     text: qsTr("Last Titration") + ls.translatedText + "   " + page.whenText(method.lastTitration)
                     color: Colors.slateColor
@@ -145,7 +145,7 @@ MainContentBackground {
                 Rectangle {
                     objectName: modelData.id
                     width: (savedTitrationFrame.width - 20) / 3
-                    height: 64
+                    height: 58
                     radius: 4
                     color: tileArea.pressed ? Colors.zirconColor : Colors.whiteColor
                     border.color: Colors.lineColor
@@ -185,18 +185,21 @@ MainContentBackground {
                    ? qsTr("Run Titration") : qsTr("Repeat Last Titration")) + ls.translatedText
             onClicked: page.repeatLastTitration()
         }
-        PopupAlternateButton {
-            id: usedSavedTitrationButton
-            objectName: "usedSavedTitrationButton"
-            visible: dm.methodCount > 0
-            width: parent.width
-            text: qsTr("Use a Saved Method") + ls.translatedText
-            onClicked: page.useSavedMethod()
-        }
-        PopupAlternateButton {
-            width: parent.width
-            text: qsTr("Start a New Titration") + ls.translatedText
-            onClicked: page.startNewTitration()
+        Row {
+            spacing: 10
+            PopupAlternateButton {
+                id: usedSavedTitrationButton
+                objectName: "usedSavedTitrationButton"
+                visible: dm.methodCount > 0
+                width: (savedTitrationFrame.width - 10) / 2
+                text: qsTr("Use a Saved Method") + ls.translatedText
+                onClicked: page.useSavedMethod()
+            }
+            PopupAlternateButton {
+                width: (savedTitrationFrame.width - 10) / 2
+                text: qsTr("Start a New Titration") + ls.translatedText
+                onClicked: page.startNewTitration()
+            }
         }
     }
 

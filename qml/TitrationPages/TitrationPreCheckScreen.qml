@@ -83,8 +83,16 @@ MainContentBackground {
         afterSampleId()
     }
 
-    // The chain after the sample id: the sample amount, or the run itself.
+    // The chain after the sample id: the reagent's weight, the sample
+    // amount, or the run itself.
     function afterSampleId() {
+        if (titration.reagentWeightType === "Variable Weight")
+            variablereagentweightPopup.ask()
+        else
+            afterReagent()
+    }
+
+    function afterReagent() {
         var amount = titration.sampleAmount
         if (amount === "Variable Weight" || amount === "Variable Volume")
             variableSampleAmountPopup.ask(amount === "Variable Volume", 0, true)

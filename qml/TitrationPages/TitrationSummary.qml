@@ -109,6 +109,7 @@ MainContentBackground {
                 return
             titrationLogModel.AvgConc = averageText
             titration.avgConc = averageText
+            titration.setTitrationSetupValues(electrode.electrodeType)
             titrationLogModel.rsd = rsdStored
             titrationLogModel.updateLog()
             if (page.blankMode) {

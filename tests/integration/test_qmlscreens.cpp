@@ -340,7 +340,7 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", QByteArray("offscreen"));
     // The offscreen platform has no OpenGL: the software renderer draws.
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
-    // The run screens' charts are drawn by Qt Charts, which needs widgets.
+    // As the application: the run screens' charts draw through the widgets' graphics scene.
     QApplication app(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Material"));
     ::testing::InitGoogleTest(&argc, argv);
