@@ -10,6 +10,7 @@ import "Constants/NumberFormat.js" as NumberFormat
 import "Constants/Temperature.js" as Temperature
 import "Constants/NamePatterns.js" as NamePatterns
 import "Background"
+import "Constants"
 import "BurettePages"
 import "CustomComponent"
 import "LogPages"
@@ -189,15 +190,33 @@ ApplicationWindow {
     }
 
     // ---- full-screen layer ------------------------------------------------
+    // The run screens start their first cycle as they open.
     function showFullscreenOn(view) {
         currentFullscreen = view
         fullscreenContainer.visible = true
+        fullscreenContainer.enabled = true
         view.visible = true
+        if (view === titrantStandardization) {
+            dm.deviceMode = "Standardization"
+            view.start()
+            updateStirSpeed(titrant.stirSpeed)
+        } else if (view === startTitrationFullscreen) {
+            dm.deviceMode = "Titration"
+            if (electrode.electrodeType === "ISE-MKA") {
+                view.mkaPageReset(view.cycleIndex <= 1)
+                view.startMkaTitration()
+            } else {
+                view.start()
+            }
+            updateStirSpeed(titration.stirSpeed)
+        }
         fullscreenContainer.opacity = 1
         fullscreenContainer.scale = 1
     }
 
+    // The screen going away takes no more taps while it fades.
     function hideFullscreen() {
+        fullscreenContainer.enabled = false
         fullscreenContainer.opacity = 0
         fullscreenContainer.scale = 0.85
         fullscreenHideTimer.start()
@@ -209,6 +228,11 @@ ApplicationWindow {
             currentFullscreen.resetPage()
         }
         fullscreenContainer.visible = false
+    }
+
+    // The end of the wizard from home: the offer to keep the setup as a method.
+    function offerSaveMethod() {
+        showPopup(titration07)
     }
 
     // ---- back, cancel, section helpers -------------------------------------
@@ -416,6 +440,21 @@ ApplicationWindow {
     // ---- 1. hidden pages and helpers ---------------------------------------
     DynamicLoader { id: dynamicLoader }
     DisplayValues { id: displayValues }
+    TranslationListElements { id: listElements }
+    WizardFlow { id: wizardFlow }
+    // The method wizard's pages, pushed on the stack of the section on show.
+    Item {
+        visible: false
+        Titration04 { id: titration04; visible: false }
+        Titration05 { id: titration05; visible: false }
+        Titration06 { id: titration06; visible: false }
+        TitrantSetupMKA { id: titrantSetupMka; visible: false }
+        TitrationSetupMKA { id: titrationSetupMka; visible: false }
+        UserDefinedProcessControll { id: userDefinedProcessControll; visible: false }
+        EntryPage { id: entryPage; visible: false }
+        MultipleOptionsPage { id: multipleOptionsPage; visible: false }
+        Titration24 { id: titration24; visible: false }
+    }
 
     // ---- 2. the six section stacks -----------------------------------------
     CustomStackView {
@@ -428,6 +467,11 @@ ApplicationWindow {
             sideBar.switchIndicatorColor()
         }
         Titration01 { id: titration01; visible: false }
+        Titration03 { id: titration03; visible: false }
+        TitrationPreCheckScreen { id: titrationPreCheck; visible: false }
+        Titration14 { id: titration14; visible: false }
+        TitrationSummary { id: titrationSummaryPage; visible: false }
+        StandardizationSummary { id: standardizationSummary; visible: false }
     }
     CustomStackView {
         id: settingsStack
@@ -447,6 +491,7 @@ ApplicationWindow {
         initialItem: titration21
         onCurrentItemChanged: sideBar.resetBackButton()
         Titration21 { id: titration21; visible: false }
+        MethodPrecheck { id: methodPrecheck; visible: false }
     }
     CustomStackView {
         id: buretteStack
@@ -482,6 +527,8 @@ ApplicationWindow {
         opacity: 0
         scale: 0.85
         visible: false
+        StartTitrationScreen { id: startTitrationFullscreen }
+        StartTitrationScreen { id: titrantStandardization; standardization: true }
     }
 
     // ---- 5. popup frame ----------------------------------------------------
@@ -503,7 +550,14 @@ ApplicationWindow {
         Item { id: popupContainer; anchors.fill: parent }
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
+        Titration07 { id: titration07 }
+        Titration08 { id: titration08 }
+        PasswordVerificationPopUp { id: passwordVerificationPopUp }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
+        ManualSampleIdPopup { id: manualSampleIdPopup }
+        VariableSampleAmountPopup { id: variableSampleAmountPopup }
+        VariableStandardAmountPopup { id: variableStandardAmountPopup }
+        VariableReagentWeightPopup { id: variablereagentweightPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------

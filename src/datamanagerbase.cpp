@@ -11,8 +11,11 @@
 #include "models/logtables.h"
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
+#include "models/runwithlog.h"
 #include "models/sysinfomodel.h"
+#include "models/standardisationlogmodel.h"
 #include "models/titrantsetupmodel.h"
+#include "models/titrationlogmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "reports/logmanager.h"
 
@@ -304,6 +307,19 @@ void DataManagerBase::initializeTitration()
     if (TitrationModel *run = titrationModel())
         run->clearTitrationCycles();
     emit valueChanged();
+}
+
+bool DataManagerBase::storeTitrationRun(QObject *log, bool isChangeFromHome, bool isDataLogNotifOn)
+{
+    auto *entry = qobject_cast<TitrationLogModel *>(log);
+    return entry && titrationModel() && RunWithLog::storeTitration(titrationModel(), entry, isChangeFromHome, isDataLogNotifOn);
+}
+
+bool DataManagerBase::storeStandardisationRun(QObject *log, bool isChangeFromHome, bool isDataLogNotifOn)
+{
+    auto *entry = qobject_cast<StandardisationLogModel *>(log);
+    return entry && titrationModel()
+           && RunWithLog::storeStandardisation(titrationModel(), entry, isChangeFromHome, isDataLogNotifOn);
 }
 
 void DataManagerBase::getMeasureFromDB()

@@ -233,6 +233,12 @@ public slots:
     void getMKAadditionFromDB(int titrationId);
     // The summary screens have read the cycles: the run starts empty.
     void initializeTitration();
+    // Complete on the run screen: the run with its cycles (or known-addition
+    // cycles and additions) and its log entry, as one unit; false leaves the
+    // run in memory to be stored again.
+    // `log` is the screens' titration (or standardisation) log model.
+    bool storeTitrationRun(QObject *log, bool isChangeFromHome, bool isDataLogNotifOn);
+    bool storeStandardisationRun(QObject *log, bool isChangeFromHome, bool isDataLogNotifOn);
     // The meter's last stored row, as a new `measure`.
     void getMeasureFromDB();
 

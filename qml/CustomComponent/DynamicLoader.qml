@@ -52,6 +52,20 @@ Item {
         return popup
     }
 
+    // The run screen of the current method's titration, from the page on show.
+    function loadTitration() {
+        mainWindow.processIndex = 0
+        mainWindow.lastPageInCurrentStack = mainWindow.currentStack.currentItem
+        mainWindow.showFullscreenOn(startTitrationFullscreen)
+    }
+
+    // The standardisation of the current method's titrant, from the page on show.
+    function loadTitrantStandardization() {
+        mainWindow.processIndex = 1
+        mainWindow.lastPageInCurrentStack = mainWindow.currentStack.currentItem
+        mainWindow.currentStack.push(titration14)
+    }
+
     // After the success popup's 3 seconds, by its label.
     function callbc() {
         var label = successPopup ? successPopup.label : ""

@@ -46,6 +46,11 @@ const ColumnTable &MethodModel::columnTable()
 MethodModel::MethodModel(QObject *parent, bool ensureScratch)
     : QObject(parent)
 {
+    // The screens read the parts through these properties (method.titrationSetupModel...).
+    qRegisterMetaType<ElectrodeSetupModel *>();
+    qRegisterMetaType<TitrantSetupModel *>();
+    qRegisterMetaType<TitrationSetupModel *>();
+    qRegisterMetaType<TitrationModel *>();
     setSuccess(1);
     m_electrode = new ElectrodeSetupModel(this);
     m_titrant = new TitrantSetupModel(this);

@@ -241,6 +241,12 @@ void TitrationSetupModel::setSampleAmountValue(float v)
     emit valueChanged();
 }
 
+void TitrationSetupModel::setServingNo(float servings)
+{
+    m_servingNo = servings;
+    setSampleAmountValue(servings);
+}
+
 bool TitrationSetupModel::updateTitrationSetupModel(int methodId, const QString &suffix)
 {
     QSqlQuery query;

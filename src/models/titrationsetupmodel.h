@@ -79,6 +79,7 @@ class TitrationSetupModel : public QObject
     KESTRUM_MODEL_PROPERTY(float, fixedSampleVolumeValue, setFixedSampleVolumeValue)
     KESTRUM_MODEL_PROPERTY(float, fixedSampleWeightValue, setFixedSampleWeightValue)
     Q_PROPERTY(bool isReactionRatio READ isReactionRatio NOTIFY valueChanged)
+    Q_PROPERTY(float servingNo READ servingNo WRITE setServingNo NOTIFY valueChanged)
 
 public:
     static const QString tableName;
@@ -108,6 +109,10 @@ public:
     float sampleAmountValue() const { return m_sampleAmountValue; }
     void setSampleAmountValue(float v);
     bool isReactionRatio() const { return m_isReactionRatio; }
+    // Known addition by servings: the number of servings in the beaker is the
+    // sample amount of such a run, so it is stored as both (memory only).
+    float servingNo() const { return m_servingNo; }
+    void setServingNo(float servings);
 
     bool updateTitrationSetupModel(int methodId, const QString &suffix = QString());
     bool insertStaged(const QString &suffix);
@@ -151,4 +156,5 @@ private:
     float m_reactionRatio = 1.0f;
     float m_sampleAmountValue = 1.0f;
     bool m_isReactionRatio = true;
+    float m_servingNo = 1.0f;
 };

@@ -28,7 +28,7 @@
 #include "titrationcontrollerbase.h"
 
 #include <QDirIterator>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -340,7 +340,8 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", QByteArray("offscreen"));
     // The offscreen platform has no OpenGL: the software renderer draws.
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
-    QGuiApplication app(argc, argv);
+    // As the application: the run screens' charts draw through the widgets' graphics scene.
+    QApplication app(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Material"));
     ::testing::InitGoogleTest(&argc, argv);
     TempSandbox sandbox;

@@ -469,6 +469,23 @@ TEST(VantorCli, RunsTheMethodOfAMethodFile)
     EXPECT_EQ(code, 2) << refused.toStdString();
     EXPECT_TRUE(refused.contains(QStringLiteral("method file"))) << refused.toStdString();
     EXPECT_FALSE(refused.contains(QStringLiteral("Titration Summary")));
+
+    // "method install" puts the same file on an instrument twice as two
+    // methods, the second under a name of its own; the junk file adds none.
+    QTemporaryDir box;
+    const QString sandbox = box.path();
+    for (const QString &name : {QStringLiteral("Acetic 25 mL"), QStringLiteral("Acetic 25 mL~1")}) {
+        const QString installed = runVantorCli({QStringLiteral("method"), QStringLiteral("install"), file,
+                                                QStringLiteral("--sandbox"), sandbox}, &code);
+        EXPECT_EQ(code, 0) << installed.toStdString();
+        EXPECT_TRUE(installed.contains(QStringLiteral("Installed \"%1\" as method").arg(name))) << installed.toStdString();
+    }
+    runVantorCli({QStringLiteral("method"), QStringLiteral("install"), junk, QStringLiteral("--sandbox"), sandbox}, &code);
+    EXPECT_EQ(code, 2);
+    const QString listed = runVantorCli({QStringLiteral("method"), QStringLiteral("list"), QStringLiteral("--sandbox"), sandbox}, &code);
+    EXPECT_EQ(code, 0);
+    EXPECT_TRUE(listed.contains(QStringLiteral("\tAcetic 25 mL~1\tpH\tEquivalence Pt.\n"))) << listed.toStdString();
+    EXPECT_TRUE(listed.endsWith(QStringLiteral("2 of 10 methods\n"))) << listed.toStdString();
 }
 
 TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)

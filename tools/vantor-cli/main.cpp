@@ -2,6 +2,7 @@
 // validation and service work.
 
 #include "meterrunner.h"
+#include "methodcommand.h"
 #include "titrateoptions.h"
 #include "titraterunner.h"
 #include "uiscript.h"
@@ -31,8 +32,9 @@ QString mainUsage()
                           "  titrate   run one titration against the virtual instrument, or replay a curve\n"
                           "  measure   read the electrode of a scenario until the reading is stable\n"
                           "  calibrate calibrate the electrode of a scenario with buffers or standards\n"
+                          "  method    install a method file, or list the stored methods\n"
                           "  ui        run a UI driver script against the running application\n\n")
-           + TitrateOptions::usage() + QStringLiteral("\n") + UiScript::usage();
+           + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n") + UiScript::usage();
 }
 
 } // namespace
@@ -67,6 +69,13 @@ int main(int argc, char *argv[])
         }
         g_verbose = meter.verbose();
         return meter.run(out, err);
+    }
+    if (command == QLatin1String("method")) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << MethodCommand::usage();
+            return 0;
+        }
+        return MethodCommand::run(args, out, err);
     }
     if (command == QLatin1String("ui")) {
         if (args.contains(QStringLiteral("--help"))) {

@@ -6,11 +6,11 @@
 #include "controller/mspcontroller.h"
 #include "controller/simdatareader.h"
 #include "controller/slaveclock.h"
+#include "methodcommand.h"
 #include "processresources.h"
 #include "sandboxsession.h"
 #include "datamanagerbase.h"
 #include "models/methoddraft.h"
-#include "models/methodfilevalidator.h"
 #include "models/methodmodel.h"
 #include "models/runwithlog.h"
 #include "models/titrationlogmodel.h"
@@ -20,7 +20,6 @@
 #include "scenario.h"
 #include "slavesession.h"
 #include "system/clock.h"
-#include "models/importexport.h"
 #include "system/platform.h"
 #include "titrationcontrollerbase.h"
 #include "virtualslave.h"
@@ -75,39 +74,6 @@ int logFileCount()
             ++n;
     }
     return n;
-}
-
-// Installs the method of a method file (the JSON of a method export: its
-// rows of the method, electrode, titrant and titration tables) as the
-// method library installs an imported method: checked field by field,
-// staged in the "_temp" tables, read back, then written to the live tables
-// under a unique name. The new method's id, or 0 with the reason (the first
-// bad field, a full library); never the id of a stored method that merely
-// has the same name. The "_temp" tables are gone on every way out.
-int installMethodFile(const QString &fileName, QString *error)
-{
-    *error = MethodFileValidator(MethodFileValidator::storedBuretteMl()).checkFile(fileName);
-    if (!error->isEmpty())
-        return 0;
-    ImportExport io(fileName);
-    struct Staging {
-        ImportExport &io;
-        ~Staging() { io.dropTables(QStringLiteral("_temp")); }
-    } staging{io};
-    io.dropTables(QStringLiteral("_temp"));
-    if (!io.importAll(ImportExport::Replace, QStringLiteral("_temp"))) {
-        *error = QStringLiteral("could not be staged (see the log with --verbose)");
-        return 0;
-    }
-    MethodModel staged(nullptr, false);
-    if (!staged.loadMethodsFromDb(QStringLiteral("_temp"), true) || staged.methodList().size() != 1) {
-        *error = staged.refusals().isEmpty() ? QStringLiteral("holds no method") : staged.refusals().first();
-        return 0;
-    }
-    const int id = staged.install(staged.methodList().first(), error);
-    if (id <= 0)
-        *error = QStringLiteral("its method could not be installed: %1").arg(*error);
-    return id;
 }
 
 const IseBeaker *iseBeaker(const Scenario &scenario)
@@ -237,7 +203,7 @@ int TitrateRunner::methodOfRun(DataManagerBase &dm, const Scenario &scenario, QT
     } else if (!m_options.methodFile.isEmpty()) {
         QString error;
         dm.setupModel()->setSetupValues(); // the burette the file's volumes are checked against
-        id = installMethodFile(m_options.methodFile, &error);
+        id = MethodCommand::installFile(m_options.methodFile, &error);
         if (id <= 0)
             err << "vantor-cli: method file " << m_options.methodFile << ": " << error << "\n";
     } else if (!m_options.methodName.isEmpty()) {

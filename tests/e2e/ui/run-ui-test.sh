@@ -2,9 +2,11 @@
 # Runs one UI driver script of this folder against the real application and
 # the virtual instrument: run-ui-test.sh NAME. The sandbox is new for each
 # test. NAME.seed.sql, when present, is applied to the database of a first
-# start before the script runs; NAME.args holds extra options of scripts/run.
+# start before the script runs, and methods/NAME.json is installed after it;
+# NAME.args holds extra options of scripts/run.
 # NAME.setup SANDBOX, when present, prepares the sandbox before the start,
-# and NAME.check SANDBOX looks at it after a passing script.
+# and NAME.check SANDBOX looks at it (and at driver.log, the driver's
+# output) after a passing script.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 root=$(cd "$here/../../.." && pwd)
@@ -23,8 +25,15 @@ if [ -f "$here/$name.seed.sql" ]; then
   "$root/scripts/run" --drive "$here/boot.ui" >/dev/null
   sed "s/@INSTRUMENT@/Bench 1/" "$here/$name.seed.sql" | sqlite3 "$sandbox/var/KestrumDB"
 fi
+# methods/NAME.json, a method file, goes on the instrument as a user would
+# put it there without a USB disk.
+if [ -f "$here/methods/$name.json" ]; then
+  "$root/build/bin/vantor-cli" method install "$here/methods/$name.json" --sandbox "$sandbox"
+fi
 if [ -f "$here/$name.setup" ]; then bash "$here/$name.setup" "$sandbox"; fi
 args=()
 if [ -f "$here/$name.args" ]; then read -r -a args <"$here/$name.args"; fi
-"$root/scripts/run" "${args[@]}" --drive "$here/$name.ui"
+# The driver's output (the `texts` dumps among it) stays beside the pictures
+# for NAME.check, which runs there.
+"$root/scripts/run" "${args[@]}" --drive "$here/$name.ui" | tee driver.log
 if [ -f "$here/$name.check" ]; then bash "$here/$name.check" "$sandbox"; fi

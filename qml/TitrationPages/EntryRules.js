@@ -1,0 +1,283 @@
+.pragma library
+.import "../Constants/NumberFormat.js" as NumberFormat
+// The limits of every value typed on the method pages: the accepted range
+// (on parseFloat of the text), the pattern of the text, the message shown on
+// a refusal, what an empty field stores and how the stored value is rounded.
+// Patterns allow as many decimals as their message says.
+
+var MSG_CONC_M5 = "Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals."
+var MSG_CONC_MM5 = "Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals."
+var MSG_CONC_M4 = "Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals."
+var MSG_CONC_MM4 = "Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals."
+var MSG_MW = "Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals."
+var MSG_PURITY = "Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals."
+var MSG_AMOUNT5 = "Invalid value. Please enter a value between \n0.00001 - 1000.0 with maximum 5 decimals."
+var MSG_RATIO4 = "Invalid value. Please enter a value between \n 0.0001 - 100.0 with maximum 4 decimals."
+var MSG_PREDOSE = "Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals."
+var MSG_MAXVOL = "Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals."
+var MSG_PRESTIR = "Invalid value. Please enter a value between 0 - 10,000."
+var MSG_DELTA_E = "Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal."
+var MSG_DOSE = "Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals."
+var MSG_STABILITY = "Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal."
+var MSG_TMIN = "Invalid value. Please enter a value between 1 - 150 without decimal."
+var MSG_TMAX = "Invalid value. Please enter a value between 1 - 15000 without decimal."
+var MSG_THRESHOLD = "Invalid value. Please enter a value between 1 - 20000 without decimal."
+var MSG_EP_PH = "Enter a pH value between 0.00 - 14.00"
+
+// A pattern of `whole` integer digits (as "{0,5}") and at most `dec` decimals.
+function num(whole, dec) {
+    return new RegExp("^\\d" + whole + "(\\.\\d{1," + dec + "})?$")
+}
+function dose(whole, dec) {
+    return new RegExp("^\\d" + whole + "(\\.\\d{0," + dec + "})?$")
+}
+var WHOLE = /^\d*$/
+
+// title: the page title; field: object and property the value goes to;
+// store: "f2".."f5" toFixed, "sig5" five significant figures, "t3sig5"
+// toFixed(3) then five figures, "int" whole number, "" as typed.
+var entries = {
+    titrantConcentrationMka: { title: "Titrant Concentration", field: ["titrant", "titrantConcentrationValue"],
+        min: 0.00001, max: 10000, pattern: num("{0,5}", 5), store: "f5",
+        message: "Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals." },
+    titrantMolecularWeight: { title: "Titrant Molecular Weight", unit: "g/mol", field: ["titrant", "titrantMolecularWeight"],
+        min: 0.01, max: 100000, pattern: num("{1,6}", 2), store: "",
+        message: "Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals." },
+    concInputModeM: { title: "Titrant Concentration", unit: "M", field: ["titrant", "concInputMode_manualEntry"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 5), message: MSG_CONC_M5, empty: 1, store: "f5" },
+    concInputModemM: { title: "Titrant Concentration", unit: "mM", field: ["titrant", "concInputMode_manualEntry"],
+        min: 0.1, max: 100000, pattern: num("{0,6}", 5), message: MSG_CONC_MM5, empty: 1, store: "f5" },
+    nominalConcM: { title: "Nominal Concentration", unit: "M", field: ["titrant", "nominalConc"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 4), message: MSG_CONC_M4, store: "f4" },
+    nominalConcmM: { title: "Nominal Concentration", unit: "mM", field: ["titrant", "nominalConc"],
+        min: 0.1, max: 100000, pattern: num("{0,6}", 4), message: MSG_CONC_MM4, store: "f4" },
+    titrantEndPointpH: { title: "Endpoint Values", unit: "pH", field: ["titrant", "endPointsValues"],
+        min: 0, max: 14, message: MSG_EP_PH, empty: 1, store: "" },
+    titrantEndPointmV: { title: "Endpoint Values", unit: "mV", field: ["titrant", "endPointsValues"], signed: true,
+        min: -2000, max: 2000, message: "Enter a mV value between - 2000.0 - +2000.0 mV.", store: "" },
+    standReactionRatio: { title: "Standardization Reaction Ratio", field: ["titrant", "standReactionRatio"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 4), message: MSG_RATIO4, empty: 0, store: "sig5" },
+    fixedStandAmountWeight: { title: "Standard Amount", unit: "grams", field: ["titrant", "fixedStandAmountWeight"],
+        min: 0.00001, max: 1000, pattern: num("{0,4}", 5), message: MSG_AMOUNT5, empty: 0, store: "sig5" },
+    fixedStandAmountVolume: { title: "Standard Amount", unit: "mL", field: ["titrant", "fixedStandAmountVolume"],
+        min: 0.00001, max: 1000, pattern: num("{0,4}", 5), message: MSG_AMOUNT5, empty: 0, store: "sig5" },
+    standMolecularWeight: { title: "Standard Molecular Weight", unit: "g/mol", field: ["titrant", "standMolecularWeight"],
+        min: 0.01, max: 100000, pattern: num("{0,6}", 2), message: MSG_MW, store: "" },
+    standardPurity: { title: "Standard Purity", unit: "%", field: ["titrant", "standardPurity"],
+        min: 0.01, max: 100, pattern: num("{0,3}", 2), message: MSG_PURITY, empty: 100, store: "" },
+    standConcentrationM: { title: "Standard Concentration", unit: "M", field: ["titrant", "standConcentration"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 5), message: MSG_CONC_M5, empty: 1, store: "f5" },
+    standConcentrationmM: { title: "Standard Concentration", unit: "mM", field: ["titrant", "standConcentration"],
+        min: 0.1, max: 100000, pattern: num("{0,6}", 5), message: MSG_CONC_MM5, empty: 1, store: "f5" },
+    titrantPreDose: { title: "Pre-dose Titrant Volume", unit: "mL", field: ["titrant", "preDoseTitrantVolume"],
+        min: 0, maxFromBurette: true, pattern: num("{0,20}", 2), message: MSG_PREDOSE, empty: 0, store: "f2" },
+    titrantMaxVolume: { title: "Max Total Titrant Volume", unit: "mL", field: ["titrant", "maxTotalVolume"],
+        min: 0, max: 100, pattern: num("{0,3}", 2), message: MSG_MAXVOL, empty: 0, store: "f2" },
+    titrantPreStir: { title: "Pre-stir Duration", unit: "sec", field: ["titrant", "preStirDuration"],
+        min: 0, max: 10000, pattern: WHOLE, message: MSG_PRESTIR, empty: 0, store: "int" },
+    endPointpH: { title: "Endpoint Values", unit: "pH", field: ["titration", "endPointValues"],
+        min: 0, max: 14, message: MSG_EP_PH, store: "", signed: true },
+    endPointmV: { title: "Endpoint Values", unit: "mV", field: ["titration", "endPointValues"], signed: true,
+        min: -2000, max: 2000, message: "Enter a mV value between -2000.0 - +2000.0 mV.", store: "" },
+    blankRequiredValue: { title: "Fixed Blank Value", unit: "mL", field: ["titration", "blankRequiredValue"],
+        min: 0, max: 1000, pattern: num("{0,5}", 5), empty: 0, store: "sig5",
+        message: "Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals." },
+    resultUnitsValue: { title: "Result Units(F*Consumption mmol)", field: ["titration", "resultUnitsValue"],
+        min: 0.0001, max: 1000, pattern: num("{0,4}", 4), empty: 1, store: "f4",
+        message: "Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals." },
+    reactionRatio: { title: "Reaction Ratio", field: ["titration", "reactionRatio"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 4), message: MSG_RATIO4, empty: 1, store: "" },
+    reagentReactionRatio: { title: "Reagent Reaction Ratio", field: ["titration", "reagentReactionRatio"],
+        min: 0.00001, max: 1000, pattern: num("{0,4}", 5), empty: 1, store: "",
+        message: "Invalid value. Please enter a value between \n 0.00001 - 1000.0, maximum 5 decimals." },
+    titrantReactionRatio: { title: "Titrant Reaction Ratio", field: ["titration", "titrantReactionRatio"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 4), message: MSG_RATIO4, empty: 1, store: "" },
+    reagentAmountValue: { title: "Reagent Amount", unit: "mmol", field: ["titration", "reagentAmountValue"],
+        min: 0.001, max: 10000, pattern: num("{0,5}", 3), empty: 1, store: "f5",
+        message: "Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals." },
+    reagentMolecularWeight: { title: "Reagent Molecular Weight", unit: "g/mol", field: ["titration", "reagentMolecularWeight"],
+        min: 0.01, max: 100000, pattern: num("{0,6}", 2), message: MSG_MW, store: "" },
+    reagentPurity: { title: "Reagent Purity", unit: "%", field: ["titration", "reagentPurity"],
+        min: 0.01, max: 100, pattern: num("{0,3}", 2), message: MSG_PURITY, empty: 100, store: "" },
+    reagentWeight: { title: "Fixed Reagent Weight", unit: "g", field: ["titration", "reagentWeight"],
+        min: 0.00001, max: 1000, pattern: num("{0,4}", 5), message: MSG_AMOUNT5, empty: 0, store: "" },
+    reagentVolume: { title: "Reagent Volume", unit: "mL", field: ["titration", "reagentVolume"],
+        min: 0.00001, max: 1000, pattern: num("{0,4}", 5), empty: 0, store: "f5",
+        message: "Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals." },
+    reagentConcentration: { title: "Reagent Concentration", unit: "M", field: ["titration", "reagentConcentration"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 4), message: MSG_CONC_M4.replace(", maximum", " with maximum"),
+        empty: 1, store: "f5" },
+    sampleMolecularWeight: { title: "Sample Mol. Wt.", unit: "g/mol", field: ["titration", "sampleMolecularWeight"],
+        min: 0.01, max: 100000, pattern: num("{0,6}", 2), message: MSG_MW, store: "" },
+    fixedSampleWeight: { title: "Sample Amount", unit: "g", field: ["titration", "fixedSampleWeightValue"],
+        min: 0.00001, max: 1000, pattern: num("{0,4}", 5), message: MSG_AMOUNT5, empty: 0, store: "f5" },
+    fixedSampleVolume: { title: "Sample Amount", unit: "mL", field: ["titration", "fixedSampleVolumeValue"],
+        min: 0.001, max: 1000, pattern: num("{0,4}", 3), empty: 0, store: "f5",
+        message: "Invalid value. Please enter a value between \n0.001 - 1000.0 with maximum 3 decimals." },
+    servingNo: { title: "Sample Amount", unit: "servings", field: ["titration", "servingNo"],
+        min: 0.00001, max: 1000, pattern: num("{0,4}", 5), message: MSG_AMOUNT5, empty: 0, store: "f5" },
+    sampleDensity: { title: "Sample Density", unit: "g/mL", field: ["titration", "sampleDensity"],
+        min: 0.001, max: 100, pattern: num("{0,3}", 3), empty: 0, store: "f3",
+        message: "Invalid value. Please enter a value between 0.001 - 100.0 \nwith maximum 3 decimals." },
+    titrationPreDose: { title: "Pre-dose Titrant Volume", unit: "mL", field: ["titration", "preDoseTitrantVolume"],
+        min: 0, maxFromBurette: true, pattern: num("{0,2}", 2), message: MSG_PREDOSE, empty: 0, store: "f2" },
+    titrationMaxVolume: { title: "Max Total Titrant Volume", unit: "mL", field: ["titration", "maxTotalTitrantVolume"],
+        min: 0, max: 100, pattern: num("{0,3}", 2), message: MSG_MAXVOL, empty: 5, store: "f2" },
+    titrationPreStir: { title: "Pre-stir Duration", unit: "sec", field: ["titration", "preStirDuration"],
+        min: 0, max: 10000, pattern: WHOLE, message: MSG_PRESTIR, empty: 0, store: "int" },
+    servingSizeg: { title: "Serving Size", unit: "g", field: ["titration", "servingSize"],
+        min: 0.0001, max: 100, pattern: num("{0,3}", 5), message: MSG_CONC_M5, empty: 1, store: "f3" },
+    servingSizemL: { title: "Serving Size", unit: "mL", field: ["titration", "servingSize"],
+        min: 0.1, max: 100000, pattern: num("{0,6}", 5), message: MSG_CONC_MM5, empty: 1, store: "f3" },
+    totalSolutionVolume: { title: "Total Solution Volume", unit: "mL", field: ["titration", "totalSolutionVolume"],
+        min: 1, max: 10000, pattern: num("{0,5}", 3), empty: 0, store: "t3sig5",
+        message: "Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals." },
+    precisionLevel: { title: "Precision Level", unit: "%", field: ["titration", "mkaProcessControlPrecision"],
+        min: 0.1, max: 20, pattern: num("{0,2}", 1), empty: 2, store: "",
+        message: "Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal." },
+
+    // User defined process control of a titration or standardisation; the
+    // field's object is chosen by the page ("titrant" or "titration").
+    deltaE: { title: "Target ΔE", unit: "mV", field: ["", "deltaE"], min: 0.1, max: 100,
+        pattern: dose("{0,3}", 1), message: MSG_DELTA_E, store: "", decimals: 1 },
+    deltaVmin: { title: "Minimum Dose ΔVmin", unit: "mL", field: ["", "deltaVmin"], min: 0.001, max: 10,
+        pattern: dose("{0,2}", 3), message: MSG_DOSE, store: "", decimals: 3 },
+    deltaVmax: { title: "Maximum Dose ΔVmax", unit: "mL", field: ["", "deltaVmax"], min: 0.001, max: 10,
+        pattern: dose("{0,2}", 3), message: MSG_DOSE, store: "", decimals: 3 },
+    stablityCriteria: { title: "Stability Criteria dE/dt", unit: "mV/min", field: ["", "stablityCriteria"],
+        min: 0.1, max: 200, pattern: dose("{0,3}", 1), message: MSG_STABILITY, store: "", decimals: 3 },
+    tMin: { title: "Minimum Response Time tmin", unit: "sec", field: ["", "tMin"], min: 1, max: 150,
+        pattern: /^\d{0,3}$/, message: MSG_TMIN, store: "int", decimals: 0 },
+    tMax: { title: "Maximum Response Time tmax", unit: "sec", field: ["", "tMax"], min: 1, max: 15000,
+        pattern: /^\d{0,5}$/, message: MSG_TMAX, store: "int", decimals: 0 },
+    threshold: { title: "Threshold", unit: "mV/mL", field: ["", "threshold"], min: 1, max: 20000,
+        pattern: /^\d{0,5}$/, message: MSG_THRESHOLD, store: "int", decimals: 0 },
+
+    // Known addition: the constant increment and the stability are held to
+    // the limits of the titration's target ΔE and dE/dt.
+    mkaConstant: { title: "Constant Increment", unit: "mV", field: ["titration", "mkaProcessControlConstant"],
+        min: 0.1, max: 100, pattern: dose("{0,3}", 1), message: MSG_DELTA_E, empty: 18, store: "", decimals: 1 },
+    mkaMeasurement: { title: "Measurement Stability", unit: "mV/min", field: ["titration", "mkaProcessControlMeasurement"],
+        min: 0.1, max: 200, pattern: dose("{0,3}", 1), message: MSG_STABILITY, empty: 3, store: "", decimals: 1 },
+    mkaTmin: { title: "Tmin", unit: "sec", field: ["titration", "tMin"], min: 1, max: 150,
+        pattern: /^\d{0,3}$/, message: MSG_TMIN, empty: 2, store: "int", decimals: 0 },
+    mkaTmax: { title: "Tmax", unit: "sec", field: ["titration", "tMax"], min: 1, max: 15000,
+        pattern: /^\d{0,5}$/, message: MSG_TMAX, empty: 10, store: "int", decimals: 0 },
+    mkaDVmin: { title: "dVmin", unit: "mL", field: ["titration", "deltaVmin"], min: 0.001, max: 10,
+        pattern: dose("{0,2}", 3), message: MSG_DOSE, empty: 10, store: "", decimals: 3 },
+    mkaDVmax: { title: "dVmax", unit: "mL", field: ["titration", "deltaVmax"], min: 0.001, max: 10,
+        pattern: dose("{0,2}", 3), message: MSG_DOSE, empty: 10, store: "", decimals: 3 }
+}
+
+function entry(key) {
+    var e = entries[key]
+    if (!e)
+        throw new Error("no entry " + key)
+    return e
+}
+
+// The text as typed, with the letters A to Z and a to z taken out.
+function stripLetters(text) {
+    return String(text).replace(/[A-Za-z]/g, "")
+}
+
+function rounded(value, store) {
+    switch (store) {
+    case "f2": return Number(value.toFixed(2))
+    case "f3": return Number(value.toFixed(3))
+    case "f4": return Number(value.toFixed(4))
+    case "f5": return Number(value.toFixed(5))
+    case "sig5": return Number(NumberFormat.sigFigs(value, 5))
+    case "t3sig5": return Number(NumberFormat.sigFigs(Number(value.toFixed(3)), 5))
+    case "int": return Math.round(value)
+    default: return value
+    }
+}
+
+// Checks the text of an entry. ctx.buretteSize bounds the pre-dose volumes.
+// Answers { ok, value, message }: value is what is stored.
+function validate(key, text, ctx) {
+    var e = entry(key)
+    var t = String(text).trim()
+    if (t === "" && e.empty !== undefined)
+        return { ok: true, value: e.empty, message: "" }
+    var max = e.maxFromBurette ? Number(ctx && ctx.buretteSize !== undefined ? ctx.buretteSize : 0) : e.max
+    var body = e.signed ? t.replace(/^[-+]/, "") : t
+    var patternOk = e.pattern ? e.pattern.test(body) : /^\d*(\.\d*)?$/.test(body) && body !== "" && body !== "."
+    var v = parseFloat(t)
+    if (!patternOk || isNaN(v) || v < e.min || v > max)
+        return { ok: false, value: undefined, message: e.message }
+    return { ok: true, value: rounded(v, e.store), message: "" }
+}
+
+// The key of an entry whose limits depend on a unit.
+function keyFor(base, unit) {
+    return base + unit
+}
+
+// Names typed on the method pages. kind: "format" names (electrode,
+// titrant, standard) or "formatNum" identifiers (titrant id, sample ids).
+var SPECIAL = "Special characters are not allowed"
+var names = {
+    electrodeName: { title: "Electrode Name", pattern: "format", max: 14,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
+    titrantName: { title: "User Defined Titrant Name", pattern: "format", max: 14,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
+    titrantID: { title: "Titrant ID", pattern: "formatNum", max: 14, trim: true,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters" },
+    standardName: { title: "User Defined Standard Name", pattern: "format", max: 14,
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric \ncharacters." },
+    sampleIdManual: { title: "Sample ID-Manual", pattern: "formatNum", max: 14, trim: true, blank: "Sample Id cannot be blank",
+        tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
+    sampleIdPrefix: { title: "Sample ID-Auto-Incremental", pattern: "formatNum", max: 10, trim: true, blank: "Sample Id cannot be blank",
+        tooLong: "Invalid name. Please enter up to 10 alphanumeric characters.", noUnderscore: true }
+}
+
+// patterns: { format: RegExp, formatNum: RegExp }. Answers { ok, value, message }.
+function validateName(kind, text, patterns) {
+    var n = names[kind]
+    var t = n.trim ? String(text).replace(/^\s+|\s+$/g, "") : String(text)
+    if (t.length === 0 && n.blank)
+        return { ok: false, message: n.blank }
+    if (t.length === 0 || t.length > n.max)
+        return { ok: false, message: n.tooLong }
+    if (!patterns[n.pattern].test(t) || (n.noUnderscore && t.indexOf("_") >= 0))
+        return { ok: false, message: SPECIAL }
+    return { ok: true, value: t, message: "" }
+}
+
+// The name and password of a method saved from the Methods section: the
+// first message, or "". Fields left at the placeholder count as empty.
+function methodNameMessage(name, password, confirm, formatNum, placeholder) {
+    var n = String(name).replace(/^\s+|\s+$/g, "")
+    var p = password === placeholder ? "" : String(password)
+    var c = confirm === placeholder ? "" : String(confirm)
+    if (n === "" || n === placeholder)
+        return "Method name cannot be empty"
+    if (!formatNum.test(n))
+        return SPECIAL
+    if (n.length > 14)
+        return "Invalid name. Please enter up to 14 alphanumeric  characters."
+    if (p !== "" && c !== "" && p !== c)
+        return "Password & confirm password should be same"
+    if (p.length > 14)
+        return "Invalid Password. Please enter up to 14 alphanumeric characters."
+    if (p !== "" && !formatNum.test(p))
+        return SPECIAL
+    return ""
+}
+
+// The same from home: { message, field } ("name" or "password"), or message "".
+function saveMethodMessage(name, password, formatNum, placeholder) {
+    var n = String(name).replace(/^\s+|\s+$/g, "")
+    var p = password === placeholder ? "" : String(password)
+    if (n === "" || n === placeholder)
+        return { message: "Method Name can't be empty", field: "name" }
+    if (!formatNum.test(n))
+        return { message: SPECIAL, field: "name" }
+    if (p !== "" && !formatNum.test(p))
+        return { message: SPECIAL, field: "password" }
+    if (n.length >= 15 || p.length >= 15)
+        return { message: "Invalid name. Please enter up to 14 alphanumeric characters.", field: "name" }
+    return { message: "", field: "" }
+}

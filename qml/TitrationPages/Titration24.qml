@@ -1,0 +1,118 @@
+import QtQuick 2.12
+import QtQuick.Controls 2.12
+import "../Background"
+import "../Buttons"
+import "../Constants/Colors.js" as Colors
+import "EntryRules.js" as EntryRules
+
+// Name and password of a method ("Create Method" at the end of the wizard
+// from the Methods section). Save stores the method and its three parts
+// and makes it the current method.
+MainContentBackground {
+    id: page
+    objectName: "Create Method"
+    header3Text: qsTr(mode) + ls.translatedText
+
+    property string mode: "Create Method"
+    property string errorMessage: ""
+
+    function openCreate() {
+        mode = "Create Method"
+        nameField.text = ""
+        passwordField.text = ""
+        confirmField.text = ""
+        errorMessage = ""
+        mainWindow.currentStack.push(page)
+    }
+
+    function save() {
+        var name = nameField.text.replace(/^\s+|\s+$/g, "")
+        var message = EntryRules.methodNameMessage(name, passwordField.text, confirmField.text,
+                                                   mainWindow.formatNum, mainWindow.tapToTextString)
+        if (message === "" && dm.methodCount >= 10)
+            message = "Method log is full, new method cannot be saved."
+        if (message !== "") {
+            errorMessage = message
+            return
+        }
+        nameField.focus = false
+        passwordField.focus = false
+        Qt.inputMethod.hide()
+        method.saveMethodValues(name, passwordField.text)
+        if (method.success !== 1) {
+            errorMessage = "The method could not be saved."
+            return
+        }
+        setup.currentMethodId = method.id
+        setup.setSetupValues()
+        titration21.populateModel()
+        methodStack.pop()
+        methodStack.pop()
+        methodStack.pop()
+        dynamicLoader.loadSuccessPopUp(qsTr("Method Saved") + ls.translatedText,
+                                       qsTr("Your method has\nbeen saved as - ") + ls.translatedText + name, "")
+    }
+
+    // The button and the message stand beside the fields, above the keyboard.
+    Column {
+        id: side
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        y: 14
+        width: 150
+        spacing: 10
+        PopupButton {
+            objectName: "createMethodSave"
+            width: side.width
+            text: qsTr("Save") + ls.translatedText
+            onClicked: page.save()
+        }
+        Text {
+            width: side.width
+            wrapMode: Text.WordWrap
+            color: Colors.orangepeelColor
+            font.family: "Roboto"
+            font.pixelSize: 14
+            text: page.errorMessage === "" ? "" : qsTr(page.errorMessage) + ls.translatedText
+        }
+    }
+    Column {
+        id: form
+        x: 30
+        y: 14
+        width: side.x - 30 - 20
+        spacing: 4
+        Text { text: qsTr("Method Name") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        TextField {
+            id: nameField
+            objectName: "methodNameField"
+            width: form.width
+            height: 44
+            maximumLength: 20
+            placeholderText: mainWindow.tapToTextString
+            onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
+        }
+        Text { text: qsTr("Password (Optional)") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        TextField {
+            id: passwordField
+            objectName: "passwordField"
+            width: form.width
+            height: 44
+            maximumLength: 20
+            echoMode: TextInput.Password
+            placeholderText: mainWindow.tapToTextString
+            onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
+        }
+        Text { text: qsTr("Confirm Password") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        TextField {
+            id: confirmField
+            objectName: "confirmPasswordField"
+            width: form.width
+            height: 44
+            maximumLength: 20
+            echoMode: TextInput.Password
+            placeholderText: mainWindow.tapToTextString
+            onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
+        }
+    }
+}

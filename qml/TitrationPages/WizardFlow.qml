@@ -1,0 +1,63 @@
+import QtQuick 2.12
+import "WizardRows.js" as WizardRows
+
+// The ends of the method wizard. From the Methods section the new method is
+// named and saved ("Create Method"); a stored method being edited is written
+// over in place; from home the setup is kept and the save offer comes up
+// before the run.
+QtObject {
+    id: flow
+
+    function reInitializeWizard() {
+        var pages = [titration04, titration05, titration06, titrantSetupMka, titrationSetupMka]
+        for (var i = 0; i < pages.length; ++i)
+            pages[i].reInitializeUI()
+    }
+
+    // The first refusal of a finished titration page, shown; false if any.
+    function check(mka) {
+        var message = WizardRows.finishCheck({ reactionRatio: titration.reactionRatio, resultUnits: titration.resultUnits,
+                                               sampleMolecularWeight: titration.sampleMolecularWeight,
+                                               sampleAmount: titration.sampleAmount,
+                                               sampleAmountValue: titration.sampleAmountValue,
+                                               sampleDensity: titration.sampleDensity }, mka)
+        if (message === "")
+            return true
+        dynamicLoader.loadTitrationValidationPopUp(qsTr("Error") + ls.translatedText, qsTr(message) + ls.translatedText, "")
+        return false
+    }
+
+    function setSampleIdValuePopup() {
+        if (titration.sampleID === "Manual")
+            titration.sampleIDValue = ""
+    }
+
+    function saveParts() {
+        electrode.setElectrodeSetupValues()
+        titrant.setTitrantSetupValues(electrode.electrodeType, true)
+        return titration.setTitrationSetupValues(electrode.electrodeType)
+    }
+
+    function finish(mka) {
+        if (!check(mka))
+            return
+        var stack = mainWindow.currentStack
+        if (titration04.editingMethodId > 0) {
+            saveParts()
+            titration04.editingMethodId = 0
+            titration21.populateModel()
+            stack.pop(null)
+            dynamicLoader.loadSuccessPopUp(qsTr("Method Updated") + ls.translatedText,
+                                           method.methodName + qsTr(" - has been saved with your new settings.") + ls.translatedText, "")
+            return
+        }
+        if (stack === methodStack) {
+            titration24.openCreate()
+            return
+        }
+        mainWindow.fromHomeStack = false
+        titration.setTitrationSetupValues(electrode.electrodeType)
+        setSampleIdValuePopup()
+        mainWindow.offerSaveMethod()
+    }
+}
