@@ -192,6 +192,11 @@ ApplicationWindow {
     // ---- full-screen layer ------------------------------------------------
     // The run screens start their first cycle as they open.
     function showFullscreenOn(view) {
+        // The screen hidden last is reset first, should its fade still be on.
+        if (fullscreenHideTimer.running) {
+            fullscreenHideTimer.stop()
+            resetFullscreen()
+        }
         currentFullscreen = view
         fullscreenContainer.visible = true
         fullscreenContainer.enabled = true

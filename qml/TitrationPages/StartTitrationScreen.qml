@@ -273,6 +273,8 @@ Rectangle {
         valueAxisY.max = 1
         processListview.clearList()
         mkaPageReset(true)
+        // A run left by the close cross keeps none of its cycles for the next.
+        dm.initializeTitration()
         cycleIndex = 1
         imagePending = false
         updateCycleButtonText()
@@ -377,8 +379,9 @@ Rectangle {
         Text {
             id: closeButton
             objectName: "runCloseButton"
+            // left of the window's screenshot corner (x 600 on), which takes every tap there
             anchors.right: parent.right
-            anchors.rightMargin: 8
+            anchors.rightMargin: 48
             anchors.verticalCenter: parent.verticalCenter
             width: 40
             height: 40

@@ -16,6 +16,7 @@ Item {
     property bool isMka: false
     property bool fromLog: false
     property string averageLabel: ""
+    property string concTitle: qsTr("Conc. (") + unit + ")"
     property var average: 0
     property var average2: 0
     property var average3: 0
@@ -80,10 +81,10 @@ Item {
         width: parent.width
         height: 30
         Repeater {
-            model: view.isMka ? [qsTr("Cycle"), qsTr("Conc. (") + view.unit + ")", qsTr("Slope"), qsTr("Prec. %"), qsTr("Incl. in Avg")]
-                              : [qsTr("Cycle"), qsTr("Initial ") + view.initialTitle, qsTr("Conc. (") + view.unit + ")", qsTr("Vol. (mL)"), qsTr("Incl. in Avg")]
+            model: view.isMka ? [qsTr("Cycle"), view.concTitle, qsTr("Slope"), qsTr("Prec. %"), qsTr("Incl. in Avg")]
+                              : [qsTr("Cycle"), qsTr("Initial ") + view.initialTitle, view.concTitle, qsTr("Vol. (mL)"), qsTr("Incl. in Avg")]
             Text {
-                width: [60, 110, 130, 110, 100][index]
+                width: (view.isMka ? [52, 146, 110, 100, 102] : [52, 100, 146, 110, 102])[index]
                 height: 30
                 verticalAlignment: Text.AlignVCenter
                 elide: Text.ElideRight
@@ -109,9 +110,9 @@ Item {
             color: index % 2 ? Colors.whiteSmokeColor : Colors.whiteColor
             Row {
                 height: parent.height
-                Text { width: 60; anchors.verticalCenter: parent.verticalCenter; text: cycleNo; font.pixelSize: 16; color: Colors.deeptangaroaColor }
+                Text { width: 52; anchors.verticalCenter: parent.verticalCenter; text: cycleNo; font.pixelSize: 16; color: Colors.deeptangaroaColor }
                 Text {
-                    width: 110
+                    width: 100
                     anchors.verticalCenter: parent.verticalCenter
                     visible: !view.isMka
                     text: initial
@@ -119,7 +120,7 @@ Item {
                     color: Colors.deeptangaroaColor
                 }
                 Text {
-                    width: 130
+                    width: 146
                     anchors.verticalCenter: parent.verticalCenter
                     text: {
                         var t = []
@@ -132,7 +133,7 @@ Item {
                 }
                 Text { width: 110; anchors.verticalCenter: parent.verticalCenter; text: second; font.pixelSize: 16; color: Colors.deeptangaroaColor }
                 Text {
-                    width: 110
+                    width: 100
                     anchors.verticalCenter: parent.verticalCenter
                     visible: view.isMka
                     text: initial

@@ -50,6 +50,20 @@ MainContentBackground {
         titrationStack.push(titration03)
     }
 
+    // The last setup's parts: the titration runs again, a standardised
+    // titrant is standardised again, the electrode goes to its calibration
+    // (the calibration screens' loader, where they are installed).
+    function tileTapped(tile) {
+        if (tile === "titrationTile") {
+            mainWindow.isHomeTitrationButton = true
+            repeatLastTitration()
+        } else if (tile === "titrantTile" && titrant.concInputMode !== "Manual Entry") {
+            titrationPreCheck.standardize()
+        } else if (tile === "electrodeTile" && typeof dynamicLoader.loadElectrodeCalibrationWithSetup === "function") {
+            dynamicLoader.loadElectrodeCalibrationWithSetup()
+        }
+    }
+
     function useSavedMethod() {
         sideBar.switchToMethods()
         methodStack.pop(titration21)
@@ -165,12 +179,7 @@ MainContentBackground {
                     MouseArea {
                         id: tileArea
                         anchors.fill: parent
-                        onClicked: {
-                            if (modelData.id === "titrationTile") {
-                                mainWindow.isHomeTitrationButton = true
-                                page.repeatLastTitration()
-                            }
-                        }
+                        onClicked: page.tileTapped(modelData.id)
                     }
                 }
             }

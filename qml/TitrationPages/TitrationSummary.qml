@@ -41,6 +41,7 @@ MainContentBackground {
         summary.endPoints = isMka ? 1 : Math.max(1, titration.noOfEndPoints)
         summary.initialTitle = titration.displayUnits === "pH" && electrode.electrodeType === "pH" ? "pH" : "mV"
         summary.averageLabel = blankMode ? qsTr("Avg Blank(mmol)") : qsTr("Avg Conc. (") + resultUnit() + ")"
+        summary.concTitle = blankMode ? qsTr("Blank Value(mmol)") : qsTr("Conc. (") + resultUnit() + ")"
         var decimals = RunMath.countDecimal(electrode.resolution)
         var i
         if (isMka) {
@@ -113,8 +114,11 @@ MainContentBackground {
             titrationLogModel.rsd = rsdStored
             titrationLogModel.updateLog()
             if (page.blankMode) {
+                // The blank's average becomes the method's blank, which the
+                // start of a back titration waits for.
                 titration.updateMethodTable(method.id, summary.average)
                 titrationLogModel.saveBlankConc(summary.average)
+                dm.reInitializeMethodModel(method.id)
             }
         }
     }

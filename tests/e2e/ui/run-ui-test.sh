@@ -2,7 +2,8 @@
 # Runs one UI driver script of this folder against the real application and
 # the virtual instrument: run-ui-test.sh NAME. The sandbox is new for each
 # test. NAME.seed.sql, when present, is applied to the database of a first
-# start before the script runs, and methods/NAME.json is installed after it;
+# start before the script runs (methods/instrument.seed.sql for a script with
+# a method of its own), and methods/NAME.json is installed after it;
 # NAME.args holds extra options of scripts/run.
 # NAME.setup SANDBOX, when present, prepares the sandbox before the start,
 # and NAME.check SANDBOX looks at it (and at driver.log, the driver's
@@ -20,10 +21,13 @@ shots="$root/build/ui-shots/$name"
 mkdir -p "$shots"
 cd "$shots"
 
-if [ -f "$here/$name.seed.sql" ]; then
+seed="$here/$name.seed.sql"
+# A script with a method of its own runs on an instrument that is set up.
+if [ ! -f "$seed" ] && [ -f "$here/methods/$name.json" ]; then seed="$here/methods/instrument.seed.sql"; fi
+if [ -f "$seed" ]; then
   # A first start makes the tables; the seed then sets the instrument up.
   "$root/scripts/run" --drive "$here/boot.ui" >/dev/null
-  sed "s/@INSTRUMENT@/Bench 1/" "$here/$name.seed.sql" | sqlite3 "$sandbox/var/KestrumDB"
+  sed "s/@INSTRUMENT@/Bench 1/" "$seed" | sqlite3 "$sandbox/var/KestrumDB"
 fi
 # methods/NAME.json, a method file, goes on the instrument as a user would
 # put it there without a USB disk.
