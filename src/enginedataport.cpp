@@ -462,7 +462,7 @@ float EngineDataPort::recordRunPoint(float volumeMl)
     TitrationCycleModel *cycle = r->currentTitrationCycle();
     if (volumeMl == 0.0f)
         cycle->setInitialpH(QString::number(double(value)));
-    cycle->setSampleId(titration()->sampleID());
+    cycle->setSampleId(titration()->sampleIDValue());
     cycle->setTitrationId(r->id());
     emit changed();
     cycle->addPoint(volumeMl, value, electrode()->resolution(), titration()->displayUnits());
