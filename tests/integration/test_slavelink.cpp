@@ -51,14 +51,6 @@ protected:
 
 } // namespace
 
-TEST_F(SerialLink, VersionAndSerialArrive)
-{
-    ASSERT_TRUE(vi.start(kAcetic, 5)) << vi.errorText().toStdString();
-    auto msp = connect(5);
-    ASSERT_TRUE(waitUntil([&] { return data.dm.engine()->getMspVersion() == QLatin1String("1.07"); }));
-    EXPECT_EQ(data.dm.getMfgSerialNum(), QStringLiteral("VP400-0042"));
-}
-
 TEST_F(SerialLink, PollRunsEveryQuarterSecondOnTheInstrumentsClock)
 {
     ASSERT_TRUE(vi.start(kAcetic, 4)) << vi.errorText().toStdString();
@@ -116,22 +108,6 @@ TEST_F(SerialLink, DoseMovesThePistonAndTheMillivoltsFollowTheChemistry)
         msp->msp->queryBurette();
         return !msp->msp->isBuretteBusy() && msp->msp->isBuretteAtLoad();
     }, 20000));
-}
-
-TEST_F(SerialLink, InstrumentGoneAndBack)
-{
-    ASSERT_TRUE(vi.start(kAcetic, 10)) << vi.errorText().toStdString();
-    auto msp = connect(10);
-    ASSERT_TRUE(waitUntil([&] { return samples.t.size() >= 2; }));
-    vi.stop();
-    ASSERT_TRUE(waitUntil([&] { return !msp->portIsOpen(); }));
-    const size_t seen = samples.t.size();
-
-    QString other = QString::fromLatin1(kAcetic);
-    other.replace(QStringLiteral("\"1.07\""), QStringLiteral("\"2.00\""));
-    ASSERT_TRUE(vi.start(other, 10)) << vi.errorText().toStdString();
-    ASSERT_TRUE(waitUntil([&] { return data.dm.engine()->getMspVersion() == QLatin1String("2.00"); }, 10000));
-    ASSERT_TRUE(waitUntil([&] { return samples.t.size() > seen + 2; }));
 }
 
 // The electrode goes from one buffer into another while the link runs: the
