@@ -3,7 +3,7 @@
 # the virtual instrument: run-ui-test.sh NAME. The sandbox is new for each
 # test. NAME.seed.sql, when present, is applied to the database of a first
 # start before the script runs (methods/instrument.seed.sql for a script with
-# a method of its own), and methods/NAME.json is installed after it;
+# a method of its own), and methods/base.json changed by methods/NAME.json is installed after it;
 # NAME.args holds extra options of scripts/run.
 # NAME.setup SANDBOX, when present, prepares the sandbox before the start,
 # and NAME.check SANDBOX looks at it (and at driver.log, the driver's
@@ -31,8 +31,19 @@ if [ -f "$seed" ]; then
 fi
 # methods/NAME.json, a method file, goes on the instrument as a user would
 # put it there without a USB disk.
+# The file is methods/base.json with what methods/NAME.json changes in it
+# (table, row, column).
 if [ -f "$here/methods/$name.json" ]; then
-  "$root/build/bin/vantor-cli" method install "$here/methods/$name.json" --sandbox "$sandbox"
+  python3 - "$here/methods/base.json" "$here/methods/$name.json" "$sandbox/method.json" <<'PY'
+import json, sys
+def merge(a, o):
+    if isinstance(a, dict) and isinstance(o, dict):
+        return {**a, **{k: merge(a.get(k), v) for k, v in o.items()}}
+    return o
+base, overlay = (json.load(open(f, encoding="utf-8")) for f in sys.argv[1:3])
+json.dump(merge(base, overlay), open(sys.argv[3], "w", encoding="utf-8"))
+PY
+  "$root/build/bin/vantor-cli" method install "$sandbox/method.json" --sandbox "$sandbox"
 fi
 if [ -f "$here/$name.setup" ]; then bash "$here/$name.setup" "$sandbox"; fi
 args=()
