@@ -3,6 +3,7 @@
 // doses, the stirrer and the chart feed. The slave link writes into a
 // buffer, so every command the controller sends can be read back.
 
+#include "algorithmdriver.h"
 #include "beaker.h"
 #include "controller/algorithms/temporaldatastore.h"
 #include "controller/algorithms/titrationalgmillivolt.h"
@@ -44,39 +45,15 @@ double inProcessRun(EngineDataStandIn &dm, ManualClock &clock, const QString &cu
     TemporalDataStore temporal;
     VolumetricDataStore volumetric;
     TitrationAlgMillivolt algorithm(&temporal, &volumetric);
-    double delivered = 0.0, electrode = beaker.potentialMv(0.0);
-    qint64 dispenseEnds = -1;
-    bool wait = false;
-    for (int k = 0; k < 100000 && !algorithm.isFinished(); ++k) {
-        clock.advance(250);
-        const qint64 now = clock.monotonicMs();
-        if (dm.dispenseInProgress && now >= dispenseEnds) {
-            dm.dispenseInProgress = false;
-            algorithm.dispenseComplete();
-            wait = false;
-        }
-        electrode += (beaker.potentialMv(delivered / 1000.0) - electrode) * 0.15;
-        temporal.addPoint(long(now), electrode);
-        if (k < 3)
-            continue;
-        if (k == 3)
-            algorithm.onStart();
-        if (!dm.dispenseInProgress && wait)
-            continue;
-        const unsigned int dose = algorithm.run();
-        if (dose > 0) {
-            delivered += dose;
-            dm.dispenseInProgress = true;
-            dispenseEnds = now + qint64(dose) * 3 + 250;
-            wait = true;
-        }
-    }
-    EXPECT_TRUE(algorithm.isFinished());
+    AlgorithmDriver driver(clock, dm);
+    const AlgorithmDriver::Outcome out =
+        driver.run(algorithm, temporal, [&](double ml) { return beaker.potentialMv(ml); });
+    EXPECT_TRUE(out.finished);
     QString text = QStringLiteral("volume uL, mV\n");
     for (int i = 0; i < volumetric.size(); ++i)
         text += QStringLiteral("%1,%2\n").arg(volumetric.volumeAt(i), 0, 'f', 0).arg(volumetric.dataAt(i), 0, 'g', 17);
     writeTextFile(curveFile, text);
-    return algorithm.getResults()[0];
+    return out.results[0];
 }
 
 class RunController : public ::testing::Test
