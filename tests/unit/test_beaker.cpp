@@ -11,62 +11,46 @@
 
 namespace {
 
-AcidBaseBeaker aceticAcid()
+AcidBaseBeaker::Params withPKa(double pKa)
 {
-    AcidBaseBeaker::Params p; // 50 mL 0.1 mol/L acetic acid, 0.1 mol/L NaOH
-    return AcidBaseBeaker(p);
+    AcidBaseBeaker::Params p; // 50 mL of 0.1 mol/L acid, 0.1 mol/L NaOH
+    p.pKa = {pKa};
+    return p;
+}
+
+AcidBaseBeaker::Params ammonia()
+{
+    AcidBaseBeaker::Params p = withPKa(9.25); // ammonium / ammonia
+    p.acidCharge = 1;                         // NH4+ is the protonated form
+    p.startsAsAcid = false;
+    p.titrantIsBase = false;
+    return p;
 }
 
 } // namespace
 
-TEST(AcidBase, AceticAcidAlone)
+TEST(AcidBase, PhAgainstHandValues)
 {
-    // [H+] = sqrt(Ka * C) = sqrt(1.74e-5 * 0.1): pH 2.88.
-    EXPECT_NEAR(aceticAcid().pH(0.0), 2.88, 0.01);
-}
-
-TEST(AcidBase, AceticAcidEquivalencePoint)
-{
-    // 0.05 mol/L acetate: pOH = (pKb - log C) / 2 = (9.24 + 1.30) / 2, pH 8.73.
-    EXPECT_NEAR(aceticAcid().pH(50.0), 8.73, 0.02);
-}
-
-TEST(AcidBase, AceticAcidBufferRegion)
-{
-    // Henderson-Hasselbalch holds well inside the buffer region.
-    const AcidBaseBeaker b = aceticAcid();
-    EXPECT_NEAR(b.pH(25.0), 4.76, 0.01);
-    EXPECT_NEAR(b.pH(5.0), 4.76 + std::log10(5.0 / 45.0), 0.01);
-    // Past the equivalence point the excess hydroxide rules: 10 mL excess in
-    // 110 mL.
-    EXPECT_NEAR(b.pH(60.0), 14.0 + std::log10(0.1 * 10.0 / 110.0), 0.01);
-}
-
-TEST(AcidBase, StrongAcidAtHalfNeutralisation)
-{
-    AcidBaseBeaker::Params p;
-    p.pKa = {-6.0}; // hydrochloric acid: fully dissociated
-    const AcidBaseBeaker b(p);
-    // 2.5 mmol of 5 left in 75 mL: [H+] = 0.0333, pH 1.48.
-    EXPECT_NEAR(b.pH(25.0), -std::log10(2.5 / 75.0), 0.005);
-    EXPECT_NEAR(b.pH(0.0), 1.0, 0.005);
-    EXPECT_NEAR(b.pH(50.0), 7.0, 0.02);
-}
-
-TEST(AcidBase, WeakBaseTitratedWithStrongAcid)
-{
-    AcidBaseBeaker::Params p;
-    p.pKa = {9.25};       // ammonium / ammonia
-    p.acidCharge = 1;     // NH4+ is the protonated form
-    p.startsAsAcid = false;
-    p.titrantIsBase = false;
-    const AcidBaseBeaker b(p);
-    // 0.1 mol/L ammonia: pOH = (4.75 + 1) / 2, pH 11.12.
-    EXPECT_NEAR(b.pH(0.0), 11.12, 0.02);
-    // Half neutralised: pH = pKa.
-    EXPECT_NEAR(b.pH(25.0), 9.25, 0.01);
-    // Equivalence: 0.05 mol/L ammonium, pH = (9.25 + 1.30) / 2.
-    EXPECT_NEAR(b.pH(50.0), 5.28, 0.02);
+    struct Point {
+        const char *what;
+        AcidBaseBeaker::Params sample;
+        double ml, pH, tolerance;
+    };
+    const Point points[] = {
+        {"acetic acid alone: [H+] = sqrt(Ka C)", withPKa(4.76), 0.0, 2.88, 0.01},
+        {"acetate at equivalence: pOH = (pKb - log C) / 2", withPKa(4.76), 50.0, 8.73, 0.02},
+        {"half neutralised: Henderson-Hasselbalch", withPKa(4.76), 25.0, 4.76, 0.01},
+        {"a tenth neutralised", withPKa(4.76), 5.0, 4.76 + std::log10(5.0 / 45.0), 0.01},
+        {"10 mL excess of hydroxide in 110 mL", withPKa(4.76), 60.0, 14.0 + std::log10(0.1 * 10.0 / 110.0), 0.01},
+        {"hydrochloric acid alone", withPKa(-6.0), 0.0, 1.0, 0.005},
+        {"2.5 mmol of HCl left in 75 mL", withPKa(-6.0), 25.0, -std::log10(2.5 / 75.0), 0.005},
+        {"strong acid at equivalence", withPKa(-6.0), 50.0, 7.0, 0.02},
+        {"0.1 mol/L ammonia: pOH = (4.75 + 1) / 2", ammonia(), 0.0, 11.12, 0.02},
+        {"ammonia half neutralised", ammonia(), 25.0, 9.25, 0.01},
+        {"0.05 mol/L ammonium: pH = (9.25 + 1.30) / 2", ammonia(), 50.0, 5.28, 0.02},
+    };
+    for (const Point &p : points)
+        EXPECT_NEAR(AcidBaseBeaker(p.sample).pH(p.ml), p.pH, p.tolerance) << p.what;
 }
 
 TEST(AcidBase, PhosphoricAcidHasTwoVisibleSteps)
