@@ -16,6 +16,7 @@
 #include "models/titrationlogmodel.h"
 #include "models/titrationmodel.h"
 #include "consolepipe.h"
+#include "homecalibrationstate.h"
 #include "loglists.h"
 #include "methodlibrary.h"
 #include "productidentity.h"
@@ -341,6 +342,7 @@ signals:
     void standLogListChanged();
     void calibrationLogListChanged();
     void measuresChanged();
+    void lastCalibrationChanged();
     void sigMKAPointsToUI(QString volume, QString mV, QString calConc, QString precision, QString drift, QString slope,
                           QString E0);
     void mkaTitrationCompleted(QString avgConc, QString slope, QString spike);
@@ -407,6 +409,10 @@ private:
     Q_PROPERTY(CalibrationModel *calibrationModel READ calibrationModel NOTIFY valueChanged)
     Q_PROPERTY(CalibrationCycleModel *calibrationCycleModel READ calibrationCycleModel NOTIFY valueChanged)
     Q_PROPERTY(QQmlListProperty<CalibrationCycleModel> calibrationcycles READ calibrationcycles NOTIFY valueChanged)
+    // Home's line on the calibration (HomeCalibrationState).
+    Q_PROPERTY(QDateTime LastTitrationCalibrationTime READ lastTitrationCalibrationTime NOTIFY lastCalibrationChanged)
+    Q_PROPERTY(QString LastTitrationCalAvg READ lastTitrationCalAvg NOTIFY lastCalibrationChanged)
+    Q_PROPERTY(bool LastTitrationCalVisible READ lastTitrationCalVisible NOTIFY lastCalibrationChanged)
 
 public:
     // Made on first use, with the meter state row loaded.
@@ -416,6 +422,9 @@ public:
     CalibrationCycleModel *calibrationCycleModel() override;
     QQmlListProperty<CalibrationCycleModel> calibrationcycles();
     const QList<CalibrationCycleModel *> &calibrationCycleList() override;
+    QDateTime lastTitrationCalibrationTime() const { return m_homeCalibration->time(); }
+    QString lastTitrationCalAvg() const { return m_homeCalibration->averageText(); }
+    bool lastTitrationCalVisible() const { return m_homeCalibration->visible(); }
     // One finished point of the calibration in hand, into memory.
     void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp) override;
 
@@ -429,6 +438,9 @@ public slots:
     void loadCalibrationPoints(int calId);
     void deleteCalibrationModelAndPoints();
     void insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset);
+    // Home's calibration line, for the method's electrode (the meter's read
+    // mode while no method is in use).
+    void getLastCalibrationTimeForTitration();
     // The current reading into the measurement log and the meter state row.
     bool logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn);
 
@@ -436,5 +448,6 @@ private:
     void meterFreshData();
 
     MeterRecords *m_meterRecords = nullptr;
+    HomeCalibrationState *m_homeCalibration = nullptr;
     QList<CalibrationCycleModel *> m_calibrationcycles;
 };

@@ -16,3 +16,4 @@ var warning = "\ue002"     // warning
 var done = "\ue86c"        // check_circle
 var error = "\ue000"       // error
 var usb = "\ue1e0"         // usb
+var timer = "\ue425"       // timer (a reading still settling)
