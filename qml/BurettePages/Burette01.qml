@@ -21,7 +21,8 @@ MainContentBackground {
 
     function loadModelData() {
         sizeRow.select(setup.buretteSize + " mL")
-        dateRow.value = setup.installationDate.length > 0 ? displayValues.formatStringDate(setup.installationDate) : ""
+        dateRow.value = setup.installationDate.length > 0 ? displayValues.formatStringDate(setup.installationDate)
+                                                          : qsTr("Not set") + ls.translatedText
     }
 
     function rinseTapped() {

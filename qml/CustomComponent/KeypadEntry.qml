@@ -26,7 +26,7 @@ Item {
         messageText.text = ""
         refusedTimer.stop()
         field.border.color = Colors.lineColor
-        forceActiveFocus()
+        Qt.callLater(takeFocus)
     }
     function refuse(message) {
         messageText.text = message
@@ -36,22 +36,28 @@ Item {
     function press(key) {
         messageText.text = ""
         if (key === "⌫")
-            text = text.slice(0, -1)
+            keypad.text = keypad.text.slice(0, -1)
         else if (key === "-")
-            text = text.indexOf("-") === 0 ? text.slice(1) : "-" + text
-        else if (text.length < maxLength)
-            text += key
+            keypad.text = keypad.text.indexOf("-") === 0 ? keypad.text.slice(1) : "-" + keypad.text
+        else if (keypad.text.length < maxLength)
+            keypad.text += key
     }
 
+    // Typed keys reach the keypad once the page is on show (the stack
+    // settles its focus after the push).
+    function takeFocus() {
+        if (visible)
+            forceActiveFocus()
+    }
     focus: visible
-    onVisibleChanged: if (visible) forceActiveFocus()
+    onVisibleChanged: Qt.callLater(takeFocus)
     Keys.onPressed: {
         if (event.key === Qt.Key_Backspace)
-            press("⌫")
+            keypad.press("⌫")
         else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
             keypad.accepted(keypad.text)
-        else if (/^[0-9.]$/.test(event.text) || (event.text === "-" && allowMinus))
-            press(event.text)
+        else if (/^[0-9.]$/.test(event.text) || (event.text === "-" && keypad.allowMinus))
+            keypad.press(event.text)
         event.accepted = true
     }
 
@@ -130,7 +136,8 @@ Item {
                 width: 60
                 height: 52
                 radius: 4
-                visible: modelData !== "-" || keypad.allowMinus
+                opacity: modelData !== "-" || keypad.allowMinus ? 1 : 0
+                enabled: opacity > 0
                 color: keyArea.pressed ? Colors.zirconColor : Colors.whiteColor
                 border.color: Colors.lineColor
                 Text {

@@ -36,14 +36,19 @@ MainContentBackground {
             return
         }
         var unit = MeterFormat.slopeUnit(electrodeType)
+        var values = [], offsets = []
         for (var i = 0; i < cycles.length; ++i) {
             var p = cycles[i]
             calibrationCycles.push(p)
+            values.push(p.calValue)
+            offsets.push(p.offset)
             var last = electrodeType === "Redox" ? p.offset.toFixed(1) + " mV" : p.slope.toFixed(1) + (unit ? " " + unit : "")
             pointsModel.append({ point: String(i + 1), value: pointValueText(p), mv: p.voltage.toFixed(1) + " mV",
                                  temp: p.temperature.toFixed(1) + " °C", slope: last })
         }
         dateText.text = cycles[cycles.length - 1].timestamp
+        offsetText.text = electrodeType === "pH" ? qsTr("Offset") + ls.translatedText + ": "
+                                                   + MeterFormat.phOffset(values, offsets).toFixed(1) + " mV" : ""
         updateAvgSlopeValue()
         refreshTimer.restart()
     }
@@ -102,13 +107,24 @@ MainContentBackground {
             color: Colors.slateColor
             text: (page.electrodeName.length > 0 ? page.electrodeName + "  |  " : "") + dateText.text
         }
-        Text {
-            id: averageText
-            objectName: "averageSlope"
-            font.family: "Roboto"
-            font.pixelSize: 19
-            font.weight: Font.Medium
-            color: Colors.deeptangaroaColor
+        Row {
+            spacing: 32
+            Text {
+                id: averageText
+                objectName: "averageSlope"
+                font.family: "Roboto"
+                font.pixelSize: 19
+                font.weight: Font.Medium
+                color: Colors.deeptangaroaColor
+            }
+            Text {
+                id: offsetText
+                objectName: "phOffset"
+                font.family: "Roboto"
+                font.pixelSize: 19
+                font.weight: Font.Medium
+                color: Colors.deeptangaroaColor
+            }
         }
         Text { id: dateText; visible: false }
     }

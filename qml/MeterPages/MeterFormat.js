@@ -46,6 +46,16 @@ function calibrationText(value, readMode, decimals, significantDigits) {
     return valueText(value, readMode, decimals, significantDigits)
 }
 
+// The electrode's offset, its mV at pH 7: that of the segment holding pH 7
+// (points sorted by value), else of the first point.
+function phOffset(values, offsets) {
+    for (var i = 0; i + 1 < values.length; ++i) {
+        if (values[i] <= 7 && values[i + 1] >= 7)
+            return offsets[i]
+    }
+    return offsets.length > 0 ? offsets[0] : 0
+}
+
 function slopeUnit(electrodeType) {
     if (electrodeType === "pH")
         return "%"

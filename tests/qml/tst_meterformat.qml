@@ -103,4 +103,10 @@ TestCase {
         compare(MeterFormat.checkInstallationDate(new Date(2026, 10, 24), today), "The installation date cannot be in the future.")
         compare(MeterFormat.checkInstallationDate(new Date(1999, 11, 31), today), "The installation date cannot be before 2000.")
     }
+
+    function test_phOffset() {
+        compare(MeterFormat.phOffset([4.01, 7.0, 10.01], [6.5, 6.2, 6.0]), 6.5)
+        compare(MeterFormat.phOffset([7.0, 10.01], [6.2, 6.0]), 6.2)
+        compare(MeterFormat.phOffset([9.18, 10.01], [4.0, 6.0]), 4.0)
+    }
 }
