@@ -14,9 +14,11 @@ MainContentBackground {
 
     property bool userEditCalValue: false
     property bool stable: false
+    property string calibrationType: "pH"
 
     function updateHeader() {
         header3Text = measure02.header3Text
+        calibrationType = stack.calibrationType()
         refresh()
     }
 
@@ -81,6 +83,9 @@ MainContentBackground {
         }
     }
 
+    // Back from the standard's value: the edited value shows.
+    onVisibleChanged: if (visible) refresh()
+
     Timer {
         id: blink
         interval: 500
@@ -126,7 +131,7 @@ MainContentBackground {
             font.family: "Roboto"
             font.pixelSize: 15
             color: Colors.slateColor
-            text: stack.calibrationType() === "pH" ? qsTr("Buffer") + ls.translatedText : qsTr("Standard") + ls.translatedText
+            text: page.calibrationType === "pH" ? qsTr("Buffer") + ls.translatedText : qsTr("Standard") + ls.translatedText
         }
         Row {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -147,7 +152,7 @@ MainContentBackground {
                 font.family: "Roboto"
                 font.pixelSize: 24
                 color: Colors.slateColor
-                text: stack.calibrationType() === "pH" ? "pH" : stack.calibrationType() === "Redox" ? "mV"
+                text: page.calibrationType === "pH" ? "pH" : page.calibrationType === "Redox" ? "mV"
                       : (dm.calibrationModel ? dm.calibrationModel.directMeasureUnit : "")
             }
         }

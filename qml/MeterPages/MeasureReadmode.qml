@@ -111,6 +111,8 @@ MainContentBackground {
     // The meter reads for this page whenever it is on show.
     onVisibleChanged: {
         if (visible) {
+            // Settled again from the next samples on.
+            stable = false
             dm.deviceMode = "Measurement"
             lastCalibrationText = method.lastCalibration.length > 0 ? method.lastCalibration : ""
         }
