@@ -55,7 +55,7 @@ void CalibrationLogModel::saveLogValues(const QVariantMap &calibration)
 
 bool CalibrationLogModel::saveLogValues(bool isDataLogNotifOn, CalibrationModel *calibration)
 {
-    if (!calibration || calibration->id() <= 0) {
+    if (!calibration || !calibration->isStored()) {
         qDebug() << "calibrationLog: no stored calibration to log";
         return false;
     }
