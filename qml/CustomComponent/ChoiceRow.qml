@@ -44,6 +44,14 @@ Rectangle {
         font.pixelSize: 16
         model: row.options
         onActivated: row.chosen(index, textAt(index))
+        // The list opens and closes at once, and a tap beside it only
+        // closes it: the page under it never takes that tap.
+        Component.onCompleted: {
+            popup.enter = null
+            popup.exit = null
+            popup.modal = true
+            popup.dim = false
+        }
     }
     Rectangle {
         anchors.bottom: parent.bottom

@@ -2,7 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
-import "../Constants/Icons.js" as Icons
+import "../CustomComponent"
 import "MeterFormat.js" as MeterFormat
 
 // The live point of a calibration: the recognised buffer or the standard's
@@ -42,20 +42,14 @@ MainContentBackground {
     }
     function unStableCalibration() {
         showButtons(false)
-        if (!blink.running)
-            blink.start()
         refresh()
     }
     function stableCalibration() {
         showButtons(true)
-        blink.stop()
-        timerMark.opacity = 1
         refresh()
     }
     function stopMeasure() {
         showButtons(true)
-        blink.stop()
-        timerMark.opacity = 1
         if (dm.calibrationModel)
             dm.calibrationModel.isCalibrationRunning = false
         mc.qmlStopCalibration()
@@ -86,12 +80,6 @@ MainContentBackground {
     // Back from the standard's value: the edited value shows.
     onVisibleChanged: if (visible) refresh()
 
-    Timer {
-        id: blink
-        interval: 500
-        repeat: true
-        onTriggered: timerMark.opacity = timerMark.opacity > 0.5 ? 0.25 : 1
-    }
 
     Rectangle {
         x: 20
@@ -102,26 +90,13 @@ MainContentBackground {
         color: Colors.whiteColor
         border.color: Colors.lineColor
 
-        Row {
+        StableMark {
             id: timerMark
             anchors.right: parent.right
             anchors.rightMargin: 16
             anchors.top: parent.top
             anchors.topMargin: 12
-            spacing: 6
-            Text {
-                font.family: Icons.fontFamily
-                font.pixelSize: 26
-                color: page.stable ? Colors.greenColor : Colors.slateColor
-                text: page.stable ? Icons.done : Icons.timer
-            }
-            Text {
-                anchors.verticalCenter: parent.verticalCenter
-                font.family: "Roboto"
-                font.pixelSize: 15
-                color: page.stable ? Colors.greenColor : Colors.slateColor
-                text: page.stable ? qsTr("Stable") + ls.translatedText : qsTr("Settling") + ls.translatedText
-            }
+            stable: page.stable
         }
         Text {
             anchors.left: parent.left

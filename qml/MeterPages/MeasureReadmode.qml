@@ -2,7 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
-import "../Constants/Icons.js" as Icons
+import "../CustomComponent"
 import "MeterFormat.js" as MeterFormat
 
 // The live reading of the meter, the first page of the Measure section:
@@ -11,8 +11,7 @@ import "MeterFormat.js" as MeterFormat
 MainContentBackground {
     id: page
     objectName: "Measure ReadMode"
-    header3Text: qsTr("Measure ") + measurement.readMode
-                 + (measurement.readMode === "ISE" ? " " + measurement.iseType : "") + ls.translatedText
+    header3Text: qsTr("Measure ") + measurement.readMode + ls.translatedText
 
     property bool stable: false
     property bool isAutoIncremented: false
@@ -34,21 +33,19 @@ MainContentBackground {
 
     // One sample: the texts follow the meter.
     function updateReading() {
+        header3Text = qsTr("Measure ") + measurement.readMode
+                + (measurement.readMode === "ISE" ? " " + measurement.iseType : "") + ls.translatedText
         valueText.text = measValue()
         mvText.text = measurement.mV.toFixed(1) + "  mV"
         temperatureLabel.text = temperatureText()
     }
 
     function stableMeasurement() {
-        blinkTimer.stop()
         stable = true
-        stableMark.opacity = 1
         updateReading()
     }
     function unStableMeasurement() {
         stable = false
-        if (!blinkTimer.running)
-            blinkTimer.start()
         updateReading()
     }
 
@@ -118,12 +115,6 @@ MainContentBackground {
         }
     }
 
-    Timer {
-        id: blinkTimer
-        interval: 500
-        repeat: true
-        onTriggered: stableMark.opacity = stableMark.opacity > 0.5 ? 0.25 : 1
-    }
 
     Rectangle {
         id: card
@@ -135,26 +126,13 @@ MainContentBackground {
         color: Colors.whiteColor
         border.color: Colors.lineColor
 
-        Row {
+        StableMark {
             id: stableMark
             anchors.right: parent.right
             anchors.rightMargin: 16
             anchors.top: parent.top
             anchors.topMargin: 12
-            spacing: 6
-            Text {
-                font.family: Icons.fontFamily
-                font.pixelSize: 26
-                color: page.stable ? Colors.greenColor : Colors.slateColor
-                text: page.stable ? Icons.done : Icons.timer
-            }
-            Text {
-                anchors.verticalCenter: parent.verticalCenter
-                font.family: "Roboto"
-                font.pixelSize: 15
-                color: page.stable ? Colors.greenColor : Colors.slateColor
-                text: page.stable ? qsTr("Stable") + ls.translatedText : qsTr("Settling") + ls.translatedText
-            }
+            stable: page.stable
         }
         Text {
             anchors.left: parent.left
@@ -184,6 +162,7 @@ MainContentBackground {
             }
             Text {
                 anchors.baseline: valueText.baseline
+                visible: !isNaN(parseFloat(valueText.text))
                 font.family: "Roboto"
                 font.pixelSize: 24
                 color: Colors.slateColor

@@ -9,7 +9,10 @@ MessagePopup {
     message: qsTr("Enter the sample ID of this measurement.") + ls.translatedText
     firstButtonText: qsTr("Save") + ls.translatedText
     secondButtonText: qsTr("Cancel") + ls.translatedText
+    // Above the keyboard while it is up: the field and the buttons stay in sight.
+    readonly property bool keyboardUp: Qt.inputMethod.visible
     height: 52 + 20 + 24 + 12 + 44 + 24 + 48 + 20
+    y: keyboardUp ? 0 : (mainWindow.height - height) / 2
 
     function open() {
         input.text = ""
@@ -18,7 +21,10 @@ MessagePopup {
         input.forceActiveFocus()
     }
 
-    onSecondClicked: mainWindow.hidePopup()
+    onSecondClicked: {
+        Qt.inputMethod.hide()
+        mainWindow.hidePopup()
+    }
     onFirstClicked: {
         if (input.text.trim().length === 0) {
             errorText.visible = true
