@@ -39,7 +39,7 @@ Rectangle {
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width * 0.46
-        height: 48
+        height: Math.min(48, row.height - 2)
         font.family: "Roboto"
         font.pixelSize: 16
         model: row.options

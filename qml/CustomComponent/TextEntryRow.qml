@@ -46,7 +46,6 @@ Rectangle {
             color: Colors.deeptangaroaColor
             font.family: "Roboto"
             font.pixelSize: 16
-            onActiveFocusChanged: if (activeFocus) mainWindow.currentEdit = input
             onTextEdited: row.edited(text)
             onAccepted: focus = false
         }

@@ -111,9 +111,9 @@ MainContentBackground {
     Flickable {
         id: list
         x: 20
-        y: 8
+        y: 4
         width: 510
-        height: 260
+        height: 324
         clip: true
         contentHeight: rows.height
         boundsBehavior: Flickable.StopAtBounds
@@ -122,6 +122,7 @@ MainContentBackground {
             width: parent.width
             ChoiceRow {
                 id: readModeRow
+                height: 46
                 objectName: "readModeRow"
                 label: qsTr("Read Mode") + ls.translatedText
                 options: page.readModes
@@ -129,6 +130,7 @@ MainContentBackground {
             }
             ChoiceRow {
                 id: iseTypeRow
+                height: 46
                 visible: page.typeIndex === 2
                 label: qsTr("ISE Type") + ls.translatedText
                 options: page.ions
@@ -136,11 +138,13 @@ MainContentBackground {
             }
             TextEntryRow {
                 id: electrodeNameRow
+                height: 46
                 objectName: "electrodeName"
                 label: qsTr("Electrode Name") + ls.translatedText
             }
             ChoiceRow {
                 id: resolutionRow
+                height: 46
                 visible: page.typeIndex === 0
                 label: qsTr("Resolution") + ls.translatedText
                 options: page.resolutions
@@ -148,6 +152,7 @@ MainContentBackground {
             }
             ChoiceRow {
                 id: bufferGroupRow
+                height: 46
                 objectName: "bufferGroupRow"
                 visible: page.typeIndex === 0
                 label: qsTr("Buffer Group") + ls.translatedText
@@ -156,12 +161,14 @@ MainContentBackground {
             }
             ChoiceRow {
                 id: stirSpeedRow
+                height: 46
                 label: qsTr("Stir Speed") + ls.translatedText
                 options: page.speeds
                 onChosen: measurementTemp.stirSpeed = text
             }
             ChoiceRow {
                 id: sampleIdRow
+                height: 46
                 objectName: "sampleIdRow"
                 label: qsTr("Sample ID") + ls.translatedText
                 options: page.sampleIds
@@ -176,12 +183,14 @@ MainContentBackground {
             }
             TextEntryRow {
                 id: prefixRow
+                height: 46
                 objectName: "sampleIdPrefix"
                 visible: sampleIdRow.currentText === "Auto-Incremental"
                 label: qsTr("Auto-Incremental Prefix") + ls.translatedText
             }
             ChoiceRow {
                 id: digitsRow
+                height: 46
                 visible: page.typeIndex === 2
                 label: qsTr("Significant Digits") + ls.translatedText
                 options: ["1", "2", "3", "4"]
@@ -189,6 +198,7 @@ MainContentBackground {
             }
             ChoiceRow {
                 id: unitsRow
+                height: 46
                 visible: page.typeIndex === 2
                 label: qsTr("Direct Measure Units") + ls.translatedText
                 options: page.units
@@ -199,7 +209,7 @@ MainContentBackground {
 
     Row {
         x: 20
-        y: 300
+        y: 336
         spacing: 16
         PopupAlternateButton {
             text: qsTr("Cancel") + ls.translatedText
