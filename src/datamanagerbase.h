@@ -1,6 +1,5 @@
 #pragma once
 
-#include "interfaces/enginedatainterface.h"
 #include "interfaces/meterdatainterface.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
@@ -16,6 +15,7 @@
 #include "models/titrationlogmodel.h"
 #include "models/titrationmodel.h"
 #include "consolepipe.h"
+#include "enginedataport.h"
 #include "homecalibrationstate.h"
 #include "loglists.h"
 #include "methodlibrary.h"
@@ -44,13 +44,12 @@ class SysInfoModel;
 class TitrantSetupModel;
 class TitrationSetupModel;
 
-// The one object through which the engine, the meter and the screens reach
-// persistent data. It owns the current method and the instrument identity,
-// answers the engine's questions in terms of what is being run (the
-// titration part of the method in "Titration" mode, the titrant part in
-// "Standardization" mode) and takes the results of a run. Published to the
-// screens as "dm".
-class DataManagerBase : public QObject, public EngineDataInterface, public MeterDataInterface
+// The screens' one object ("dm"): a facade over the services that own the
+// data — the engine's data port (mode, method parameters, live run state),
+// the method library, the log lists, the run's cycle lists, standardisation,
+// the meter's records, product identity. It serves the meter's data
+// interface by forwarding, and owns the current method and the settings.
+class DataManagerBase : public QObject, public MeterDataInterface
 {
     Q_OBJECT
     Q_PROPERTY(QString deviceMode READ deviceMode WRITE setDeviceMode NOTIFY valueChanged)
@@ -90,19 +89,16 @@ class DataManagerBase : public QObject, public EngineDataInterface, public Meter
 
 public:
     static constexpr double uLtomL = 1000.0;
-    static constexpr int kNotInThisMode = -999;
     // The newest console text kept until it is read, in characters.
     static constexpr int consoleLimit = ConsolePipe::limit;
-    static const QString modeTitration;
-    static const QString modeStandardization;
 
     // The singleton: made on the first call, then initialised outside the
     // constructor, because what the initialisation creates reaches for
     // dmPtr() itself.
     static DataManagerBase *dmPtr();
 
-    // Creates the instrument identity and installs itself as the engine's
-    // data layer (until it is destroyed).
+    // Creates the instrument identity and the engine's data port, which
+    // installs itself as the engine's data layer (until it is destroyed).
     explicit DataManagerBase(QObject *parent = nullptr);
     ~DataManagerBase() override;
 
@@ -111,6 +107,10 @@ public:
 
     // The application's build string, as stored in `systemInfo`.
     static QString buildString() { return ProductIdentity::buildString(); }
+
+    // What the engine reads and writes: method parameters by mode, readings,
+    // results, the run's live state.
+    EngineDataPort *engine() const { return m_engine; }
 
     // ---- Models ----
     MethodModel *methodModel() const { return m_methodModel; }
@@ -149,73 +149,28 @@ public:
 
     // The meter's measurement engine, used for the mV and pH conversions.
     // Until one is set, a private one with an uncalibrated electrode serves.
-    void setMeasurementContext(CMeasurementContext *context) override;
-    CMeasurementContext *measurementContext() const override { return m_MeasContext; }
+    void setMeasurementContext(CMeasurementContext *context) override { m_engine->setMeasurementContext(context); }
+    CMeasurementContext *measurementContext() const override { return m_engine->measurementContext(); }
 
-    // ---- Mode ----
-    QString deviceMode() const override { return m_deviceMode; }
-    void setDeviceMode(const QString &mode) override;
-    bool blankTitrationMode() const override { return m_blankTitrationMode; }
-    void setBlankTitrationMode(bool on);
+    // ---- Mode and live run state (the engine's data port) ----
+    QString deviceMode() const override { return m_engine->deviceMode(); }
+    void setDeviceMode(const QString &mode) { m_engine->setDeviceMode(mode); }
+    bool blankTitrationMode() const { return m_engine->blankTitrationMode(); }
+    void setBlankTitrationMode(bool on) { m_engine->setBlankTitrationMode(on); }
     bool isCalibrationFromMeasurement() const { return m_isCalibrationFromMeasurement; }
     void setIsCalibrationFromMeasurement(bool on);
     bool isStandardizedVal() const { return m_standardisation->isStandardized(); }
     void setIsStandardizedVal(bool on);
-
-    // ---- The engine's method parameters ----
-    int getNoOfEndpoints() const override;
-    float getEndpointValue_First() const override;
-    float getEndpointValue_Second() const override;
-    float getEndpointValue_Third() const override;
-    int getTitrationTechnique() const override;
-    int getTitrationProcessCtrl() const override;
-    int getMKAProcessCtrl() const override;
-    float getDeltaE() const override;
-    float getDeltaVmin() const override;
-    float getDeltaVmax() const override;
-    float getStabilityCriteria() const override;
-    float gettMin() const override;
-    float gettMax() const override;
-    float getThreshold() const override;
-    float getPreDoseTitrantVolume() const override;
-    int getTitratrationOrStandardardizationPreStir() const override;
-    float getTitratrationOrStandardardizationMaxVolmL() const override;
-    int getIndexOfStirSpeed() const override;
-    int getElectrode() const override;
-    float getEndPoint() const override;
-    int getResolution() const override;
-    float buretteSize() const override;
-    QString displayUnits() const override;
-
-    // "Very Slow" 1 ... "Very Fast" 5; anything else 0, no stirring.
-    static int stirSpeedIndex(const QString &speed);
-    // Decimals of a display resolution: 0 for a whole number, 1 to 3 for
-    // 0.1 to 0.001, 2 for anything finer.
-    static int resolutionDecimals(float resolution);
-
-    // ---- Conversions ----
-    float getScaledVal(float millivolts) override;
-    float millivoltsToPH(float millivolts) override;
-    float phToMillivolts(float ph) override;
-    float getMeasuredMillivolt(float millivolts);
-    float getTemperature() const override { return m_temperatureCelcius; }
-    float getMillivolts() const { return m_millivolts; }
-
-    // ---- Results in ----
-    void setMillivolts(float mv) override;
-    void setRawTemperatureCelcius(float celsius) override;
-    float temperatureRawCelcius() const { return m_temperatureRawCelcius; }
-    void setMultipleEndPointVolumes(const std::array<double, 3> &volumesUl) override;
-    void setResultArray(const std::array<double, 3> &volumesUl) { setMultipleEndPointVolumes(volumesUl); }
-    std::array<double, 3> getResultArray() const override { return m_resultArray; }
-    void setEpResult1(float value) override;
-    void setEpResult2(float value) override;
-    float epResult1() const { return m_epResult1; }
-    float epResult2() const { return m_epResult2; }
-    void setMspVersion(const QString &version) override { m_identity->setMspVersion(version); }
-    QString getMspVersion() const override { return m_identity->mspVersion(); }
-    void setMfgSerialNum(const QString &serial) override { m_identity->setMfgSerialNum(serial); }
-    QString getMfgSerialNum() const override { return m_identity->mfgSerialNum(); }
+    float getTemperature() const override { return m_engine->temperature(); }
+    void setMillivolts(float mv) override { m_engine->setMillivolts(mv); }
+    bool qmlStirrerState() const { return m_engine->qmlStirrerState(); }
+    void setQmlStirrerState(bool on) { m_engine->setQmlStirrerState(on); }
+    int qmlStirSpeed() const { return m_engine->qmlStirSpeed(); }
+    void setQmlStirSpeed(int speed) { m_engine->setQmlStirSpeed(speed); }
+    int rinseCycles() const { return m_engine->rinseCycles(); }
+    void setRinseCycles(int cycles) { m_engine->setRinseCycles(cycles); }
+    float probeTemp() const { return m_engine->probeTemp(); }
+    void setProbeTemp(float t) { m_engine->setProbeTemp(t); }
 
     // ---- Versions and identity ----
     QString titrationQMLVersion() const { return m_identity->titrationQMLVersion(); }
@@ -223,7 +178,7 @@ public:
     QString titrationQMLCoreVersion() const { return m_identity->titrationQMLCoreVersion(); }
     void setTitrationQMLCoreVersion(const QString &v) { m_identity->setTitrationQMLCoreVersion(v); }
     QString getTitrationCoreVersion() const { return m_identity->titrationCoreVersion(); }
-    void setTitrationCoreVersion(const QString &v) override { m_identity->setTitrationCoreVersion(v); }
+    void setTitrationCoreVersion(const QString &v) { m_identity->setTitrationCoreVersion(v); }
     QString mspQmlVersion() const { return m_identity->mspQmlVersion(); }
     void setMspQmlVersion(const QString &v) { m_identity->setMspQmlVersion(v); }
     QString buildNumber() const { return m_identity->buildNumber(); }
@@ -233,59 +188,15 @@ public:
     void setTitratorModelString(const QString &v) { m_identity->setTitratorModelString(v); }
     QString titratorModelNo() const { return m_identity->titratorModelNo(); }
     void setTitratorModelNo(const QString &v) { m_identity->setTitratorModelNo(v); }
+    QString getMfgSerialNum() const { return m_identity->mfgSerialNum(); }
+    void setMfgSerialNum(const QString &v) { m_identity->setMfgSerialNum(v); }
     int productType() const { return 0; }
     QString databaseMessage() const;
 
-    // ---- Live state ----
-    bool getDispenseInProgress() const override { return m_dispenseInProgress; }
-    void setDispenseInProgress(bool on) override { m_dispenseInProgress = on; }
-    bool getTitrationCancelled() const override { return m_titrationCancelled; }
-    void setTitrationCancelled(bool on) override { m_titrationCancelled = on; }
-    bool qmlStirrerState() const override { return m_qmlStirrerState; }
-    void setQmlStirrerState(bool on) override;
-    int qmlStirSpeed() const override { return m_qmlStirSpeed; }
-    void setQmlStirSpeed(int speed) override;
-    int rinseCycles() const override { return m_rinseCycles; }
-    void setRinseCycles(int cycles) override;
-    int lastStartRinseCycles() const override { return m_lastStartRinseCycles; }
-    void setLastStartRinseCycles(int cycles) override { m_lastStartRinseCycles = cycles; }
-    float probeTemp() const { return m_probeTemp; }
-    void setProbeTemp(float t);
-    bool isTemperatureProbePresent() const { return m_temperatureProbePresent; }
-
-    // ---- Console pipe ----
-    void sendToConsole(const QString &text) override { m_console.send(text); }
-    bool getConsoleMes(QString *text) override { return m_console.take(text); }
-
-    // ---- The engine's cyclic logs ----
-    LogManager *titrationLogFile() override;
-    LogManager *rawTitrationLogFile() override;
-
 public slots:
-    void titrationCompleted() override;
-
-    // The run's records, as the run controller asks for them.
-    void beginRunRecords() override;
-    float recordRunPoint(float volumeMl) override;
-    TitrationRecordParameters titrationRecordParameters() const override;
-    int displayBrightness() const override { return m_setupModel ? m_setupModel->displayBrightness() : 3; }
-    void notifyValueChanged() override { emit valueChanged(); }
-
-    // Multiple known addition: the method's sample and standard.
-    float getTotalSolutionVolume() const override;
-    float getMKAProcessCtrlConstant() const override;
-    float getMKAProcessCtrlMeasurement() const override;
-    float getMKAProcessCtrlPrecision() const override;
-    float getMKAStandardConcentration() const override;
-    float getMKABlank() const override;
-    float getMKASampleBasis() const override;
-    float mkaConvertResult(float molPerL) override;
-    void getSigMKAPointsToUI(QVariant volume, QVariant mV, QVariant calConc, QVariant precision, QVariant drift,
-                             QVariant slope, QVariant e0) override;
-    void getMKATitrationCompleted(QVariant conc, QVariant slope, QVariant spike) override;
     void updateProdType(const QString &prodType);
     void getLoadedMspVersion();
-    bool isProbePresent() const { return m_temperatureProbePresent; }
+    bool isProbePresent() const { return m_engine->isTemperatureProbePresent(); }
     void exportLogs(const QString &dir);
 
     // Methods and their lists.
@@ -347,62 +258,18 @@ signals:
                           QString E0);
     void mkaTitrationCompleted(QString avgConc, QString slope, QString spike);
 
-private slots:
-    void qmlFreshDataAvailable();
-    void qmlTemperatureDataAvailable(float celsius);
-
 private:
-    bool inTitration() const { return m_deviceMode == modeTitration; }
-    bool inStandardization() const { return m_deviceMode == modeStandardization; }
-    bool backTitration() const;
-    // The engine's parameter of the mode in use: the titration part's value
-    // in "Titration" mode, the titrant part's in "Standardization" mode.
-    // Answers -999 in any other mode, and before the method is loaded.
-    float byMode(float (*fromTitration)(const TitrationSetupModel &),
-                 float (*fromTitrant)(const TitrantSetupModel &)) const;
-
-
-    // The run's cycle in the run model: a new one at the start, the points
-    // of the curve while it runs.
-    void beginRunCycle();
-    void addRunPoint(float volumeMl, float value);
-
+    EngineDataPort *m_engine = nullptr;
     MethodModel *m_methodModel = nullptr;
     ProductIdentity *m_identity = nullptr;
-    std::unique_ptr<CMeasurementContext> m_ownContext;
-    CMeasurementContext *m_MeasContext = nullptr;
-    std::unique_ptr<LogManager> m_titrationLogFile;
-    std::unique_ptr<LogManager> m_rawTitrationLogFile;
     MethodLibrary *m_library = nullptr;
     SetupModel *m_setupModel = nullptr;
     MeasurementModel *m_measure = nullptr;
-
     LogLists *m_logLists = nullptr;
     RunCycleLists *m_runCycles = nullptr;
     StandardisationRecords *m_standardisation = nullptr;
-
-    QString m_deviceMode;
-    bool m_blankTitrationMode = false;
     bool m_isCalibrationFromMeasurement = false;
-    std::array<double, 3> m_resultArray{{0.0, 0.0, 0.0}};
-    float m_epResult1 = 0.0f;
-    float m_epResult2 = 0.0f;
-    bool m_titrationCancelled = false;
-    bool m_dispenseInProgress = false;
-    float m_millivolts = 0.0f;
-    float m_temperatureCelcius = 25.0f;
-    float m_temperatureRawCelcius = 25.0f;
-    bool m_temperatureProbePresent = false;
-    float m_probeTemp = 25.0f;
-    float m_slopeTarget = 0.25f;
-    int m_rinseCycles = 3;
-    int m_lastStartRinseCycles = 3;
-    int m_qmlStirSpeed = 3;
-    bool m_qmlStirrerState = false;
     int m_methodCount = 0;
-
-
-    ConsolePipe m_console;
 
     // ---- The meter's records: measurement state and electrode calibration ----
     Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel NOTIFY valueChanged)

@@ -2,7 +2,7 @@
 
 #include "models/modelproperty.h"
 
-#include "datamanagerbase.h"
+#include "enginedataport.h"
 #include "meter/cmeasurementcontext.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationmodel.h"
@@ -66,7 +66,7 @@ void MeterRecords::initiateFromElectrode(const ElectrodeSetupModel *electrode)
         c->setDirectMeasureUnit(electrode->directMeasureUnit());
     }
     c->setIsCalibrationRunning(true);
-    m_livePoint->setResolution(DataManagerBase::resolutionDecimals(c->resolution()));
+    m_livePoint->setResolution(EngineDataPort::resolutionDecimals(c->resolution()));
     replaceCalibration(c);
 }
 
@@ -81,7 +81,7 @@ void MeterRecords::initiateFromMeasure()
     c->setSignificantDigits(m_measurement->significantDigits());
     c->setDirectMeasureUnit(m_measurement->directMeasurementUnit());
     c->setIsCalibrationRunning(true);
-    m_livePoint->setResolution(DataManagerBase::resolutionDecimals(c->resolution()));
+    m_livePoint->setResolution(EngineDataPort::resolutionDecimals(c->resolution()));
     replaceCalibration(c);
 }
 

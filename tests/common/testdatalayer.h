@@ -15,7 +15,7 @@ struct TestDataLayer {
     QString console()
     {
         QString text;
-        dm.getConsoleMes(&text);
+        dm.engine()->getConsoleMes(&text);
         return text;
     }
 };

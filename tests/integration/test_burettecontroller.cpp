@@ -103,14 +103,14 @@ TEST_F(Burette, DoseLargerThanWhatIsLeftArrivesWholeAroundOneRefill)
 {
     start(10, 10);
     bc->dispense_ul(7000);
-    EXPECT_TRUE(data.dm.getDispenseInProgress());
+    EXPECT_TRUE(data.dm.engine()->getDispenseInProgress());
     ASSERT_TRUE(waitIdle(1));
-    EXPECT_FALSE(data.dm.getDispenseInProgress());
+    EXPECT_FALSE(data.dm.engine()->getDispenseInProgress());
 
     bc->dispense_ul(6000); // 3000 left in the cylinder
     EXPECT_EQ(bc->state(), BuretteController::BURETTE_LAST_PART);
     ASSERT_TRUE(waitUntil([&] { return bc->state() == BuretteController::BURETTE_REFILLING; }, 20000));
-    EXPECT_TRUE(data.dm.getDispenseInProgress()); // the dose is not over during the refill
+    EXPECT_TRUE(data.dm.engine()->getDispenseInProgress()); // the dose is not over during the refill
     EXPECT_EQ(completed->count(), 1);
     ASSERT_TRUE(waitIdle(2));
     EXPECT_EQ(completed->count(), 2); // one completion for the split dose
@@ -223,9 +223,9 @@ TEST_F(Burette, ManualDoseIsCappedAtOneCylinderAndGoesHome)
     QSignalSpy wait(bc.get(), &BuretteController::qmlDispenseWait);
     QSignalSpy done(bc.get(), &BuretteController::qmlDispenseCompleted);
     bc->dispense_manual_ul(25000);
-    EXPECT_TRUE(data.dm.getDispenseInProgress());
+    EXPECT_TRUE(data.dm.engine()->getDispenseInProgress());
     ASSERT_TRUE(waitUntil([&] { return wait.count() == 1; }, 20000));
-    EXPECT_FALSE(data.dm.getDispenseInProgress());
+    EXPECT_FALSE(data.dm.engine()->getDispenseInProgress());
     ASSERT_TRUE(waitUntil([&] { return done.count() == 1; }, 20000));
     EXPECT_EQ(motions(), (QStringList{"BDS 10000", "BHS"}));
     EXPECT_DOUBLE_EQ(instrumentTotal("dosed"), 10000.0);

@@ -66,7 +66,7 @@ protected:
         msp->setReadInterval(1);
         QObject::connect(msp.get(), &mspController::mspNewDataSignal, [this](long, double mv) { lastMv = mv; });
         mc = std::make_unique<MeterController>(msp.get(), dm.get());
-        ASSERT_TRUE(waitUntil([&] { return dm->isTemperatureProbePresent(); }, 10000)) << "no samples";
+        ASSERT_TRUE(waitUntil([&] { return dm->engine()->isTemperatureProbePresent(); }, 10000)) << "no samples";
         ASSERT_TRUE(settleAt(pH));
     }
 
@@ -84,7 +84,7 @@ protected:
         db.reopen();
         makeDataManager();
         mc = std::make_unique<MeterController>(msp.get(), dm.get());
-        ASSERT_TRUE(waitUntil([&] { return dm->isTemperatureProbePresent(); }, 10000));
+        ASSERT_TRUE(waitUntil([&] { return dm->engine()->isTemperatureProbePresent(); }, 10000));
     }
 
     // Moves the electrode into a buffer and waits until it reads it.
@@ -238,7 +238,7 @@ TEST_F(MeterOnSlave, AnElectrodeOfSeventyFivePercentIsRefused)
     msp->setPollInterval(int(250 / kSpeed));
     msp->setReadInterval(1);
     mc = std::make_unique<MeterController>(msp.get(), dm.get());
-    ASSERT_TRUE(waitUntil([&] { return dm->isTemperatureProbePresent(); }, 10000));
+    ASSERT_TRUE(waitUntil([&] { return dm->engine()->isTemperatureProbePresent(); }, 10000));
     dm->measurementModel()->setReadMode(QStringLiteral("pH"));
     dm->setDeviceMode(QStringLiteral("Calibration"));
     dm->initiateCalibrationModelFromMeasure();
@@ -247,7 +247,7 @@ TEST_F(MeterOnSlave, AnElectrodeOfSeventyFivePercentIsRefused)
     ASSERT_GT(samplesToStable(), 0);
     mc->accptCalibration(false);
     ASSERT_EQ(vi.command(QStringLiteral("beaker {\"kind\":\"buffer\",\"pH\":7.00}")), QString());
-    ASSERT_TRUE(waitUntil([&] { return std::fabs(dm->getMillivolts()) < 0.2; }, 20000));
+    ASSERT_TRUE(waitUntil([&] { return std::fabs(dm->engine()->millivolts()) < 0.2; }, 20000));
     mc->qmlStartCalPoint();
     ASSERT_GT(samplesToStable(), 0);
     mc->accptCalibration(false);

@@ -38,7 +38,7 @@ TEST(SerialTransport, AsksForTheVersionAndStoresIt)
     ASSERT_TRUE(msp.portIsOpen());
     ASSERT_TRUE(waitUntil([&] { return slave.received.count("SYSTEM\r\n") == 2; }));
     slave.pty.write("SYSTEM VANTOR MSP430 1.09 BUILD 0 SN VP400-7\r\n");
-    ASSERT_TRUE(waitUntil([&] { return link.dm.getMspVersion() == QLatin1String("1.09"); }));
+    ASSERT_TRUE(waitUntil([&] { return link.dm.engine()->getMspVersion() == QLatin1String("1.09"); }));
     EXPECT_EQ(link.dm.getMfgSerialNum(), QStringLiteral("VP400-7"));
     mspInfoRecord info;
     msp.msp->getInfo(info);
@@ -63,7 +63,7 @@ TEST(SerialTransport, FirstPollWaitsOneTickAndCarriesTheSlaveClock)
     ASSERT_TRUE(waitUntil([&] { return data.count() >= 1; }));
     EXPECT_EQ(data.first().at(0).value<long>(), 987654321L);
     EXPECT_DOUBLE_EQ(data.first().at(1).toDouble(), -42.5);
-    EXPECT_FLOAT_EQ(link.dm.temperatureRawCelcius(), 31.5f);
+    EXPECT_FLOAT_EQ(link.dm.engine()->temperatureRawCelcius(), 31.5f);
 }
 
 TEST(SerialTransport, ReplySplitOverTwoReads)
@@ -169,6 +169,6 @@ TEST(SerialTransport, SurvivesTheDeviceGoingAndComingBack)
     ASSERT_TRUE(waitUntil([&] { return msp.portIsOpen(); }));
     ASSERT_TRUE(waitUntil([&] { return slave->got("SYSTEM\r\n"); })); // who is it now?
     slave->pty.write("SYSTEM a b 3.00 c d e SN9\r");
-    ASSERT_TRUE(waitUntil([&] { return link.dm.getMspVersion() == QLatin1String("3.00"); }));
+    ASSERT_TRUE(waitUntil([&] { return link.dm.engine()->getMspVersion() == QLatin1String("3.00"); }));
     ASSERT_TRUE(waitUntil([&] { return slave->got("MG\r\n"); }));
 }

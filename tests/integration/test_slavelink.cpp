@@ -55,7 +55,7 @@ TEST_F(SlaveLink, VersionAndSerialArrive)
 {
     ASSERT_TRUE(vi.start(kAcetic, 5)) << vi.errorText().toStdString();
     auto msp = connect(5);
-    ASSERT_TRUE(waitUntil([&] { return data.dm.getMspVersion() == QLatin1String("1.07"); }));
+    ASSERT_TRUE(waitUntil([&] { return data.dm.engine()->getMspVersion() == QLatin1String("1.07"); }));
     EXPECT_EQ(data.dm.getMfgSerialNum(), QStringLiteral("VP400-0042"));
 }
 
@@ -130,7 +130,7 @@ TEST_F(SlaveLink, InstrumentGoneAndBack)
     QString other = QString::fromLatin1(kAcetic);
     other.replace(QStringLiteral("\"1.07\""), QStringLiteral("\"2.00\""));
     ASSERT_TRUE(vi.start(other, 10)) << vi.errorText().toStdString();
-    ASSERT_TRUE(waitUntil([&] { return data.dm.getMspVersion() == QLatin1String("2.00"); }, 10000));
+    ASSERT_TRUE(waitUntil([&] { return data.dm.engine()->getMspVersion() == QLatin1String("2.00"); }, 10000));
     ASSERT_TRUE(waitUntil([&] { return samples.t.size() > seen + 2; }));
 }
 

@@ -53,7 +53,7 @@ protected:
         ASSERT_GT(id, 0) << error.toStdString();
         dm->setupModel()->setCurrentMethodId(id);
         dm->reInitializeMethodModel(id);
-        dm->setDeviceMode(DataManagerBase::modeTitration);
+        dm->setDeviceMode(EngineDataPort::modeTitration);
     }
 
     void start(const QString &scenario)
@@ -94,9 +94,9 @@ protected:
             }
             if (algorithm.isFinished())
                 return;
-            if (dm->getDispenseInProgress())
+            if (dm->engine()->getDispenseInProgress())
                 waitDispense = false;
-            if (!dm->getDispenseInProgress() && waitDispense)
+            if (!dm->engine()->getDispenseInProgress() && waitDispense)
                 return;
             const unsigned int dose = algorithm.run();
             if (dose > 0) {
@@ -128,8 +128,8 @@ TEST_F(TechniqueOnTheInstrument, SodiumSampleWithinTwoPercent)
     draft.totalSolutionMl = 50.f;
     draft.sampleMl = 50.f;
     useMethod(draft);
-    ASSERT_EQ(dm->getTitrationTechnique(), 3);
-    ASSERT_EQ(dm->getElectrode(), 2);
+    ASSERT_EQ(dm->engine()->getTitrationTechnique(), 3);
+    ASSERT_EQ(dm->engine()->getElectrode(), 2);
     start(QStringLiteral(R"({"burette_mL":20,
         "electrode":{"E0_mV":250,"slope_pct":98,"tau_s":2.0,"noise_mV":0.05},
         "beaker":{"kind":"ise","volume_mL":50,"ion":{"charge":1,"conc_mol_L":0.001},
@@ -155,7 +155,7 @@ TEST_F(TechniqueOnTheInstrument, HydrochloricAcidToAPresetMillivoltValue)
     draft.technique = QStringLiteral("Preset End Pt.");
     draft.endPointMv[0] = -118.f;
     useMethod(draft);
-    ASSERT_EQ(dm->getTitrationTechnique(), 0);
+    ASSERT_EQ(dm->engine()->getTitrationTechnique(), 0);
     start(QStringLiteral(R"({"burette_mL":20,
         "electrode":{"E0_mV":0,"slope_pct":100,"tau_s":1.0,"noise_mV":0.05},
         "beaker":{"kind":"acid-base","volume_mL":50,

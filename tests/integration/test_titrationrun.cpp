@@ -76,7 +76,7 @@ protected:
         ASSERT_GT(id, 0) << error.toStdString();
         dm->setupModel()->setCurrentMethodId(id);
         dm->reInitializeMethodModel(id);
-        dm->setDeviceMode(DataManagerBase::modeTitration);
+        dm->setDeviceMode(EngineDataPort::modeTitration);
         dm->titrationModel()->setCycleno(1);
         dm->titrationModel()->setTitrationType(QStringLiteral("Titration"));
     }
@@ -154,7 +154,7 @@ TEST_F(TitrationRun, AceticAcidEndsWithinHalfAPercentOfTheTrueVolume)
     ASSERT_EQ(dm->titrationModel()->titrationCyclesCount(), 1) << "the run's cycle is begun";
     ASSERT_TRUE(waitUntil([&] { return completed.count() == 1; }, 60000)) << "the run must end";
 
-    const double found = dm->getResultArray()[0];
+    const double found = dm->engine()->getResultArray()[0];
     EXPECT_NEAR(found, 10000.0, 50.0) << "within 0.5 % of 10.00 mL";
     // The data manager took the results: the cycle holds the volume and the
     // sample's concentration (10 mL of 0.1 mol/L acid).
@@ -165,12 +165,12 @@ TEST_F(TitrationRun, AceticAcidEndsWithinHalfAPercentOfTheTrueVolume)
     EXPECT_EQ(reasonAtEnd, QStringLiteral("Reached final equivalence point at count: 1"));
     ASSERT_EQ(notification.count(), 1);
     EXPECT_FALSE(notification.at(0).at(0).toBool()) << "not stopped by the volume limit";
-    EXPECT_TRUE(dm->getTitrationCancelled()) << "the normal end passes through the stop";
+    EXPECT_TRUE(dm->engine()->getTitrationCancelled()) << "the normal end passes through the stop";
     EXPECT_GT(points.count(), 10);
     EXPECT_EQ(cycle->graphPoints().count(QLatin1Char('(')), points.count()) << "every point is on the curve";
 
     // The summary as the run log and the console have it.
-    QFile logFile(dm->titrationLogFile()->currentFileName());
+    QFile logFile(dm->engine()->titrationLogFile()->currentFileName());
     ASSERT_TRUE(logFile.open(QIODevice::ReadOnly));
     const QString log = QString::fromUtf8(logFile.readAll()); // line ends as written
     EXPECT_TRUE(log.contains(QStringLiteral("\r\nTitration Summary\r\nTotal Vol Dispensed (ul):")));
@@ -235,7 +235,7 @@ TEST_F(TitrationRun, CancelDuringTheRunReleasesEverything)
     EXPECT_TRUE(temporal.isNull());
     EXPECT_TRUE(volumetric.isNull());
     EXPECT_TRUE(waitUntil([&] { return lastStirCommand() == 0; }, 5000));
-    EXPECT_TRUE(dm->getTitrationCancelled());
+    EXPECT_TRUE(dm->engine()->getTitrationCancelled());
     expectBuretteReset();
     // No sample reaches the controller after the stop.
     const int samples = tc->sampleCount();

@@ -63,7 +63,7 @@ protected:
         dm = std::make_unique<DataManagerBase>();
         dm->DataManagerLegacyInit();
         mc = std::make_unique<MeterController>(nullptr, dm.get());
-        dm->setRawTemperatureCelcius(25.0f);
+        dm->engine()->setRawTemperatureCelcius(25.0f);
     }
 
     void measurePh(float resolution = 0.01f)
@@ -91,7 +91,7 @@ protected:
 
     void startPhCalibration(double celsius, const QString &group = QStringLiteral("USA"))
     {
-        dm->setRawTemperatureCelcius(float(celsius));
+        dm->engine()->setRawTemperatureCelcius(float(celsius));
         MeasurementModel *m = dm->measurementModel();
         m->setReadMode(QStringLiteral("pH"));
         m->setResolution(0.01f);
@@ -137,13 +137,13 @@ TEST_F(Meter, DirectMeasurementReadsTheIdealElectrodeAndHoldsAfterTheSettlingCou
     EXPECT_TRUE(m->stability());
     EXPECT_TRUE(m->isATC()) << "a probe reads 25 degrees";
     EXPECT_FLOAT_EQ(m->temp(), 25.0f);
-    EXPECT_FLOAT_EQ(dm->getMillivolts(), 12.0f);
+    EXPECT_FLOAT_EQ(dm->engine()->millivolts(), 12.0f);
     EXPECT_FALSE(mc->isMeasureOutOfRange());
 }
 
 TEST_F(Meter, NoProbeMeansTheManualTemperature)
 {
-    dm->setRawTemperatureCelcius(125.0f);
+    dm->engine()->setRawTemperatureCelcius(125.0f);
     measurePh();
     mc->execute(0, 0.0);
     EXPECT_FALSE(dm->measurementModel()->isATC());
@@ -413,8 +413,8 @@ TEST_F(Meter, StoredCalibrationSurvivesARestartAndServesTheRunsConversions)
     ASSERT_EQ(dm->calibrationCycleList().size(), 3);
     EXPECT_EQ(dm->calibrationCycleList().at(2)->cycleNo(), 3);
     for (double pH : {4.01, 7.00, 10.01}) {
-        EXPECT_NEAR(dm->millivoltsToPH(float(electrodeMv(pH, 97.0, 12.0, 25.0))), pH, 0.011);
-        EXPECT_NEAR(dm->phToMillivolts(float(pH)), electrodeMv(pH, 97.0, 12.0, 25.0), 0.6);
+        EXPECT_NEAR(dm->engine()->millivoltsToPH(float(electrodeMv(pH, 97.0, 12.0, 25.0))), pH, 0.011);
+        EXPECT_NEAR(dm->engine()->phToMillivolts(float(pH)), electrodeMv(pH, 97.0, 12.0, 25.0), 0.6);
     }
 }
 

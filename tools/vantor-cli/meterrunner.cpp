@@ -247,7 +247,7 @@ int MeterRunner::run(QTextStream &out, QTextStream &err)
     int status = 2;
     {
         MeterController mc(&msp, &dm);
-        if (!waitFor([&] { return dm.isTemperatureProbePresent() && clock.monotonicMs() > 0; }, 10000)) {
+        if (!waitFor([&] { return dm.engine()->isTemperatureProbePresent() && clock.monotonicMs() > 0; }, 10000)) {
             err << "vantor-cli: the virtual instrument did not answer\n";
         } else if (m_command == Measure) {
             status = measure(dm, mc, out, err);

@@ -281,8 +281,8 @@ int TitrateRunner::runInSandbox(QTextStream &err)
         dm.setupModel()->setBuretteSize(int(scenario.config.buretteMl));
     if (methodOfRun(dm, scenario, err) <= 0)
         return 2;
-    dm.setDeviceMode(DataManagerBase::modeTitration);
-    if (live && dm.getTitrationTechnique() == kKnownAddition && !iseBeaker(scenario)) {
+    dm.setDeviceMode(EngineDataPort::modeTitration);
+    if (live && dm.engine()->getTitrationTechnique() == kKnownAddition && !iseBeaker(scenario)) {
         err << "vantor-cli: the method \"" << dm.methodModel()->methodName()
             << "\" adds a known standard and needs an ion-selective scenario (\"kind\":\"ise\")\n";
         return 2;
@@ -290,7 +290,7 @@ int TitrateRunner::runInSandbox(QTextStream &err)
     // The run as the run screen starts it.
     TitrationModel *run = dm.titrationModel();
     run->setCycleno(1);
-    run->setTitrationType(DataManagerBase::modeTitration);
+    run->setTitrationType(EngineDataPort::modeTitration);
     run->setMethodName(dm.methodModel()->methodName());
     QObject::connect(&dm, &DataManagerBase::mkaTitrationCompleted, &dm,
                      [this](const QString &conc, const QString &slope, const QString &spike) {
@@ -360,7 +360,7 @@ int TitrateRunner::runEngine(DataManagerBase &dm, Scenario &scenario, QTextStrea
         QObject::connect(&msp, &mspController::mspNewDataSignal, &loop, [&] {
             mspInfoRecord info;
             msp.msp->getInfo(info);
-            if (!sampled && info.buretteSize == int(dm.buretteSize())) {
+            if (!sampled && info.buretteSize == int(dm.engine()->buretteSize())) {
                 sampled = true;
                 loop.quit();
             }
@@ -390,7 +390,7 @@ int TitrateRunner::runEngine(DataManagerBase &dm, Scenario &scenario, QTextStrea
     m_outcome.durationS = double(r.durationMs) / 1000.0;
     m_outcome.wallS = double(wall.elapsed()) / 1000.0;
 
-    QFile log(dm.titrationLogFile()->currentFileName());
+    QFile log(dm.engine()->titrationLogFile()->currentFileName());
     if (log.open(QIODevice::ReadOnly))
         m_outcome.summary = summaryOf(QString::fromUtf8(log.read(1 << 20)));
     Clock::setSource(nullptr);
