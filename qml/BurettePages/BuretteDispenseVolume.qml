@@ -10,7 +10,6 @@ MainContentBackground {
     id: page
     objectName: "Dispense Volume"
     header3Text: qsTr("Dispense Volume") + ls.translatedText
-    hasInfo: false
 
     function loadUI() {
         keypad.clear()

@@ -8,9 +8,8 @@ import "../MeterPages/MeterFormat.js" as MeterFormat
 // buttons, never after today.
 MainContentBackground {
     id: page
-    objectName: "Installation Date"
+    objectName: "Burette Installation Date"
     header3Text: qsTr("Installation Date") + ls.translatedText
-    hasInfo: false
 
     property bool fromBurette: true
     property date chosen: new Date()

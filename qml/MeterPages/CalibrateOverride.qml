@@ -10,7 +10,7 @@ import "MeterFormat.js" as MeterFormat
 // Accept and Edit come once it is stable.
 MainContentBackground {
     id: page
-    objectName: "Calibration Point"
+    objectName: "Calibrate pH(Override screen)"
 
     property bool userEditCalValue: false
     property bool stable: false

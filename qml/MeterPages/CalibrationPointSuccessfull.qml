@@ -7,7 +7,7 @@ import "../Constants/Icons.js" as Icons
 // A point taken: on to the next solution (up to five), or Done.
 MainContentBackground {
     id: page
-    objectName: "Calibration Point Successful"
+    objectName: "Calibrate pH(Calibration Point Successful screen)"
     state: "NonRedox"
 
     function updateHeader() {

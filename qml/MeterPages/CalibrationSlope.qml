@@ -9,7 +9,7 @@ import "MeterFormat.js" as MeterFormat
 // to the electrode's known slope before the summary.
 MainContentBackground {
     id: page
-    objectName: "Calibration Slope"
+    objectName: "Calibrate pH(Calibration Result screen)"
     header3Text: qsTr("Calibration Result") + ls.translatedText
 
     property string slopeText: ""

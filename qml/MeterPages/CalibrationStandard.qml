@@ -7,7 +7,7 @@ import "../Constants/Colors.js" as Colors
 // The standard's value of the point, as the user knows it.
 MainContentBackground {
     id: page
-    objectName: "Calibration Standard"
+    objectName: "Calibrate pH(Calibration Solution Standard Value Save screen)"
     header3Text: qsTr("Calibration Standard") + ls.translatedText
 
     property string valueText: ""

@@ -8,7 +8,7 @@ import "../Constants/Colors.js" as Colors
 // meter's record (`measurementTemp`) until Save.
 MainContentBackground {
     id: page
-    objectName: "Measure Settings"
+    objectName: "Measure ReadMode"
     header3Text: qsTr("Direct Measure") + ls.translatedText
 
     readonly property var fields: ["id", "sno", "readMode", "stirSpeed", "sampleId", "sampleIdValue",

@@ -10,7 +10,7 @@ import "MeterFormat.js" as MeterFormat
 // calibration, and Settings, Calibrate, Save and the stirrer.
 MainContentBackground {
     id: page
-    objectName: "Measure ReadMode"
+    objectName: "Measure"
     header3Text: qsTr("Measure ") + measurement.readMode + ls.translatedText
 
     property bool stable: false
