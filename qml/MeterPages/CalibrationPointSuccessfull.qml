@@ -13,6 +13,8 @@ MainContentBackground {
     function updateHeader() {
         header3Text = measure02.header3Text
         state = stack.calibrationType() === "Redox" ? "Redox" : "NonRedox"
+        // A redox calibration has one point; any other at most five.
+        nextButton.visible = state === "NonRedox" && mc.getCalDonePoint() < 5
         countText.text = qsTr("Points calibrated: %1 of 5").arg(mc.getCalDonePoint()) + ls.translatedText
     }
 
@@ -61,10 +63,7 @@ MainContentBackground {
         }
     }
 
-    states: [
-        State { name: "Redox"; PropertyChanges { target: nextButton; visible: false } },
-        State { name: "NonRedox"; PropertyChanges { target: nextButton; visible: mc.getCalDonePoint() < 5 } }
-    ]
+    states: [State { name: "Redox" }, State { name: "NonRedox" }]
 
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
