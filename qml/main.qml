@@ -503,6 +503,8 @@ ApplicationWindow {
         initialItem: burette01
         onCurrentItemChanged: sideBar.resetBackButton()
         Burette01 { id: burette01; visible: false }
+        BuretteDispenseVolume { id: buretteDispenseVolume; visible: false }
+        BuretteInstallationDate { id: buretteInstallationDate; visible: false }
     }
     CustomStackView {
         id: measureStack
@@ -517,6 +519,8 @@ ApplicationWindow {
         MeasureReadmode { id: measure01; visible: false }
         DirectMeasure { id: directMeasure; visible: false }
     }
+    // The calibration stack, pushed onto the section that opens it.
+    ElectrodeCalibrationProcessStack { id: electrodeCalibrationProcessStack; visible: false }
 
     // ---- 3. side bar -------------------------------------------------------
     SideBar {
@@ -563,6 +567,8 @@ ApplicationWindow {
         VariableSampleAmountPopup { id: variableSampleAmountPopup }
         VariableStandardAmountPopup { id: variableStandardAmountPopup }
         VariableReagentWeightPopup { id: variablereagentweightPopup }
+        CalibrationSuccessPopup { id: calibrationSuccessPopop }
+        MeasureSampleIdPopup { id: measureSampleIdPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------

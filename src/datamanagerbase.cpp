@@ -52,6 +52,8 @@ DataManagerBase::DataManagerBase(QObject *parent)
     m_runCycles = new RunCycleLists([this] { return titrationModel(); }, this);
     m_standardisation = new StandardisationRecords(this);
     connect(m_standardisation, &StandardisationRecords::changed, this, &DataManagerBase::valueChanged);
+    m_homeCalibration = new HomeCalibrationState(this);
+    connect(m_homeCalibration, &HomeCalibrationState::changed, this, &DataManagerBase::lastCalibrationChanged);
 
     m_engine = new EngineDataPort(m_identity, m_runCycles, this);
     connect(m_engine, &EngineDataPort::changed, this, &DataManagerBase::valueChanged);
@@ -428,6 +430,15 @@ void DataManagerBase::deleteCalibrationModelAndPoints()
 void DataManagerBase::insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset)
 {
     meterRecords()->insertATCCalibrationValues(probeTemperature, tempInputATC, offset, m_engine->isTemperatureProbePresent());
+}
+
+void DataManagerBase::getLastCalibrationTimeForTitration()
+{
+    const ElectrodeSetupModel *e = electrodeSetupModel();
+    QString type = e ? e->electrodeType() : QString();
+    if (type.isEmpty())
+        type = measurementModel()->readMode();
+    m_homeCalibration->refresh(m_setupModel, type);
 }
 
 bool DataManagerBase::logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn)

@@ -16,6 +16,7 @@
 #include "models/titrationmodel.h"
 #include "consolepipe.h"
 #include "enginedataport.h"
+#include "homecalibrationstate.h"
 #include "loglists.h"
 #include "methodlibrary.h"
 #include "productidentity.h"
@@ -258,6 +259,7 @@ signals:
     void standLogListChanged();
     void calibrationLogListChanged();
     void measuresChanged();
+    void lastCalibrationChanged();
     void sigMKAPointsToUI(QString volume, QString mV, QString calConc, QString precision, QString drift, QString slope,
                           QString E0);
     void mkaTitrationCompleted(QString avgConc, QString slope, QString spike);
@@ -281,6 +283,10 @@ private:
     Q_PROPERTY(CalibrationCycleModel *calibrationCycleModel READ calibrationCycleModel NOTIFY valueChanged)
     // The points of the calibration in hand, as a view model (role "modelData").
     Q_PROPERTY(ObjectListModel *calibrationcycles READ calibrationcycles NOTIFY valueChanged)
+    // Home's line on the calibration (HomeCalibrationState).
+    Q_PROPERTY(QDateTime LastTitrationCalibrationTime READ lastTitrationCalibrationTime NOTIFY lastCalibrationChanged)
+    Q_PROPERTY(QString LastTitrationCalAvg READ lastTitrationCalAvg NOTIFY lastCalibrationChanged)
+    Q_PROPERTY(bool LastTitrationCalVisible READ lastTitrationCalVisible NOTIFY lastCalibrationChanged)
 
 public:
     // Made on first use, with the meter state row loaded.
@@ -290,6 +296,9 @@ public:
     CalibrationCycleModel *calibrationCycleModel() override;
     ObjectListModel *calibrationcycles();
     const QList<CalibrationCycleModel *> &calibrationCycleList() override;
+    QDateTime lastTitrationCalibrationTime() const { return m_homeCalibration->time(); }
+    QString lastTitrationCalAvg() const { return m_homeCalibration->averageText(); }
+    bool lastTitrationCalVisible() const { return m_homeCalibration->visible(); }
     // One finished point of the calibration in hand, into memory.
     void updateCalibrationPoint(float fmV, float pH, float Buff, float Slope, float Offset, float Temp) override;
 
@@ -303,6 +312,9 @@ public slots:
     void loadCalibrationPoints(int calId);
     void deleteCalibrationModelAndPoints();
     void insertATCCalibrationValues(float probeTemperature, float tempInputATC, float offset);
+    // Home's calibration line, for the method's electrode (the meter's read
+    // mode while no method is in use).
+    void getLastCalibrationTimeForTitration();
     // The current reading into the measurement log and the meter state row.
     bool logMeasurement(MeasurementLogModel *log, bool isDataLogNotifOn);
 
@@ -310,4 +322,5 @@ private:
     void meterFreshData();
 
     MeterRecords *m_meterRecords = nullptr;
+    HomeCalibrationState *m_homeCalibration = nullptr;
 };

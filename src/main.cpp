@@ -12,6 +12,7 @@
 #include "databasestartup.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
+#include "models/calibrationmodel.h"
 #include "models/electrodesetupmodel.h"
 #include "models/measurementlogmodel.h"
 #include "models/measurementmodel.h"
@@ -83,6 +84,7 @@ int main(int argc, char *argv[])
     // Types that travel through list properties.
     qmlRegisterAnonymousType<TitrationCycleModel>("Kestrum", 1);
     qmlRegisterAnonymousType<CalibrationCycleModel>("Kestrum", 1);
+    qmlRegisterAnonymousType<CalibrationModel>("Kestrum", 1);
     qmlRegisterAnonymousType<MeasurementModel>("Kestrum", 1);
     qmlRegisterAnonymousType<TitrationLogModel>("Kestrum", 1);
     qmlRegisterAnonymousType<CalibrationLogModel>("Kestrum", 1);

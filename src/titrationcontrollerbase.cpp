@@ -138,6 +138,10 @@ void TitrationControllerBase::qmlStopTitration()
 void TitrationControllerBase::qmlStartRinse()
 {
     EngineDataInterface *data = dm();
+    if (data->rinseCycles() <= 0) {
+        qDebug() << "Rinse refused: no cycles to run";
+        return;
+    }
     data->setLastStartRinseCycles(data->rinseCycles());
     isRinse = true;
     bc->flush();

@@ -22,3 +22,4 @@ var arrowDown = "\ue5db"   // arrow_downward
 var radioOn = "\ue837"     // radio_button_checked
 var radioOff = "\ue836"    // radio_button_unchecked
 var edit = "\ue3c9"       // edit (a pencil)
+var timer = "\ue425"       // timer (a reading still settling)

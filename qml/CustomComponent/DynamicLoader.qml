@@ -25,6 +25,17 @@ Item {
         return popup
     }
 
+    // Opens the calibration stack on the section on show, at its first page.
+    function loadElectrodeCalibration() {
+        var stack = electrodeCalibrationProcessStack
+        mainWindow.lastPageInCurrentStack = mainWindow.currentStack.currentItem
+        stack.start()
+        mainWindow.currentDynamicContent = stack
+        mainWindow.processIndex = 2
+        mainWindow.currentStack.push(stack)
+        sideBar.resetBackButton()
+    }
+
     function loadTitrationValidationPopUp(title, message, name) {
         var popup = create("../TitrationPages/TitrationValidationPopUp.qml", title, message, name)
         if (popup)

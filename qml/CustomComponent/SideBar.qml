@@ -150,7 +150,8 @@ Rectangle {
         id: startMeasureTimer
         interval: 200
         onTriggered: {
-            if (!mainWindow.measureMode) {
+            // A calibration opened in the meantime keeps the meter.
+            if (!mainWindow.measureMode && mainWindow.processIndex !== 2) {
                 measure01.loadStirButton()
                 tc.qmlStartMeasure()
                 mainWindow.measureMode = true

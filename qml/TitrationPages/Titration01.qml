@@ -2,6 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
+import "../CustomComponent"
 
 // The home screen: the last titration, calibration and standardisation of
 // the current method, the way to repeat it, to pick a saved method, or to
@@ -17,6 +18,7 @@ MainContentBackground {
 
     // Refreshes the screen after a change of method or setup.
     function updateUI() {
+        homeCalibrationLine.update()
         dm.getMethodsFromDB()
         lastTitrationLabels.visible = method.lastTitration !== "" && !changedSetup
     }
@@ -220,5 +222,13 @@ MainContentBackground {
         width: 320
         text: qsTr("Start a New Titration") + ls.translatedText
         onClicked: page.startNewTitration()
+    }
+
+    // When and with what average slope the pH electrode was last calibrated.
+    HomeCalibrationLine {
+        id: homeCalibrationLine
+        anchors.left: parent.left
+        anchors.bottom: parent.bottom
+        anchors.margins: 20
     }
 }

@@ -30,6 +30,8 @@ class CalibrationCycleModel : public QObject
     KESTRUM_MODEL_PROPERTY(QDateTime, mcreatedAt, setMcreatedAt)
     KESTRUM_MODEL_PROPERTY(QDateTime, mupdatedAt, setMupdatedAt)
     KESTRUM_MODEL_PROPERTY(float, buffer, setBuffer)
+    // The standard's value the user typed on the live point (not stored).
+    KESTRUM_MODEL_PROPERTY(float, calValueUser, setCalValueUser)
 
 public:
     static const QString tableName;

@@ -1,5 +1,6 @@
 #include "models/calibrationlogmodel.h"
 
+#include "models/calibrationmodel.h"
 #include "models/dbtransaction.h"
 #include "models/dbutil.h"
 #include "models/logcapacity.h"
@@ -50,6 +51,21 @@ void CalibrationLogModel::setId(int id)
 void CalibrationLogModel::saveLogValues(const QVariantMap &calibration)
 {
     saveLogValues(DataLogSetting::isDatalogFullNotifOn(), calibration);
+}
+
+bool CalibrationLogModel::saveLogValues(bool isDataLogNotifOn, CalibrationModel *calibration)
+{
+    if (!calibration || !calibration->isStored()) {
+        qDebug() << "calibrationLog: no stored calibration to log";
+        return false;
+    }
+    QVariantMap row = LogLayout::rowOf(calibration, CalibrationModel::columnTable());
+    row.insert(QStringLiteral("id"), calibration->id());
+    row.insert(QStringLiteral("bufferGroup"), calibration->bufferGroup());
+    row.insert(QStringLiteral("sampleId"), calibration->sampleId());
+    setId(0);
+    saveLogValues(isDataLogNotifOn, row);
+    return id() > 0;
 }
 
 void CalibrationLogModel::saveLogValues(bool isDataLogNotifOn, const QVariantMap &calibration)

@@ -12,6 +12,7 @@
 #include <QVariant>
 #include <QVariantMap>
 
+class CalibrationModel;
 class LogLayout;
 class MethodModel;
 
@@ -66,6 +67,9 @@ public slots:
     void saveLogValues(bool isDataLogNotifOn, const QVariantMap &calibration);
     // With the log-full warning switch as the settings serve it.
     void saveLogValues(const QVariantMap &calibration);
+    // The calibration the screens hold, once it is stored; false (logged)
+    // for none or one never stored.
+    bool saveLogValues(bool isDataLogNotifOn, CalibrationModel *calibration);
     bool deleteRow(int id);
 
 signals:

@@ -65,6 +65,7 @@ void CalibrationModel::load(const QSqlRecord &record)
 {
     columnTable().loadInto(this, record);
     m_id = record.value(QStringLiteral("id")).toInt();
+    m_stored = true;
     m_bufferGroup = record.value(QStringLiteral("bufferGroup")).toString();
     m_sampleId = record.value(QStringLiteral("sampleId")).toString();
     emit valueChanged();
@@ -113,7 +114,8 @@ bool CalibrationModel::writeCalibration(const QList<CalibrationCycleModel *> &cy
         if (!point->setcalibrationCycleValues(m_id))
             return false;
     }
-    return unit.commit();
+    m_stored = unit.commit();
+    return m_stored;
 }
 
 void CalibrationModel::updateAvgSlopeValue(float val)

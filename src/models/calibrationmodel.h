@@ -46,6 +46,9 @@ public:
     static bool migrate(const QString &fromVersion);
 
     int id() const { return m_id; }
+    // Whether this calibration is a row of the table (read or written); the
+    // id of one never stored is a placeholder.
+    bool isStored() const { return m_stored; }
     QString bufferGroup() const { return m_bufferGroup; }
     void setBufferGroup(const QString &group) { m_bufferGroup = group; }
     QString sampleId() const { return m_sampleId; }
@@ -68,6 +71,7 @@ private:
     bool writeCalibration(const QList<CalibrationCycleModel *> &cycles);
 
     int m_id = 0;
+    bool m_stored = false;
     QString m_bufferGroup;
     QString m_sampleId;
 };

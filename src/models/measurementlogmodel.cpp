@@ -26,8 +26,10 @@ MeasurementLogModel::MeasurementLogModel(QObject *parent)
     createTable();
 }
 
-void MeasurementLogModel::takeMeasurement(const MeasurementModel *measurement)
+void MeasurementLogModel::takeMeasurement(MeasurementModel *measurement)
 {
+    if (!measurement)
+        return;
     QVariantMap values = LogLayout::rowOf(measurement, MeasurementModel::columnTable());
     values.insert(QStringLiteral("isAtc"), measurement->isATC());
     values.insert(QStringLiteral("stability"), measurement->stability());

@@ -22,7 +22,8 @@ class MeasurementLogModel : public QObject
     Q_OBJECT
     Q_PROPERTY(int id READ id WRITE setId NOTIFY valueChanged)
     KESTRUM_MODEL_PROPERTY(QVariantMap, measurementValues, setMeasurementValues)
-    Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel CONSTANT)
+    // Written by the screens: the meter's record whose values the next save takes.
+    Q_PROPERTY(MeasurementModel *measurementModel READ measurementModel WRITE takeMeasurement NOTIFY valueChanged)
     KESTRUM_MODEL_PROPERTY(QDateTime, createdAt, setCreatedAt)
     KESTRUM_MODEL_PROPERTY(QDateTime, updatedAt, setUpdatedAt)
 
@@ -41,7 +42,7 @@ public:
     // The logged reading as a meter record, for the screens.
     MeasurementModel *measurementModel() const { return m_measurement; }
     // The values of the next save from the meter's record.
-    void takeMeasurement(const MeasurementModel *measurement);
+    void takeMeasurement(MeasurementModel *measurement);
 
     // Deletes the oldest entry with its report, as one unit.
     static bool pruneOldest();

@@ -445,6 +445,31 @@ TEST_F(LogModels, TheCalibrationInUseOutlivesItsLogEntry)
     EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationCycleTable WHERE calibrationID='%1'").arg(ion.value(QStringLiteral("id")).toInt())), 2);
 }
 
+TEST_F(LogModels, TheScreensLogTheCalibrationAndReadingTheyHold)
+{
+    // The calibration in hand is logged only once stored, under its id.
+    MeterRecords meter;
+    meter.measurementModel()->setReadMode(QStringLiteral("pH"));
+    meter.initiateFromMeasure();
+    meter.updateCalibrationPoint(6.0f, 7.0f, 7.0f, 97.0f, 6.0f, 25.0f, true);
+    CalibrationModel *cal = meter.calibrationModel();
+    EXPECT_FALSE(calibrationLog->saveLogValues(false, cal));
+    EXPECT_FALSE(calibrationLog->saveLogValues(false, static_cast<CalibrationModel *>(nullptr)));
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationLogTable")), 0);
+    ASSERT_TRUE(meter.insertCalibrationValue(false));
+    EXPECT_TRUE(calibrationLog->saveLogValues(false, cal));
+    EXPECT_EQ(calibrationLog->calId(), cal->id());
+    EXPECT_EQ(count(QStringLiteral("SELECT count(*) FROM calibrationLogTable")), 1);
+
+    // The meter's record given to the measurement log is what the save writes.
+    meter.measurementModel()->setScaledValue(9.181f);
+    meter.measurementModel()->setSampleIdValue(QStringLiteral("S-007"));
+    ASSERT_TRUE(measurementLog->setProperty("measurementModel", QVariant::fromValue(meter.measurementModel())));
+    measurementLog->saveLogValues(false);
+    EXPECT_EQ(cell(QStringLiteral("SELECT scaledValue FROM measurementLogTable")).toFloat(), 9.181f);
+    EXPECT_EQ(cell(QStringLiteral("SELECT sampleIdValue FROM measurementLogTable")).toString(), QStringLiteral("S-007"));
+}
+
 TEST_F(LogModels, StandardisationLogWarnsWith5AndDropsTheOldestRunAndReport)
 {
     QSignalSpy spy(standardisationLog.get(), &StandardisationLogModel::notificationSignal);
