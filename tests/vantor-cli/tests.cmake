@@ -33,6 +33,7 @@ if(NOT KESTRUM_ASAN)
     ${PROJECT_SOURCE_DIR}/tools/virtual-instrument/beaker.cpp
     ${PROJECT_SOURCE_DIR}/tools/virtual-instrument/jsonfields.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../common/testsupport.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/../common/algorithmdriver.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../main/gtest_qt_main.cpp
     ${CMAKE_CURRENT_LIST_DIR}/../unit/test_titrationcontroller.cpp)
   target_include_directories(asan_titrationcontroller PRIVATE
