@@ -9,8 +9,7 @@
 #include "controller/algorithms/titrationalgendpoint.h"
 #include "controller/algorithms/titrationalgmillivolt.h"
 #include "controller/algorithms/volumetricdatastore.h"
-#include "controller/enginedatastandin.h"
-#include "system/clock.h"
+#include "standinengine.h"
 
 #include <gtest/gtest.h>
 
@@ -68,22 +67,9 @@ double crossingUl(const Beaker &beaker, double target, double fromMl, double toM
     return 500.0 * (lo + hi);
 }
 
-class ClosedLoopRun : public ::testing::Test
+class ClosedLoopRun : public StandInEngineTest
 {
 protected:
-    void SetUp() override
-    {
-        Clock::setSource(&clock);
-        EngineData::set(&dm);
-        dm.maxVolmL = 20.f;
-        dm.buretteSizeMl = 20.f;
-        dm.preDose = 0.f;
-    }
-    void TearDown() override
-    {
-        Clock::setSource(nullptr);
-        EngineData::set(nullptr);
-    }
 
     AlgorithmDriver::Outcome titrate(const Beaker &beaker, double noiseMv = 0.0, double lagSeconds = 1.5)
     {
@@ -105,9 +91,6 @@ protected:
         EXPECT_TRUE(out.finished) << "the run must end";
         return out;
     }
-
-    ManualClock clock;
-    EngineDataStandIn dm;
 };
 
 // One row per titration: the sample, the method, where the chemistry puts

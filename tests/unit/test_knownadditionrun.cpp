@@ -8,7 +8,7 @@
 #include "controller/algorithms/temporaldatastore.h"
 #include "controller/algorithms/titrationalgmka.h"
 #include "controller/algorithms/volumetricdatastore.h"
-#include "controller/enginedatastandin.h"
+#include "standinengine.h"
 #include "reports/logmanager.h"
 #include "system/clock.h"
 #include "testsupport.h"
@@ -42,17 +42,13 @@ struct MkaOutcome
     std::vector<unsigned int> doses;
 };
 
-class KnownAdditionRun : public ::testing::Test
+class KnownAdditionRun : public StandInEngineTest
 {
 protected:
     void SetUp() override
     {
-        Clock::setSource(&clock);
-        EngineData::set(&dm);
         dm.technique = 3;
         dm.electrode = 2;
-        dm.maxVolmL = 20.f;
-        dm.buretteSizeMl = 20.f;
         dm.totalSolutionVolume = 50.f;
         dm.mkaStandard = 0.1f;
         dm.mkaSample.amount = 50.f; // the whole solution is sample: reports C itself
@@ -62,12 +58,6 @@ protected:
         ise.e0Mv = 250.0;
         ise.slopePct = 98.0;
     }
-    void TearDown() override
-    {
-        Clock::setSource(nullptr);
-        EngineData::set(nullptr);
-    }
-
     MkaOutcome titrate(double noiseMv = 0.05)
     {
         const IseBeaker beaker(ise);
@@ -115,8 +105,6 @@ protected:
     double trueSlope() const { return ise.slopePct / 100.0 * Beaker::nernstSlope(ise.celsius) / ise.charge; }
 
     TempSandbox sandbox;
-    ManualClock clock;
-    EngineDataStandIn dm;
     IseBeaker::Params ise;
 };
 

@@ -2,7 +2,7 @@
 #include "controller/algorithms/temporaldatastore.h"
 #include "controller/algorithms/titrationalgmillivolt.h"
 #include "controller/algorithms/volumetricdatastore.h"
-#include "controller/enginedatastandin.h"
+#include "standinengine.h"
 #include "system/clock.h"
 
 #include <gtest/gtest.h>
@@ -107,21 +107,9 @@ public:
     }
 };
 
-class Algorithm : public ::testing::Test
+class Algorithm : public StandInEngineTest
 {
 protected:
-    void SetUp() override
-    {
-        Clock::setSource(&clock);
-        EngineData::set(&dm);
-        dm.maxVolmL = 20.f;
-        dm.buretteSizeMl = 20.f;
-    }
-    void TearDown() override
-    {
-        Clock::setSource(nullptr);
-        EngineData::set(nullptr);
-    }
 
     // Samples every 250 ms of a signal that drifts at `mvPerSecond`.
     void feed(int count, double mvPerSecond = 0.0)
@@ -147,8 +135,6 @@ protected:
         return 0;
     }
 
-    ManualClock clock;
-    EngineDataStandIn dm;
     TemporalDataStore temporal;
     VolumetricDataStore volumetric;
     double level = 100.0;
