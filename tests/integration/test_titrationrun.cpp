@@ -207,12 +207,12 @@ TEST_F(TitrationRun, CancelDuringTheHomingPollStartsNothing)
 TEST_F(TitrationRun, CancelDuringThePreStirStopsTheTimerAndTheStirrer)
 {
     MethodDraft draft;
-    draft.preStirS = 60;
+    draft.preStirS = 600; // 12 s at the instrument's speed: long enough on a busy host
     draft.stirSpeed = QStringLiteral("Fast");
     start(draft);
     tc->qmlStartTitration();
     ASSERT_TRUE(waitUntil([&] { return tc->preStirring(); }, 10000));
-    EXPECT_EQ(lastStirCommand(), 4);
+    EXPECT_TRUE(waitUntil([&] { return lastStirCommand() == 4; }, 5000)) << "the stirrer was not started";
     tc->qmlStopTitration();
     EXPECT_FALSE(tc->preStirring());
     EXPECT_TRUE(waitUntil([&] { return lastStirCommand() == 0; }, 5000));
