@@ -52,13 +52,13 @@ MainContentBackground {
         titrationStack.push(titration03)
     }
 
-    // The last setup's parts: the titration runs again; the titrant opens
-    // its page of the working method, whose button standardises it; the
-    // electrode opens its page of the working method, saved in place.
+    // The last setup's parts, each opening its page of the working method:
+    // the titration's goes on to the pre-check of a run, the titrant's to its
+    // standardisation, the electrode's is saved in place.
     function tileTapped(tile) {
         if (tile === "titrationTile") {
             mainWindow.isHomeTitrationButton = true
-            repeatLastTitration()
+            dynamicLoader.loadTitrationWithSetup()
         } else if (tile === "titrantTile") {
             dynamicLoader.loadTitrantStandardizationWithSetup()
         } else if (tile === "electrodeTile") {

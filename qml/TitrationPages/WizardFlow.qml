@@ -73,9 +73,7 @@ QtObject {
         electrode.setElectrodeSetupValues()
         titrant.setTitrantSetupValues(electrode.electrodeType, false)
         titration.setTitrationSetupValues(electrode.electrodeType)
-        titrationPreCheck.changeHeaderButtonText()
-        mainWindow.fromHomeStack = true
-        mainWindow.currentStack.push(titrationPreCheck)
+        titration01.repeatLastTitration()
     }
 
     function finish(mka) {
