@@ -455,6 +455,17 @@ ApplicationWindow {
         Titration06 { id: titration06; visible: false }
         TitrantSetupMKA { id: titrantSetupMka; visible: false }
         TitrationSetupMKA { id: titrationSetupMka; visible: false }
+        // The same pages for the working method outside the wizard (DynamicLoader).
+        ElectrodeSetupDynamic { id: electrodeSetupDynamic; onlySetup: false; visible: false }
+        ElectrodeSetupDynamic { id: electrodeSetupOnly; visible: false }
+        TitrantSetupDynamic { id: titrantSetupDynamic; visible: false }
+        TitrantSetupDynamic { id: titrantSetupOnly; onlySetup: true; visible: false }
+        TitrantSetupMkaDynamic { id: titrantSetupMkaDynamic; visible: false }
+        TitrantSetupMkaDynamic { id: titrantSetupMkaOnly; onlySetup: true; visible: false }
+        TitrationSetupDynamic { id: titrationSetupDynamic; visible: false }
+        TitrationSetupDynamic { id: titrationSetupOnly; onlySetup: true; visible: false }
+        TitrationSetupMkaDynamic { id: titrationSetupMkaDynamic; visible: false }
+        TitrationSetupMkaDynamic { id: titrationSetupMkaOnly; onlySetup: true; visible: false }
         UserDefinedProcessControll { id: userDefinedProcessControll; visible: false }
         EntryPage { id: entryPage; visible: false }
         MultipleOptionsPage { id: multipleOptionsPage; visible: false }

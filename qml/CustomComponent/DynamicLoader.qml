@@ -77,6 +77,22 @@ Item {
         mainWindow.currentStack.push(titration14)
     }
 
+    // The setup pages of the working method, opened from the page on show,
+    // which the standardisation's summary comes back to. A known-addition
+    // electrode has its own titrant and titration pages.
+    function openSetupPage(setupPage) {
+        mainWindow.lastPageInCurrentStack = mainWindow.currentStack.currentItem
+        setupPage.loadModelData()
+        mainWindow.currentStack.push(setupPage)
+    }
+    function isMka() { return electrode.electrodeType === "ISE-MKA" }
+    function loadElectrodeSetup() { openSetupPage(electrodeSetupOnly) }
+    function loadElectrodeCalibrationWithSetup() { openSetupPage(electrodeSetupDynamic) }
+    function loadTitrantSetup() { openSetupPage(isMka() ? titrantSetupMkaOnly : titrantSetupOnly) }
+    function loadTitrantStandardizationWithSetup() { openSetupPage(isMka() ? titrantSetupMkaDynamic : titrantSetupDynamic) }
+    function loadTitrationSetup() { openSetupPage(isMka() ? titrationSetupMkaOnly : titrationSetupOnly) }
+    function loadTitrationWithSetup() { openSetupPage(isMka() ? titrationSetupMkaDynamic : titrationSetupDynamic) }
+
     // After the success popup's 3 seconds, by its label.
     function callbc() {
         var label = successPopup ? successPopup.label : ""

@@ -52,17 +52,17 @@ MainContentBackground {
         titrationStack.push(titration03)
     }
 
-    // The last setup's parts: the titration runs again, a standardised
-    // titrant is standardised again, the electrode goes to its calibration
-    // (the calibration screens' loader, where they are installed).
+    // The last setup's parts, each opening its page of the working method:
+    // the titration's goes on to the pre-check of a run, the titrant's to its
+    // standardisation, the electrode's is saved in place.
     function tileTapped(tile) {
         if (tile === "titrationTile") {
             mainWindow.isHomeTitrationButton = true
-            repeatLastTitration()
-        } else if (tile === "titrantTile" && titrant.concInputMode !== "Manual Entry") {
-            titrationPreCheck.standardize()
-        } else if (tile === "electrodeTile" && typeof dynamicLoader.loadElectrodeCalibrationWithSetup === "function") {
-            dynamicLoader.loadElectrodeCalibrationWithSetup()
+            dynamicLoader.loadTitrationWithSetup()
+        } else if (tile === "titrantTile") {
+            dynamicLoader.loadTitrantStandardizationWithSetup()
+        } else if (tile === "electrodeTile") {
+            dynamicLoader.loadElectrodeSetup()
         }
     }
 

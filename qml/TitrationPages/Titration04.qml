@@ -5,6 +5,7 @@ import "WizardRows.js" as WizardRows
 // resolution, buffer group or ISE type). A new type starts the whole method
 // anew from that type's defaults.
 WizardListPage {
+    id: page
     objectName: "Setup Electrode"
     header3Text: qsTr("Setup Electrode") + ls.translatedText
     nextText: qsTr("Next: Setup Titrant") + ls.translatedText
@@ -59,7 +60,7 @@ WizardListPage {
         if (title === "Electrode Name") {
             entryPage.openName("electrodeName", electrode.electrodeName, function (v) {
                 electrode.electrodeName = v[0]
-                titration04.loadModelData()
+                page.loadModelData()
                 mainWindow.electrodeChanged()
             })
         }

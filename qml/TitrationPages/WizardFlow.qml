@@ -38,6 +38,44 @@ QtObject {
         return titration.setTitrationSetupValues(electrode.electrodeType)
     }
 
+    function methodUpdated() {
+        dynamicLoader.loadSuccessPopUp(qsTr("Method Updated") + ls.translatedText,
+                                       method.methodName + qsTr(" - has been saved with your new settings.") + ls.translatedText, "")
+    }
+
+    // The end of a setup page opened on its own (onlySetup): back to where
+    // it was opened from, the method updated.
+    function setupSaved() {
+        mainWindow.currentStack.pop()
+        mainWindow.processIndex = -1
+        methodUpdated()
+    }
+
+    // From the titrant page of the working method to the standardisation's
+    // pre-check; its summary comes back to where the page was opened from.
+    function standardizeFromSetup() {
+        var back = mainWindow.lastPageInCurrentStack
+        titrationPreCheck.standardize()
+        mainWindow.lastPageInCurrentStack = back
+    }
+
+    // The end of a titration page of the working method opened outside the
+    // wizard: stored and back (onlySetup), or stored and on to the pre-check.
+    function finishSetup(mka, onlySetup) {
+        if (!check(mka))
+            return
+        setSampleIdValuePopup()
+        if (onlySetup) {
+            titration.setTitrationSetupValues(electrode.electrodeType)
+            setupSaved()
+            return
+        }
+        electrode.setElectrodeSetupValues()
+        titrant.setTitrantSetupValues(electrode.electrodeType, false)
+        titration.setTitrationSetupValues(electrode.electrodeType)
+        titration01.repeatLastTitration()
+    }
+
     function finish(mka) {
         if (!check(mka))
             return
@@ -47,8 +85,7 @@ QtObject {
             titration04.editingMethodId = 0
             titration21.populateModel()
             stack.pop(null)
-            dynamicLoader.loadSuccessPopUp(qsTr("Method Updated") + ls.translatedText,
-                                           method.methodName + qsTr(" - has been saved with your new settings.") + ls.translatedText, "")
+            methodUpdated()
             return
         }
         if (stack === methodStack) {

@@ -187,6 +187,41 @@ TEST_F(Screens, EverySectionAndItsFunctionsRunClean)
     EXPECT_EQ(warnings(), QString());
 }
 
+// The pages of the working method opened on their own: each shows its own
+// last button, and the Save of each writes, closes and says so.
+TEST_F(Screens, WorkingMethodPagesSaveOnTheirOwn)
+{
+    call("skipToHome");
+    QObject *loader = byId(QStringLiteral("dynamicLoader"));
+    QObject *stack = byId(QStringLiteral("titrationStack"));
+    const struct {
+        const char *load;
+        const char *button;
+        bool saves;
+    } cases[] = {{"loadElectrodeSetup", "Save", true},
+                 {"loadTitrantSetup", "Save", true},
+                 {"loadTitrationSetup", "Save", true},
+                 {"loadTitrationWithSetup", "Next", false},
+                 {"loadElectrodeCalibrationWithSetup", "Next", false}};
+    for (const auto &c : cases) {
+        QMetaObject::invokeMethod(loader, c.load);
+        QTest::qWait(100); // a frame: the rows and the button are laid out
+        UiScene scene(root);
+        QQuickItem *button = scene.itemWithText(QString::fromLatin1(c.button));
+        ASSERT_TRUE(button) << c.load;
+        EXPECT_EQ(stack->property("depth").toInt(), 2) << c.load;
+        if (c.saves) {
+            scene.tap(button);
+            EXPECT_TRUE(scene.showsText(QStringLiteral("Method Updated"))) << c.load;
+            call("hidePopup");
+        } else {
+            call("backButtonAction");
+        }
+        EXPECT_EQ(stack->property("depth").toInt(), 1) << c.load;
+    }
+    EXPECT_EQ(warnings(), QString());
+}
+
 TEST_F(Screens, NotificationsWaitInTurnAndGoWhenClosed)
 {
     for (int etype = 1; etype <= 9; ++etype)
