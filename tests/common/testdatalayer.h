@@ -3,6 +3,19 @@
 #include "datamanagerbase.h"
 #include "testdatabase.h"
 
+#include <gtest/gtest.h>
+
+#include <memory>
+
+// The application's data layer as it starts: its models, log files and the
+// method last changed loaded from the open database.
+inline std::unique_ptr<DataManagerBase> startedDataManager()
+{
+    auto dm = std::make_unique<DataManagerBase>();
+    dm->DataManagerLegacyInit();
+    return dm;
+}
+
 // The application's data layer on a fresh database in a temporary sandbox:
 // while it lives, the engine (slave link, burette, run controller) asks it
 // as it asks the data layer on the instrument.
@@ -18,4 +31,14 @@ struct TestDataLayer {
         dm.engine()->getConsoleMes(&text);
         return text;
     }
+};
+
+// A test on a fresh database that starts the data layer itself, as often
+// as it needs (a second start reads what the first stored).
+class DataLayerTest : public ::testing::Test
+{
+protected:
+    TestDatabase db;
+
+    std::unique_ptr<DataManagerBase> start() { return startedDataManager(); }
 };

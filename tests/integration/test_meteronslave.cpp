@@ -10,6 +10,7 @@
 #include "models/calibrationmodel.h"
 #include "models/measurementmodel.h"
 #include "testdatabase.h"
+#include "testdatalayer.h"
 #include "testsupport.h"
 #include "virtualinstrumentprocess.h"
 
@@ -73,8 +74,7 @@ protected:
     // The data manager of a (re)started application on the same file.
     void makeDataManager()
     {
-        auto fresh = std::make_unique<DataManagerBase>();
-        fresh->DataManagerLegacyInit();
+        auto fresh = startedDataManager();
         dm = std::move(fresh);
     }
 

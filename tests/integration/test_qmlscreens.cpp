@@ -25,6 +25,7 @@
 #include "uidriver.h"
 #include "uiscene.h"
 #include "testdatabase.h"
+#include "testdatalayer.h"
 #include "titrationcontrollerbase.h"
 
 #include <QDirIterator>
@@ -49,8 +50,7 @@ class Screens : public ::testing::Test
 protected:
     void SetUp() override
     {
-        dm = std::make_unique<DataManagerBase>();
-        dm->DataManagerLegacyInit();
+        dm = startedDataManager();
         msp = std::make_unique<mspController>(QStringLiteral("/nonexistent/tty"));
         bc = std::make_unique<BuretteController>(msp.get());
         mc = std::make_unique<MeterController>(msp.get(), dm.get());

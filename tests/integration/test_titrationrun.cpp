@@ -16,6 +16,7 @@
 #include "reports/logmanager.h"
 #include "system/clock.h"
 #include "testdatabase.h"
+#include "testdatalayer.h"
 #include "models/importexport.h"
 #include "testsupport.h"
 #include "titrationcontrollerbase.h"
@@ -54,8 +55,7 @@ protected:
     {
         // The content of the file is not what these runs check.
         TestDatabase::exec(QStringLiteral("PRAGMA synchronous=OFF"));
-        dm = std::make_unique<DataManagerBase>();
-        dm->DataManagerLegacyInit();
+        dm = startedDataManager();
     }
     void TearDown() override
     {

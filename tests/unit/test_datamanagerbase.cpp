@@ -8,7 +8,7 @@
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "reports/logmanager.h"
-#include "testdatabase.h"
+#include "testdatalayer.h"
 
 #include <QDirIterator>
 #include <QSignalSpy>
@@ -28,17 +28,8 @@ int saveMethod(const QString &name)
     return m.id();
 }
 
-class DataManager : public ::testing::Test
+class DataManager : public DataLayerTest
 {
-protected:
-    TestDatabase db;
-
-    std::unique_ptr<DataManagerBase> start()
-    {
-        auto dm = std::make_unique<DataManagerBase>();
-        dm->DataManagerLegacyInit();
-        return dm;
-    }
 };
 
 TEST_F(DataManager, MethodListsAndRunCyclesDoNotPileUpObjects)

@@ -9,7 +9,7 @@
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "reports/logmanager.h"
-#include "testdatabase.h"
+#include "testdatalayer.h"
 
 #include <QDirIterator>
 #include <QSignalSpy>
@@ -105,17 +105,8 @@ void expectEngineSees(const DataManagerBase &dm, const Expected &x)
 const Expected kTitration{3, 4.5f, 8.2f, 9.1f, 0, 1, 11.f, 0.02f, 0.3f, 4.f, 3.f, 30.f, 150.f, 1.5f, 20, 12.f, 4};
 const Expected kTitrant{2, 7.0f, 5.5f, 5.5f, 1, 3, 22.f, 0.05f, 0.4f, 6.f, 5.f, 50.f, 250.f, 0.7f, 15, 9.f, 1};
 
-class EnginePort : public ::testing::Test
+class EnginePort : public DataLayerTest
 {
-protected:
-    TestDatabase db;
-
-    std::unique_ptr<DataManagerBase> start()
-    {
-        auto dm = std::make_unique<DataManagerBase>();
-        dm->DataManagerLegacyInit();
-        return dm;
-    }
 };
 
 TEST_F(EnginePort, EngineAsksTheTitrationPartInTitrationAndTheTitrantPartInStandardization)

@@ -16,6 +16,7 @@
 #include "models/setupmodel.h"
 #include "system/clock.h"
 #include "testdatabase.h"
+#include "testdatalayer.h"
 
 #include <QSignalSpy>
 #include <QSqlQuery>
@@ -60,8 +61,7 @@ protected:
         mc.reset();
         dm.reset();
         db.reopen();
-        dm = std::make_unique<DataManagerBase>();
-        dm->DataManagerLegacyInit();
+        dm = startedDataManager();
         mc = std::make_unique<MeterController>(nullptr, dm.get());
         dm->engine()->setRawTemperatureCelcius(25.0f);
     }
