@@ -24,6 +24,17 @@ function sigFigsDec(n, sig, dec) {
     return x
 }
 
+// Decimals of a resolution: 0 for a whole number, else the place of the
+// first "1" after the point, and 2 for anything finer than 0.001.
+function countDecimal(resolution) {
+    var r = Number(resolution)
+    if (!(r > 0) || Math.floor(r) === r)
+        return 0
+    var text = r.toFixed(6).split(".")[1]
+    var place = text.indexOf("1") + 1
+    return place > 0 && place <= 3 ? place : 2
+}
+
 // A resolution (0.1, 0.01, 0.001) as a number of decimals.
 function convertFloatResToInt(resolutionAsFloat) {
     if (resolutionAsFloat > 0.09 && resolutionAsFloat < 0.11)

@@ -1,5 +1,6 @@
 import QtQuick 2.12
 import QtQuick.Controls 2.12
+import "../Constants/NumberFormat.js" as NumberFormat
 import "MeterFormat.js" as MeterFormat
 
 // The calibration of an electrode, point by point: start, live point with
@@ -31,7 +32,7 @@ StackView {
     function phDecimals() {
         var resolution = mainWindow.currentStack === measureStack ? measurement.resolution
                                                                    : (dm.calibrationModel ? dm.calibrationModel.resolution : 0.01)
-        return MeterFormat.countDecimal(resolution)
+        return NumberFormat.countDecimal(resolution)
     }
 
     // A new calibration starts at its first page.

@@ -6,17 +6,6 @@
 var outOfRangeValue = 9999   // the meter's "no value"
 var maxMv = 2000.9           // beyond this the reading is "mV OverRange"
 
-// Decimals of a resolution: 0 for a whole number, else the place of the
-// first "1" after the point, and 2 for anything finer than 0.001.
-function countDecimal(resolution) {
-    var r = Number(resolution)
-    if (!(r > 0) || Math.floor(r) === r)
-        return 0
-    var text = r.toFixed(6).split(".")[1]
-    var place = text.indexOf("1") + 1
-    return place > 0 && place <= 3 ? place : 2
-}
-
 // The value of a reading in its mode: pH to the resolution, redox to 0.1,
 // ISE to its significant digits.
 function valueText(value, readMode, decimals, significantDigits) {
@@ -36,7 +25,7 @@ function readingText(r) {
         return r.message
     if (r.outOfRange || Number(r.value) === outOfRangeValue)
         return "Out of Range"
-    return valueText(r.value, r.readMode, countDecimal(r.resolution), r.significantDigits)
+    return valueText(r.value, r.readMode, NumberFormat.countDecimal(r.resolution), r.significantDigits)
 }
 
 // The live point of a calibration; "" while it has no value.

@@ -1,4 +1,5 @@
 .pragma library
+.import "../Constants/NumberFormat.js" as NumberFormat
 // The arithmetic and checks of the run screens and their summaries.
 
 // The sample id of the next run: an id ending in "_" and three digits counts
@@ -9,11 +10,7 @@ function nextSampleId(id) {
     var suffix = text.substring(n - 3)
     if (!/[0-9]$/.test(text) || n < 4 || text.charAt(n - 4) !== "_" || !/^[0-9]{3}$/.test(suffix))
         return text + "_001"
-    var next = parseInt(suffix, 10) + 1
-    var padded = String(next)
-    while (padded.length < 3)
-        padded = "0" + padded
-    return text.substring(0, n - 3) + padded
+    return text.substring(0, n - 3) + NumberFormat.leftPad(parseInt(suffix, 10) + 1, 3)
 }
 
 // The text of the run button before cycle `cycleIndex`; "" from cycle 6 on,
@@ -75,17 +72,6 @@ function rsdText(values, included) {
     for (var j = 0; j < picked.length; ++j)
         squares += (picked[j] - m) * (picked[j] - m)
     return (Math.sqrt(squares / (picked.length - 1)) / m * 100).toFixed(2) + "%"
-}
-
-// The decimals of a resolution given as 1, 0.1, 0.01...: 0 for a whole
-// number, else the place of its "1", 2 for anything past three places.
-function countDecimal(resolution) {
-    var text = String(resolution)
-    var dot = text.indexOf(".")
-    if (dot < 0)
-        return 0
-    var place = text.indexOf("1", dot) - dot
-    return place > 0 && place <= 3 ? place : 2
 }
 
 // A number from text that may be in exponent notation ("1.5e-05").

@@ -3,6 +3,7 @@ import QtCharts 2.3
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
 import "../Constants/Icons.js" as Icons
+import "../Constants/NumberFormat.js" as NumberFormat
 import "RunMath.js" as RunMath
 
 // The full-screen run: the live curve (or, for a known addition, the table
@@ -116,7 +117,7 @@ Rectangle {
         }
         splineSeries.append(point.x, y)
         ++counter
-        pHValueLabel.text = (phDisplay ? "pH: " : "mV: ") + y.toFixed(phDisplay ? RunMath.countDecimal(electrode.resolution) : 1)
+        pHValueLabel.text = (phDisplay ? "pH: " : "mV: ") + y.toFixed(phDisplay ? NumberFormat.countDecimal(electrode.resolution) : 1)
         mLValueLabel.text = "mL: " + point.x.toFixed(3)
     }
 

@@ -2,6 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
+import "../Constants/NumberFormat.js" as NumberFormat
 import "RunMath.js" as RunMath
 
 // The end of a titration: the stored cycles, the average and RSD of those
@@ -42,7 +43,7 @@ MainContentBackground {
         summary.initialTitle = titration.displayUnits === "pH" && electrode.electrodeType === "pH" ? "pH" : "mV"
         summary.averageLabel = blankMode ? qsTr("Avg Blank(mmol)") : qsTr("Avg Conc. (") + resultUnit() + ")"
         summary.concTitle = blankMode ? qsTr("Blank Value(mmol)") : qsTr("Conc. (") + resultUnit() + ")"
-        var decimals = RunMath.countDecimal(electrode.resolution)
+        var decimals = NumberFormat.countDecimal(electrode.resolution)
         var i
         if (isMka) {
             var mka = dm.mkaTitrationCycle

@@ -47,6 +47,17 @@ TestCase {
         compare(NumberFormat.convertFloatResToInt(data.r), data.expected)
     }
 
+    function test_countDecimal_data() {
+        return [
+            { tag: "whole", r: 1, expected: 0 }, { tag: "0.1", r: 0.1, expected: 1 },
+            { tag: "0.01", r: 0.01, expected: 2 }, { tag: "0.001", r: 0.001, expected: 3 },
+            { tag: "finer than 0.001", r: 0.0001, expected: 2 }
+        ]
+    }
+    function test_countDecimal(data) {
+        compare(NumberFormat.countDecimal(data.r), data.expected)
+    }
+
     function test_leftPad() {
         compare(NumberFormat.leftPad(7, 2), "07")
         compare(NumberFormat.leftPad(5, 4), "0005")

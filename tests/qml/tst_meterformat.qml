@@ -29,17 +29,6 @@ TestCase {
         compare(MeterFormat.readingText(data.r), data.expected)
     }
 
-    function test_countDecimal_data() {
-        return [
-            { tag: "whole", r: 1, expected: 0 }, { tag: "0.1", r: 0.1, expected: 1 },
-            { tag: "0.01", r: 0.01, expected: 2 }, { tag: "0.001", r: 0.001, expected: 3 },
-            { tag: "finer than 0.001", r: 0.0001, expected: 2 }
-        ]
-    }
-    function test_countDecimal(data) {
-        compare(MeterFormat.countDecimal(data.r), data.expected)
-    }
-
     function test_standard_data() {
         return [
             { tag: "pH buffer", text: "7.00", mode: "pH", dec: 2, expected: "" },

@@ -75,19 +75,6 @@ TestCase {
         compare(RunMath.rsdText(data.v, data.f), data.rsd)
     }
 
-    function test_countDecimal_data() {
-        return [
-            { tag: "whole", r: 1, expected: 0 },
-            { tag: "0.1", r: 0.1, expected: 1 },
-            { tag: "0.01", r: 0.01, expected: 2 },
-            { tag: "0.001", r: 0.001, expected: 3 },
-            { tag: "beyond three places", r: 0.0001, expected: 2 }
-        ]
-    }
-    function test_countDecimal(data) {
-        compare(RunMath.countDecimal(data.r), data.expected)
-    }
-
     function test_mkaAverages() {
         var a = RunMath.mkaAverages([
             { volume: 0.1, mVvalue: 100, calConc: 0, precision: 999 },
