@@ -1,8 +1,7 @@
 import QtQuick 2.12
 import "RunMath.js" as RunMath
 
-// Asks for the sample id of the run before it starts (or, on the Measure
-// section, of the measurement).
+// Asks for the sample id of the run before it starts.
 EntryPopup {
     id: popup
     title: qsTr("Manual Sample Id") + ls.translatedText
@@ -11,7 +10,7 @@ EntryPopup {
     secondButtonText: qsTr("Cancel") + ls.translatedText
 
     function ask() {
-        textInputLastValue = mainWindow.currentStack === measureStack ? measurement.sampleIdValue : titration.sampleIDValue
+        textInputLastValue = titration.sampleIDValue
         mainWindow.showPopup(popup)
     }
 
@@ -21,14 +20,6 @@ EntryPopup {
         var message = RunMath.sampleIdError(id, mainWindow.formatNum)
         if (message !== "") {
             refuse(qsTr(message) + ls.translatedText)
-            return
-        }
-        if (mainWindow.currentStack === measureStack) {
-            measurement.sampleIdValue = id
-            measurement.sampleId = "Manual"
-            mainWindow.hideSinglePopup(popup)
-            measurementLogModel.saveLogValues(setup.isDatalogFullNotifOn)
-            measurement.setMeasurementValues(measurement)
             return
         }
         titration.sampleIDValue = id
