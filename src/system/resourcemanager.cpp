@@ -46,3 +46,13 @@ void ResourceManager::updateSystem()
     qDebug() << "ResourceManager: no software update is available here";
     setVersionStatusQml(QStringLiteral("No update found"));
 }
+
+void ResourceManager::beep(int freq_hz, int duration_ms)
+{
+    qDebug() << "ResourceManager: beep" << freq_hz << "Hz for" << duration_ms << "ms";
+}
+
+void ResourceManager::stopBeep()
+{
+    qDebug() << "ResourceManager: beeper stopped";
+}
