@@ -104,7 +104,12 @@ int main(int argc, char *argv[])
     ResourceManager *rm = ResourceManager::rmPtr(); // USB disk, beeper, network, update
     // Network discovery (on loopback only in a host build) and its info file.
     auto *discovery = new NetworkDiscovery([dm, rm] { return describeInstrument(dm, rm); }, rm);
+    // The info file follows the address, and the identity as it becomes known.
     QObject::connect(rm, &ResourceManager::ipAddressChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    QObject::connect(dm, &DataManagerBase::titratorModelStringChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    QObject::connect(dm, &DataManagerBase::mfgSerialNumChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    QObject::connect(dm->setupModel(), &SetupModel::valueChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    rm->refreshIpAddress();
     discovery->updateJSONDiscoveryFile();
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     // The remote command port: watches for "/dev/ttyMFG"; an attached host has the slave's line.
