@@ -56,7 +56,9 @@ void cmdSerialPort::onPortAddedOrRemoved()
     const QStringList entries = info.dir().entryList({QStringLiteral("*ttyMFG*")},
                                                      QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
     const bool present = entries.contains(info.fileName());
-    if (!present && m_port->isOpen()) {
+    // A device that went and came back between two looks is another line.
+    const bool replaced = present && m_port->isOpen() && info.canonicalFilePath() != m_openedNode;
+    if ((!present || replaced) && m_port->isOpen()) {
         m_port->close();
         m_port->clearError();
         m_input.clear();
@@ -65,7 +67,8 @@ void cmdSerialPort::onPortAddedOrRemoved()
         emit daqOn();
         m_readTimer->stop();
         qDebug() << "Closed cmd interface";
-    } else if (present && !m_port->isOpen() && !m_openScheduled) {
+    }
+    if (present && !m_port->isOpen() && !m_openScheduled) {
         // The device node needs a moment to settle.
         m_openScheduled = true;
         QTimer::singleShot(m_settleMs, this, &cmdSerialPort::portOpen);
@@ -82,6 +85,7 @@ void cmdSerialPort::portOpen()
     m_port->setParity(QSerialPort::NoParity);
     m_port->setStopBits(QSerialPort::OneStop);
     m_port->setFlowControl(QSerialPort::NoFlowControl);
+    m_openedNode = QFileInfo(m_device).canonicalFilePath();
     m_input.clear();
     m_discarding = false;
     stopPoll();

@@ -69,6 +69,7 @@ private:
 
     RemotePortHost *m_host;
     QString m_device;
+    QString m_openedNode;
     QSerialPort *m_port;
     QTimer *m_readTimer;
     QFileSystemWatcher *m_watcher;

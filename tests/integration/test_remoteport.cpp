@@ -133,6 +133,10 @@ TEST(RemotePort, TheHostHasTheSlaveToItselfAndDetachingRestartsThePoll)
 
     ASSERT_TRUE(pc.attach());
     EXPECT_EQ(msp.daqState(), mspController::DaqStopped);
+    // A poll sent just before the stop still has its reply mirrored: it is
+    // through before the answer to an exchange of the port's own.
+    ASSERT_TRUE(waitUntil([&] { return !msp.msp->probeInFlight(); }));
+    pc.exchange("model_type\r");
     pc.received.clear();
     pc.line.write("SYSTEM\r");
     ASSERT_TRUE(waitUntil([&] { return pc.received.contains("\r"); })) << pc.received.constData();
