@@ -5,6 +5,7 @@
 
 #include "appconstants.h"
 #include "controller/burettecontroller.h"
+#include "controller/cmdserialport.h"
 #include "controller/metercontroller.h"
 #include "controller/mspcontroller.h"
 #include "controller/reportcontroller.h"
@@ -28,7 +29,10 @@
 #include "models/titrantsetupmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "hostspeed.h"
+#include "instrumentconsolehost.h"
+#include "instrumentdescription.h"
 #include "system/languageselector.h"
+#include "system/networkdiscovery.h"
 #include "system/platform.h"
 #include "system/resourcemanager.h"
 #include "uidriver.h"
@@ -98,10 +102,27 @@ int main(int argc, char *argv[])
     // those before it.
     DataManagerBase *dm = DataManagerBase::dmPtr(); // the data layer; the engine's from here on
     ResourceManager *rm = ResourceManager::rmPtr(); // USB disk, beeper, network, update
+    // Network discovery (on loopback only in a host build) and its info file.
+    auto *discovery = new NetworkDiscovery([dm, rm] { return describeInstrument(dm, rm); }, rm);
+    // The info file follows the address, and the identity as it becomes known.
+    QObject::connect(rm, &ResourceManager::ipAddressChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    QObject::connect(dm, &DataManagerBase::titratorModelStringChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    QObject::connect(dm, &DataManagerBase::mfgSerialNumChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    QObject::connect(dm->setupModel(), &SetupModel::valueChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    rm->refreshIpAddress();
+    discovery->updateJSONDiscoveryFile();
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
+    // The remote command port: watches for "/dev/ttyMFG"; an attached host has the slave's line.
+    auto *consoleHost = new InstrumentConsoleHost(dm, rm);
+    auto *csp = new cmdSerialPort(consoleHost);
+    QObject::connect(csp, &cmdSerialPort::remoteMspCmdPacketReady, msp, &mspController::parseRmtCmdPacket);
+    QObject::connect(csp, &cmdSerialPort::daqOff, msp, &mspController::mspStopDAQ);
+    QObject::connect(csp, &cmdSerialPort::daqOn, msp, &mspController::mspStartDAQ);
+    QObject::connect(msp, &mspController::mirrorFromMSP, csp, &cmdSerialPort::writeMspResponse);
     BuretteController *bc = BuretteController::bcPtr(); // its 250 ms state timer
     MeterController *mc = MeterController::mcPtr(dm); // the measurement engine, lent to the data layer
     TitrationControllerBase *tc = TitrationControllerBase::tcPtr(); // the run controller; sets the backlight
+    consoleHost->setRunController(tc); // the remote port never stops the poll during a run
     // Host builds: KESTRUM_SPEED runs the clock faster, with the virtual instrument's.
     HostSpeed::apply(HostSpeed::fromEnvironment(), msp, bc, tc, dm->setupModel());
 

@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QHostAddress>
 #include <QNetworkInterface>
+#include <QStringList>
 
 ResourceManager *ResourceManager::rmPtr()
 {
@@ -27,14 +28,16 @@ void ResourceManager::setVersionStatusQml(const QString &text)
 
 void ResourceManager::refreshIpAddress()
 {
-    QString address;
+    // Every IPv4 address but 127.0.0.1, comma separated (two interfaces, two addresses).
+    QStringList addresses;
     const auto all = QNetworkInterface::allAddresses();
     for (const QHostAddress &a : all) {
-        if (a.protocol() == QAbstractSocket::IPv4Protocol && !a.isLoopback()) {
-            address = a.toString();
-            break;
+        if (a.protocol() == QAbstractSocket::IPv4Protocol && a != QHostAddress(QHostAddress::LocalHost)) {
+            qDebug() << "Found IP Address:" << a.toString();
+            addresses << a.toString();
         }
     }
+    const QString address = addresses.join(QLatin1Char(','));
     if (address != m_ipAddress) {
         m_ipAddress = address;
         emit ipAddressChanged();
@@ -45,4 +48,14 @@ void ResourceManager::updateSystem()
 {
     qDebug() << "ResourceManager: no software update is available here";
     setVersionStatusQml(QStringLiteral("No update found"));
+}
+
+void ResourceManager::beep(int freq_hz, int duration_ms)
+{
+    qDebug() << "ResourceManager: beep" << freq_hz << "Hz for" << duration_ms << "ms";
+}
+
+void ResourceManager::stopBeep()
+{
+    qDebug() << "ResourceManager: beeper stopped";
 }

@@ -32,6 +32,9 @@ public slots:
     void refreshIpAddress();
     void playNotify() {}
     void playWarning() {}
+    // The beeper: a duration of 0 sounds until stopBeep().
+    void beep(int freq_hz, int duration_ms);
+    void stopBeep();
     void updateSystem();
 
 signals:

@@ -1,8 +1,10 @@
 // vantor-cli: the instrument's headless console, for method development,
 // validation and service work.
 
+#include "discovercommand.h"
 #include "meterrunner.h"
 #include "methodcommand.h"
+#include "remoteportcommand.h"
 #include "titrateoptions.h"
 #include "titraterunner.h"
 #include "uiscript.h"
@@ -33,8 +35,11 @@ QString mainUsage()
                           "  measure   read the electrode of a scenario until the reading is stable\n"
                           "  calibrate calibrate the electrode of a scenario with buffers or standards\n"
                           "  method    install a method file, or list the stored methods\n"
-                          "  ui        run a UI driver script against the running application\n\n")
-           + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n") + UiScript::usage();
+                          "  ui        run a UI driver script against the running application\n"
+                          "  discover  list the instruments that answer on the network\n"
+                          "  remote    send commands to an instrument's remote port\n\n")
+           + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n") + UiScript::usage()
+           + QStringLiteral("\n") + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage();
 }
 
 } // namespace
@@ -76,6 +81,14 @@ int main(int argc, char *argv[])
             return 0;
         }
         return MethodCommand::run(args, out, err);
+    }
+    if (command == QLatin1String("discover") || command == QLatin1String("remote")) {
+        const bool discover = command == QLatin1String("discover");
+        if (args.contains(QStringLiteral("--help"))) {
+            out << (discover ? DiscoverCommand::usage() : RemotePortCommand::usage());
+            return 0;
+        }
+        return discover ? DiscoverCommand::run(args, out, err) : RemotePortCommand::run(args, out, err);
     }
     if (command == QLatin1String("ui")) {
         if (args.contains(QStringLiteral("--help"))) {

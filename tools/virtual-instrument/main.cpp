@@ -19,18 +19,29 @@
 
 namespace {
 
-char g_link[4096];
-char g_target[4096];
+// The links this program made (the slave's line, and with --remote-host the
+// remote port's two ends) and where each points.
+constexpr int kLinks = 3;
+char g_link[kLinks][4096];
+char g_target[kLinks][4096];
 
-// Takes the link away on the way out, if it is still ours.
+void rememberLink(int i, const QString &link, const QString &target)
+{
+    std::strncpy(g_link[i], QFile::encodeName(link).constData(), sizeof g_link[i] - 1);
+    std::strncpy(g_target[i], QFile::encodeName(target).constData(), sizeof g_target[i] - 1);
+}
+
+// Takes the links away on the way out, those that are still ours.
 void onTerminate(int)
 {
-    char buf[sizeof g_target];
-    const ssize_t n = ::readlink(g_link, buf, sizeof buf - 1);
-    if (n > 0) {
-        buf[n] = '\0';
-        if (std::strcmp(buf, g_target) == 0)
-            ::unlink(g_link);
+    for (int i = 0; i < kLinks; ++i) {
+        char buf[sizeof g_target[i]];
+        const ssize_t n = g_link[i][0] ? ::readlink(g_link[i], buf, sizeof buf - 1) : -1;
+        if (n > 0) {
+            buf[n] = '\0';
+            if (std::strcmp(buf, g_target[i]) == 0)
+                ::unlink(g_link[i]);
+        }
     }
     ::_exit(0);
 }
@@ -61,7 +72,12 @@ int main(int argc, char *argv[])
     const QCommandLineOption speedOpt(QStringLiteral("speed"),
         QStringLiteral("Accepted for scripts; the clock follows the link's polls (250 ms each)."),
         QStringLiteral("FACTOR"), QStringLiteral("1"));
-    parser.addOptions({deviceOpt, scenarioOpt, speedOpt, traceOpt});
+    const QCommandLineOption remoteOpt(QStringLiteral("remote-host"),
+        QStringLiteral("Attach a lab PC to the remote port: the sandbox's /dev/ttyMFG appears, and PATH is the PC's "
+                       "end of that line (for vantor-cli remote --port PATH). Standard input then also takes "
+                       "\"remote detach\" and \"remote attach\"."),
+        QStringLiteral("PATH"));
+    parser.addOptions({deviceOpt, scenarioOpt, speedOpt, traceOpt, remoteOpt});
     parser.process(app);
 
     bool ok = false;
@@ -85,7 +101,24 @@ int main(int argc, char *argv[])
     const double celsius = scenario.config.temperatureC;
     const double e0Mv = scenario.e0Mv;
     const double slopePct = scenario.slopePct;
+    // The remote port: the application's end at "/dev/ttyMFG", joined byte
+    // for byte to the PC's end at --remote-host.
+    PseudoTerminal remotePort;
+    PseudoTerminal remoteHost;
+    const QString remoteLink = Platform::path(QStringLiteral("/dev/ttyMFG"));
+    auto attachRemote = [&]() -> QString {
+        if (!remotePort.isOpen() && !remotePort.open(remoteLink))
+            return remotePort.errorString();
+        rememberLink(2, remoteLink, remotePort.slaveName());
+        return QString();
+    };
     ControlInput control([&](const QByteArray &command, const QByteArray &argument) -> QString {
+        if (command == "remote" && remoteHost.isOpen() && (argument == "attach" || argument == "detach")) {
+            if (argument == "attach")
+                return attachRemote();
+            remotePort.close();
+            return QString();
+        }
         if (command != "beaker")
             return QStringLiteral("unknown command \"%1\"").arg(QString::fromUtf8(command.left(32)));
         const QJsonDocument doc = QJsonDocument::fromJson(argument);
@@ -104,8 +137,17 @@ int main(int argc, char *argv[])
         err << "virtual-instrument: " << pty.errorString() << "\n";
         return 1;
     }
-    std::strncpy(g_link, QFile::encodeName(link).constData(), sizeof g_link - 1);
-    std::strncpy(g_target, QFile::encodeName(pty.slaveName()).constData(), sizeof g_target - 1);
+    rememberLink(0, link, pty.slaveName());
+    if (parser.isSet(remoteOpt)) {
+        QObject::connect(&remoteHost, &PseudoTerminal::received, &remotePort, &PseudoTerminal::write);
+        QObject::connect(&remotePort, &PseudoTerminal::received, &remoteHost, &PseudoTerminal::write);
+        QString why;
+        if (!remoteHost.open(parser.value(remoteOpt)) || !(why = attachRemote()).isEmpty()) {
+            err << "virtual-instrument: remote port: " << (why.isEmpty() ? remoteHost.errorString() : why) << "\n";
+            return 1;
+        }
+        rememberLink(1, remoteHost.linkPath(), remoteHost.slaveName());
+    }
     std::signal(SIGTERM, onTerminate);
     std::signal(SIGINT, onTerminate);
     std::signal(SIGHUP, onTerminate);
