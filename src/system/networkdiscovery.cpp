@@ -23,6 +23,10 @@ NetworkDiscovery::NetworkDiscovery(Describe describe, QObject *parent)
 void NetworkDiscovery::setupNetworkInterfaces()
 {
     groupAddress = QHostAddress(QString::fromLatin1(Group));
+    if (!Platform::mayUseNetwork()) {
+        qDebug() << "Discovery: off on a development host outside a network namespace of its own";
+        return;
+    }
     if (udpSocket.state() != QAbstractSocket::BoundState)
         udpSocket.bind(QHostAddress::AnyIPv4, Port, QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
     const auto interfaces = QNetworkInterface::allInterfaces();

@@ -61,6 +61,11 @@ bool Platform::isTarget()
 #endif
 }
 
+bool Platform::mayUseNetwork()
+{
+    return isTarget() || qgetenv("KESTRUM_NETNS") == "1";
+}
+
 QString Platform::sandboxRoot()
 {
     return isTarget() ? QString() : host().root;

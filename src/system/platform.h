@@ -26,6 +26,11 @@ public:
     };
 
     static bool isTarget();
+    // Whether the program may open sockets on a network: always on the target;
+    // on a development host only inside a network namespace made for it (its
+    // maker sets KESTRUM_NETNS=1, as tests/integration/in-netns.sh does), so
+    // nothing a host build or its tests do reaches the machine's own network.
+    static bool mayUseNetwork();
 
     // Maps a fixed target path ("/var/KestrumDB") to the path used here.
     static QString path(const QString &targetPath);
