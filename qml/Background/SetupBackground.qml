@@ -11,6 +11,7 @@ Rectangle {
     property bool backVisible: true
     property bool nextVisible: true
     property string nextText: qsTr("Next") + ls.translatedText
+    property string backText: qsTr("Back") + ls.translatedText
     default property alias content: contentArea.data
     signal backClicked()
     signal nextClicked()
@@ -34,19 +35,26 @@ Rectangle {
             font.pixelSize: 13
             text: page.stepText
         }
+        // A long title (two lines, or a longer language) takes a smaller size.
         Text {
             anchors.left: parent.left
             anchors.leftMargin: 24
             anchors.right: parent.right
             anchors.rightMargin: 24
+            anchors.top: parent.top
+            anchors.topMargin: 26
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 10
-            elide: Text.ElideRight
+            anchors.bottomMargin: 4
+            verticalAlignment: Text.AlignVCenter
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
+            fontSizeMode: Text.Fit
+            minimumPixelSize: 12
             color: Colors.whiteColor
             font.family: "Roboto"
             font.pixelSize: 22
             font.weight: Font.Medium
-            text: page.title
+            text: page.title.replace(/\s*\n\s*/g, " ")
         }
     }
 
@@ -68,7 +76,7 @@ Rectangle {
         spacing: 16
         PopupAlternateButton {
             visible: page.backVisible
-            text: qsTr("Back") + ls.translatedText
+            text: page.backText
             onClicked: page.backClicked()
         }
         PopupButton {
