@@ -268,10 +268,11 @@ void UiDriver::startGesture(const Pending &p, QQuickItem *item)
         m_gesture->hold(rect.center(), p.holdMs);
         return;
     }
-    // One drag moves a third of the item: one row of a three-row tumbler.
+    // One drag moves a quarter of the item: with the drag threshold and the
+    // snap, one row of a three-row tumbler.
     const auto direction = UiGesture::Direction(p.direction);
     const bool vertical = direction == UiGesture::Up || direction == UiGesture::Down;
-    m_gesture->swipe(rect.center(), direction, (vertical ? rect.height() : rect.width()) / 3.0, p.steps);
+    m_gesture->swipe(rect.center(), direction, (vertical ? rect.height() : rect.width()) / 4.0, p.steps);
 }
 
 bool UiDriver::attempt(const Pending &p, bool last)

@@ -8,7 +8,8 @@ namespace {
 
 constexpr int MoveIntervalMs = 16; // one frame of the screen
 constexpr int MovesPerDrag = 12;
-constexpr int RestBeforeLiftMs = 150; // the finger stops before it lifts: no fling
+constexpr int RestBeforeLiftMs = 200; // the finger stops before it lifts: no fling
+constexpr int RestMoves = 5;
 constexpr int PauseBetweenDragsMs = 400; // a list comes to rest between two drags
 
 } // namespace
@@ -48,8 +49,11 @@ void UiGesture::swipe(const QPointF &from, Direction direction, qreal distance, 
         m_steps.append({QEvent::MouseButtonPress, from, n == 0 ? 0 : PauseBetweenDragsMs});
         for (int i = 1; i <= MovesPerDrag; ++i)
             m_steps.append({QEvent::MouseMove, from + unit * (distance * i / MovesPerDrag), MoveIntervalMs});
+        // The finger rests on the spot for a while: the list's measure of
+        // speed sees it still, and nothing flies on after the lift.
         const QPointF end = from + unit * distance;
-        m_steps.append({QEvent::MouseMove, end, RestBeforeLiftMs});
+        for (int i = 0; i < RestMoves; ++i)
+            m_steps.append({QEvent::MouseMove, end, RestBeforeLiftMs / RestMoves});
         m_steps.append({QEvent::MouseButtonRelease, end, MoveIntervalMs});
     }
     // The last drag settles before the gesture counts as done.

@@ -6,7 +6,14 @@ import "../TimeDateLang"
 SetupBackground {
     id: page
 
-    function prepare() { datePage.setCurrentDate() }
+    // An interrupted first start shows the date it saved; else today.
+    function prepare() {
+        var saved = new Date(setup.date)
+        if (isNaN(saved.getTime()))
+            datePage.setCurrentDate()
+        else
+            datePage.setDate(saved)
+    }
 
     objectName: "Date"
     title: qsTr("Set Date") + ls.translatedText

@@ -23,6 +23,11 @@ SetupBackground {
     title: qsTr("Set Instrument Name") + ls.translatedText
     stepText: qsTr("Setup | Step 6 of 13") + ls.translatedText
 
+    // A tap beside the field ends the typing and the keyboard goes.
+    MouseArea {
+        anchors.fill: parent
+        onClicked: nameInput.focus = false
+    }
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 20
@@ -51,10 +56,10 @@ SetupBackground {
                     verticalAlignment: TextInput.AlignVCenter
                     clip: true
                     maximumLength: 20
+                    inputMethodHints: Qt.ImhNoPredictiveText
                     color: Colors.deeptangaroaColor
                     font.family: "Roboto"
                     font.pixelSize: 20
-                    onActiveFocusChanged: if (activeFocus) mainWindow.currentEdit = nameInput
                     onTextEdited: { page.marked = false; page.refusal = "" }
                     onAccepted: focus = false
                 }

@@ -44,7 +44,8 @@ Rectangle {
     }
     // The day list takes as many rows as the month has days.
     function resizeDays() {
-        var days = DateTimeMath.daysInMonth(monthPicker.currentIndex, selectedYear)
+        // From the wheels themselves: selectedYear may not have followed yet.
+        var days = DateTimeMath.daysInMonth(monthPicker.currentIndex, DateTimeMath.firstYear + yearPicker.currentIndex)
         if (dayPicker.currentIndex >= days)
             dayPicker.currentIndex = days - 1
         while (dayModel.count > days)

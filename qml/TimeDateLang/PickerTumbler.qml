@@ -18,9 +18,16 @@ Column {
     property var textOf: function(index, modelData) { return String(modelData) }
     property int wheelWidth: 150
     property int fontSize: 22
+    property bool wrapAround: true
 
+    function settle() {
+        wheel.positionViewAtIndex(wheel.currentIndex, Tumbler.Center)
+    }
     function step(by) {
+        // One row at once, without the turn of a flick: taps in quick
+        // succession each count.
         wheel.currentIndex = DateTimeMath.wrap(wheel.currentIndex, by, wheel.count)
+        wheel.positionViewAtIndex(wheel.currentIndex, Tumbler.Center)
     }
 
     spacing: 4
@@ -48,6 +55,13 @@ Column {
         width: picker.wheelWidth
         height: 156
         visibleItemCount: 3
+        wrap: picker.wrapAround
+        clip: true
+        // An index set while the page was hidden is not where the wheel
+        // stands: it is put there when the wheel shows.
+        // The same after a change of model (the hour list of 12 or 24).
+        onVisibleChanged: if (visible) Qt.callLater(picker.settle)
+        onModelChanged: Qt.callLater(picker.settle)
         delegate: Text {
             text: picker.textOf(index, modelData)
             color: Colors.deeptangaroaColor

@@ -108,6 +108,7 @@ Rectangle {
             id: apPicker
             objectName: "apPicker"
             wheelWidth: 110
+            wrapAround: false
             visible: timePage.state === "state12"
             model: ["AM", "PM"]
             textOf: function(index) { return (index === 0 ? qsTr("AM") : qsTr("PM")) + ls.translatedText }

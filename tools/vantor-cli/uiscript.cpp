@@ -54,7 +54,7 @@ QString UiScript::usage()
         "    tap TEXT | tap #NAME    press and release on the item (waits up to 5 s)\n"
         "    hold TEXT|#NAME SECONDS press, hold, release (a long press)\n"
         "    swipe #NAME up|down|left|right [STEPS]\n"
-        "                            STEPS slow drags, each a third of the item\n"
+        "                            STEPS slow drags, each a quarter of the item\n"
         "    type TEXT               key presses into the focused field\n"
         "    wait TEXT [SECONDS]     until a visible text contains TEXT (default 10 s)\n"
         "    expect TEXT, absent TEXT\n"
