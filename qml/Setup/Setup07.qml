@@ -26,7 +26,10 @@ SetupBackground {
     // A tap beside the field ends the typing and the keyboard goes.
     MouseArea {
         anchors.fill: parent
-        onClicked: nameInput.focus = false
+        onClicked: {
+            nameInput.focus = false
+            Qt.inputMethod.hide()
+        }
     }
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
