@@ -2734,8 +2734,8 @@ gespeichert als - </translation>
         <message>
             <source>5. Connect the Color-Coded Tubing to the valve 
  ports and components.</source>
-            <translation>5. Schließen Sie die farbcodierten Schläuche an die Ventil-
- anschlüsse und Komponenten an.</translation>
+            <translation>5. Schließen Sie die farbcodierten Schläuche an die 
+ Ventilanschlüsse und Komponenten an.</translation>
         </message>
         <message>
             <source>Setup | Step 11 of 13</source>

@@ -42,12 +42,13 @@ Rectangle {
             anchors.right: parent.right
             anchors.rightMargin: 24
             anchors.top: parent.top
-            anchors.topMargin: 26
+            anchors.topMargin: 24
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 4
+            anchors.bottomMargin: 2
             verticalAlignment: Text.AlignVCenter
             wrapMode: Text.WordWrap
             maximumLineCount: 2
+            lineHeight: 0.9
             fontSizeMode: Text.Fit
             minimumPixelSize: 12
             color: Colors.whiteColor
@@ -75,11 +76,13 @@ Rectangle {
         anchors.rightMargin: 24
         spacing: 16
         PopupAlternateButton {
+            objectName: "setupBack"
             visible: page.backVisible
             text: page.backText
             onClicked: page.backClicked()
         }
         PopupButton {
+            objectName: "setupNext"
             visible: page.nextVisible
             text: page.nextText
             onClicked: page.nextClicked()
