@@ -733,6 +733,10 @@ ApplicationWindow {
             changeKeyboardLanguage()
         } else {
             console.log("settings are not loaded")
+            // A first start switched off after its first step goes on in the
+            // language it chose, keyboard included.
+            if (setup.language !== "")
+                changeKeyboardLanguage()
         }
     }
 }
