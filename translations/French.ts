@@ -1150,7 +1150,7 @@
         </message>
         <message>
             <source>Initial </source>
-            <translation>Initial </translation>
+            <translation type="unfinished">Initial </translation>
         </message>
         <message>
             <source>Vol. (mL)</source>

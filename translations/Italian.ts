@@ -1150,7 +1150,7 @@
         </message>
         <message>
             <source>Initial </source>
-            <translation>Iniziale </translation>
+            <translation type="unfinished">Iniziale </translation>
         </message>
         <message>
             <source>Vol. (mL)</source>

@@ -1150,7 +1150,7 @@
         </message>
         <message>
             <source>Initial </source>
-            <translation>Inicial </translation>
+            <translation type="unfinished">Inicial </translation>
         </message>
         <message>
             <source>Vol. (mL)</source>
