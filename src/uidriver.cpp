@@ -2,6 +2,7 @@
 
 #include "reports/logmanager.h"
 #include "system/platform.h"
+#include "uigesture.h"
 #include "uiscene.h"
 
 #include <QDebug>
@@ -177,6 +178,10 @@ void UiDriver::execute(const QString &line, Reply reply)
     p.reply = std::move(reply);
     if (p.command == QLatin1String("tap")) {
         p.timeoutMs = TapWaitMs;
+    } else if (p.command == QLatin1String("hold") || p.command == QLatin1String("swipe")) {
+        p.timeoutMs = TapWaitMs;
+        if (!parseGesture(&p))
+            return;
     } else if (p.command == QLatin1String("wait")) {
         p.timeoutMs = DefaultWaitMs;
         // A last word that is a number is the time limit in seconds.
@@ -210,21 +215,82 @@ void UiDriver::poll()
     const bool last = m_elapsed.elapsed() >= m_pending.timeoutMs;
     if (!m_window || attempt(m_pending, last)) {
         m_poll.stop();
-        m_busy = false;
+        // A gesture that has started keeps the driver busy until it ends.
+        m_busy = m_gesture && m_gesture->isRunning();
     }
+}
+
+bool UiDriver::parseGesture(Pending *p)
+{
+    const QString usage = p->command == QLatin1String("hold") ? QStringLiteral("hold TEXT|#NAME SECONDS")
+                                                              : QStringLiteral("swipe #NAME up|down|left|right [STEPS]");
+    QStringList words = p->argument.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    bool ok = false;
+    if (p->command == QLatin1String("hold")) {
+        const double seconds = words.size() >= 2 ? words.last().toDouble(&ok) : 0;
+        ok = ok && seconds > 0 && seconds <= MaxHoldSeconds;
+        if (ok) {
+            p->holdMs = int(seconds * 1000);
+            words.removeLast();
+            p->argument = words.join(QLatin1Char(' '));
+        }
+    } else {
+        UiGesture::Direction direction = UiGesture::Up;
+        if (words.size() == 3) {
+            p->steps = words.last().toInt(&ok);
+            ok = ok && p->steps >= 1 && p->steps <= MaxSwipeSteps;
+            words.removeLast();
+        } else {
+            ok = words.size() == 2;
+        }
+        ok = ok && words.first().startsWith(QLatin1Char('#')) && UiGesture::parseDirection(words.last(), &direction);
+        p->direction = direction;
+        p->argument = words.value(0);
+    }
+    if (!ok)
+        p->reply(false, QStringLiteral("usage: %1 (at most %2 s, %3 steps)").arg(usage).arg(MaxHoldSeconds).arg(MaxSwipeSteps));
+    return ok;
+}
+
+void UiDriver::startGesture(const Pending &p, QQuickItem *item)
+{
+    if (!m_gesture)
+        m_gesture = new UiGesture(m_window, this);
+    const QRectF rect = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()))
+                            .intersected(QRectF(0, 0, m_window->width(), m_window->height()));
+    const Reply reply = p.reply;
+    m_gesture->onFinished([this, reply] {
+        m_busy = false;
+        reply(true, QString());
+    });
+    m_busy = true;
+    if (p.command == QLatin1String("hold")) {
+        m_gesture->hold(rect.center(), p.holdMs);
+        return;
+    }
+    // One drag moves a quarter of the item: with the drag threshold and the
+    // snap, one row of a three-row tumbler.
+    const auto direction = UiGesture::Direction(p.direction);
+    const bool vertical = direction == UiGesture::Up || direction == UiGesture::Down;
+    m_gesture->swipe(rect.center(), direction, (vertical ? rect.height() : rect.width()) / 4.0, p.steps);
 }
 
 bool UiDriver::attempt(const Pending &p, bool last)
 {
     const UiScene scene(m_window);
     const QString &arg = p.argument;
-    if (p.command == QLatin1String("tap")) {
+    const bool gesture = p.command == QLatin1String("hold") || p.command == QLatin1String("swipe");
+    if (p.command == QLatin1String("tap") || gesture) {
         if (arg.isEmpty()) {
-            p.reply(false, QStringLiteral("tap needs a text or #NAME"));
+            p.reply(false, QStringLiteral("%1 needs a text or #NAME").arg(p.command));
             return true;
         }
         const bool byName = arg.startsWith(QLatin1Char('#')) && arg.size() > 1;
         QQuickItem *item = byName ? scene.itemNamed(arg.mid(1)) : scene.itemWithText(arg);
+        if (item && gesture) {
+            startGesture(p, item);
+            return true;
+        }
         if (item) {
             scene.tap(item);
             p.reply(true, QString());

@@ -9,16 +9,19 @@
 #include <functional>
 
 class LogManager;
+class UiGesture;
 class QLocalServer;
 class QLocalSocket;
 class QQmlEngine;
+class QQuickItem;
 class QQuickWindow;
 
 // Host builds only: operates the running window the way a finger does, for
 // scripts sent over a local socket (one command a line, one JSON answer a
 // line: {"ok":true,"text":"..."}). The commands it runs itself:
 //   tap TEXT | tap #NAME, type TEXT, wait TEXT [SECONDS], expect TEXT,
-//   absent TEXT, texts, shot FILE, nowarnings
+//   absent TEXT, texts, shot FILE, nowarnings, hold TEXT|#NAME SECONDS,
+//   swipe #NAME up|down|left|right [STEPS]
 // The client (vantor-cli ui) keeps sleep and beaker for itself. Each command
 // and its answer is kept in a cyclic log file of the sandbox.
 class UiDriver : public QObject
@@ -49,6 +52,8 @@ public:
     static constexpr int TapWaitMs = 5000;
     static constexpr int DefaultWaitMs = 10000;
     static constexpr int MaxLineBytes = 64 * 1024;
+    static constexpr int MaxHoldSeconds = 60;
+    static constexpr int MaxSwipeSteps = 50;
 
 private:
     struct Pending {
@@ -56,7 +61,15 @@ private:
         QString argument;
         int timeoutMs = 0;
         Reply reply;
+        // hold and swipe: how long, which way, how many drags
+        int holdMs = 0;
+        int direction = 0;
+        int steps = 1;
     };
+    // Reads the numbers of hold and swipe into `p`; false with a reply when they are wrong.
+    bool parseGesture(Pending *p);
+    // Starts the gesture on the item; the reply comes when it has ended.
+    void startGesture(const Pending &p, QQuickItem *item);
     void onConnection();
     void onReadable(QLocalSocket *socket);
     void poll();
@@ -76,4 +89,5 @@ private:
     // The session's trail: every command and its answer, in a cyclic log file
     // ("logFiles/uiDriverLogs", one file per start of the application).
     LogManager *m_trail = nullptr;
+    UiGesture *m_gesture = nullptr;
 };

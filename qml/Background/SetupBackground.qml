@@ -11,6 +11,7 @@ Rectangle {
     property bool backVisible: true
     property bool nextVisible: true
     property string nextText: qsTr("Next") + ls.translatedText
+    property string backText: qsTr("Back") + ls.translatedText
     default property alias content: contentArea.data
     signal backClicked()
     signal nextClicked()
@@ -34,19 +35,27 @@ Rectangle {
             font.pixelSize: 13
             text: page.stepText
         }
+        // A long title (two lines, or a longer language) takes a smaller size.
         Text {
             anchors.left: parent.left
             anchors.leftMargin: 24
             anchors.right: parent.right
             anchors.rightMargin: 24
+            anchors.top: parent.top
+            anchors.topMargin: 24
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 10
-            elide: Text.ElideRight
+            anchors.bottomMargin: 2
+            verticalAlignment: Text.AlignVCenter
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
+            lineHeight: 0.9
+            fontSizeMode: Text.Fit
+            minimumPixelSize: 12
             color: Colors.whiteColor
             font.family: "Roboto"
             font.pixelSize: 22
             font.weight: Font.Medium
-            text: page.title
+            text: page.title.replace(/\s*\n\s*/g, " ")
         }
     }
 
@@ -67,11 +76,13 @@ Rectangle {
         anchors.rightMargin: 24
         spacing: 16
         PopupAlternateButton {
+            objectName: "setupBack"
             visible: page.backVisible
-            text: qsTr("Back") + ls.translatedText
+            text: page.backText
             onClicked: page.backClicked()
         }
         PopupButton {
+            objectName: "setupNext"
             visible: page.nextVisible
             text: page.nextText
             onClicked: page.nextClicked()

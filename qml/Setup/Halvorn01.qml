@@ -40,13 +40,14 @@ Rectangle {
         anchors.bottomMargin: 48
         visible: false
         text: qsTr(Strings.startSetup) + ls.translatedText
-        onClicked: setupStack.push(setup02)
+        onClicked: {
+            setup02.prepare()
+            setupStack.push(setup02)
+        }
     }
     Timer {
         interval: 100
         running: true
         onTriggered: setupButton.visible = true
     }
-
-    Setup02 { id: setup02; visible: false }
 }

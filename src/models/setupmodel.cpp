@@ -4,6 +4,7 @@
 #include "models/migrationframe.h"
 #include "system/clock.h"
 #include "system/clocaletext.h"
+#include "system/platform.h"
 
 #include <QDebug>
 #include <QSqlQuery>
@@ -354,6 +355,30 @@ QString SetupModel::clockText(const QDateTime &newDate, const QDateTime &newTime
 QString SetupModel::clockText2(const QString &sysTime, const QDateTime &newTime)
 {
     return CLocaleText::dateTime(newTime, QStringLiteral("dd MMM yyyy")) + QLatin1Char(' ') + sysTime;
+}
+
+void SetupModel::runClockCommand(const QString &program, const QStringList &arguments)
+{
+    constexpr int clockCommandTimeoutMs = 30000;
+    const Platform::Result r = Platform::run(program, arguments, clockCommandTimeoutMs);
+    qDebug() << "output   :" << r.standardOutput;
+    if (!r.ok())
+        qWarning() << "SetupModel:" << program << arguments << "failed:" << r.exitCode << r.standardError;
+}
+
+void SetupModel::setupSysDateTime(const QDateTime &newDate, const QDateTime &newTime)
+{
+    runClockCommand(QStringLiteral("date"), {QStringLiteral("-s"), clockText(newDate, newTime)});
+}
+
+void SetupModel::setupSysDateTime2(const QString &sysTime, const QDateTime &newTime)
+{
+    runClockCommand(QStringLiteral("date"), {QStringLiteral("-s"), clockText2(sysTime, newTime)});
+}
+
+void SetupModel::saveHardwareClock()
+{
+    runClockCommand(QStringLiteral("/sbin/hwclock"), {QStringLiteral("-w")});
 }
 
 bool SetupModel::isCalibrationDue(const QDateTime &last, const QDateTime &now, int hours)

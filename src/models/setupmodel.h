@@ -103,6 +103,12 @@ public:
 
 public slots:
     bool setSetupValues();
+    // The system clock: `date -s` with the C-locale text of clockText or
+    // clockText2 as one argument, then the hardware clock. A failure is
+    // logged and the clock stays as it was.
+    void setupSysDateTime(const QDateTime &newDate, const QDateTime &newTime);
+    void setupSysDateTime2(const QString &sysTime, const QDateTime &newTime);
+    void saveHardwareClock();
     void resetSetupValues();
     float getTemperatureOffset() const { return m_temperatureOffset; }
     void setTemperatureOffset(float offset);
@@ -131,6 +137,7 @@ private:
     void load();
     bool insertRow();
     bool updateColumn(const char *column, const QVariant &value);
+    static void runClockCommand(const QString &program, const QStringList &arguments);
 
     int m_id = rowId;
     float m_temperatureInput = 25.0f;

@@ -8,4 +8,17 @@ set_tests_properties(qml_helpers PROPERTIES LABELS unit ENVIRONMENT "QT_QPA_PLAT
 # The screens' load test takes the window's resources.
 if(TARGET integration_qmlscreens)
   target_sources(integration_qmlscreens PRIVATE ${KESTRUM_QML_RESOURCES})
+  add_dependencies(integration_qmlscreens kestrum_translations)
+  set_target_properties(integration_qmlscreens PROPERTIES AUTOGEN_TARGET_DEPENDS kestrum_translations)
+endif()
+
+# Every source text of the screens has a translation in every language file.
+add_test(NAME translations COMMAND python3 ${PROJECT_SOURCE_DIR}/scripts/translations check)
+set_tests_properties(translations PROPERTIES LABELS unit)
+
+# The language tests load the translation files from the resources.
+if(TARGET unit_languageselector)
+  target_sources(unit_languageselector PRIVATE ${CMAKE_BINARY_DIR}/translations/translations.qrc)
+  add_dependencies(unit_languageselector kestrum_translations)
+  set_target_properties(unit_languageselector PROPERTIES AUTOGEN_TARGET_DEPENDS kestrum_translations)
 endif()

@@ -6,6 +6,7 @@
 #include "models/titrationmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "system/clock.h"
+#include "system/platform.h"
 #include "testdatabase.h"
 
 #include <QCoreApplication>
@@ -53,6 +54,15 @@ TEST_F(CLocaleStorage, TheClockCommandReadsTheSameInEveryLanguage)
     const QDateTime t = clock.now();
     EXPECT_EQ(QStringLiteral("14 Mar 2026 21:05:00"), SetupModel::clockText(t, t));
     EXPECT_EQ(QStringLiteral("14 Mar 2026 09:30:00"), SetupModel::clockText2(QStringLiteral("09:30:00"), t));
+    // The pages set the clock through the platform layer, date and time apart.
+    Platform::clearRecordedCommands();
+    SetupModel setup;
+    setup.setupSysDateTime(t, t);
+    setup.setupSysDateTime2(QStringLiteral("00:30:00"), t);
+    setup.saveHardwareClock();
+    EXPECT_EQ(Platform::recordedCommands(),
+              QStringList({QStringLiteral("date -s 14 Mar 2026 21:05:00"), QStringLiteral("date -s 14 Mar 2026 00:30:00"),
+                           QStringLiteral("/sbin/hwclock -w")}));
 }
 
 TEST_F(CLocaleStorage, StoredRunTextsAndNumbersDoNotChange)

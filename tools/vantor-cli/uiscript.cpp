@@ -27,6 +27,11 @@ int waitLimitMs(const QString &command, const QString &argument)
 {
     if (command == QLatin1String("tap"))
         return 5000;
+    if (command == QLatin1String("hold") || command == QLatin1String("swipe")) {
+        // The item may take 5 s to show; then the seconds held, or the drags.
+        const double last = argument.section(QLatin1Char(' '), -1).toDouble();
+        return 5000 + int(std::min(std::max(last, 1.0), 60.0) * 1000);
+    }
     if (command != QLatin1String("wait"))
         return 0;
     const int cut = argument.lastIndexOf(QLatin1Char(' '));
@@ -47,6 +52,9 @@ QString UiScript::usage()
         "                   $KESTRUM_VI_CONTROL, else the sandbox's /run/vi-control)\n"
         "  commands, one a line (# starts a comment line):\n"
         "    tap TEXT | tap #NAME    press and release on the item (waits up to 5 s)\n"
+        "    hold TEXT|#NAME SECONDS press, hold, release (a long press)\n"
+        "    swipe #NAME up|down|left|right [STEPS]\n"
+        "                            STEPS slow drags, each a quarter of the item\n"
         "    type TEXT               key presses into the focused field\n"
         "    wait TEXT [SECONDS]     until a visible text contains TEXT (default 10 s)\n"
         "    expect TEXT, absent TEXT\n"

@@ -1,0 +1,2755 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+    <context>
+        <name>Burette01</name>
+        <message>
+            <source>Burette</source>
+            <translation>Burette</translation>
+        </message>
+        <message>
+            <source>Not set</source>
+            <translation>Non défini</translation>
+        </message>
+        <message>
+            <source>Stop</source>
+            <translation>Arrêter</translation>
+        </message>
+        <message>
+            <source>Wait</source>
+            <translation>Attendre</translation>
+        </message>
+        <message>
+            <source>Dispense</source>
+            <translation>Distribuer</translation>
+        </message>
+        <message>
+            <source>Rinse</source>
+            <translation>Rincer</translation>
+        </message>
+        <message>
+            <source>Burette Size</source>
+            <translation>Taille de la burette</translation>
+        </message>
+        <message>
+            <source>Burette Size Changed</source>
+            <translation>Taille de burette modifiée</translation>
+        </message>
+        <message>
+            <source>Burette size has been saved with new size.</source>
+            <translation>La nouvelle taille de burette a été enregistrée.</translation>
+        </message>
+        <message>
+            <source>Installation Date</source>
+            <translation>Date d'installation</translation>
+        </message>
+        <message>
+            <source>Rinse Cycles</source>
+            <translation>Cycles de rinçage</translation>
+        </message>
+        <message>
+            <source>Dispense Volume</source>
+            <translation>Volume à distribuer</translation>
+        </message>
+        <message>
+            <source>Continuous</source>
+            <translation>Continu</translation>
+        </message>
+    </context>
+    <context>
+        <name>BuretteDispenseVolume</name>
+        <message>
+            <source>Dispense Volume</source>
+            <translation>Volume à distribuer</translation>
+        </message>
+        <message>
+            <source>Preset volume</source>
+            <translation>Volume prédéfini</translation>
+        </message>
+        <message>
+            <source>Continuous</source>
+            <translation>Continu</translation>
+        </message>
+        <message>
+            <source>Preset Value</source>
+            <translation>Valeur prédéfinie</translation>
+        </message>
+    </context>
+    <context>
+        <name>BuretteInstallationDate</name>
+        <message>
+            <source>Installation Date</source>
+            <translation>Date d'installation</translation>
+        </message>
+        <message>
+            <source>Installation Date Saved</source>
+            <translation>Date d'installation enregistrée</translation>
+        </message>
+        <message>
+            <source>The burette installation date has been saved.</source>
+            <translation>La date d'installation de la burette a été enregistrée.</translation>
+        </message>
+        <message>
+            <source>Day</source>
+            <translation>Jour</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>Mois</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>Année</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Save Date</source>
+            <translation>Enregistrer la date</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrateElectrode</name>
+        <message>
+            <source>Calibrate pH</source>
+            <translation>Étalonner pH</translation>
+        </message>
+        <message>
+            <source>Calibrate RmV</source>
+            <translation>Étalonner RmV</translation>
+        </message>
+        <message>
+            <source>Calibrate </source>
+            <translation>Étalonner </translation>
+        </message>
+        <message>
+            <source>Rinse electrode, place into
+ calibration solution and tap
+ the Start button.</source>
+            <translation>Rincez l'électrode, placez-la dans la
+ solution d'étalonnage et touchez
+ le bouton Démarrer.</translation>
+        </message>
+        <message>
+            <source>Make sure the electrode is in your
+ calibration solution before pressing
+ the start calibration button below.</source>
+            <translation>Assurez-vous que l'électrode est dans votre
+ solution d'étalonnage avant d'appuyer sur
+ le bouton de démarrage ci-dessous.</translation>
+        </message>
+        <message>
+            <source>Points calibrated: %1 of 5</source>
+            <translation>Points étalonnés : %1 sur 5</translation>
+        </message>
+        <message>
+            <source>Start</source>
+            <translation>Démarrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrateOverride</name>
+        <message>
+            <source>Buffer</source>
+            <translation>Tampon</translation>
+        </message>
+        <message>
+            <source>Standard</source>
+            <translation>Étalon</translation>
+        </message>
+        <message>
+            <source>Override</source>
+            <translation type="unfinished">Forcer</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Modifier</translation>
+        </message>
+        <message>
+            <source>Accept</source>
+            <translation>Accepter</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrationPointSuccessfull</name>
+        <message>
+            <source>Points calibrated: %1 of 5</source>
+            <translation>Points étalonnés : %1 sur 5</translation>
+        </message>
+        <message>
+            <source>Calibration point successful!</source>
+            <translation>Point d'étalonnage réussi !</translation>
+        </message>
+        <message>
+            <source>Tap the next button to calibrate
+ with another solution</source>
+            <translation>Touchez le bouton Suivant pour étalonner
+ avec une autre solution</translation>
+        </message>
+        <message>
+            <source>or</source>
+            <translation>ou</translation>
+        </message>
+        <message>
+            <source>Tap the Done button to end the
+ calibration of this module</source>
+            <translation>Touchez le bouton Terminé pour finir
+ l'étalonnage de ce module</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>Suivant</translation>
+        </message>
+        <message>
+            <source>Done</source>
+            <translation>Terminé</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrationSlope</name>
+        <message>
+            <source>Calibration Result</source>
+            <translation>Résultat de l'étalonnage</translation>
+        </message>
+        <message>
+            <source>Slope</source>
+            <translation>Pente</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrationSlopeValue</name>
+        <message>
+            <source>Slope</source>
+            <translation>Pente</translation>
+        </message>
+        <message>
+            <source>Electrode slope</source>
+            <translation>Pente de l'électrode</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrationStandard</name>
+        <message>
+            <source>Calibration Standard</source>
+            <translation>Étalon d'étalonnage</translation>
+        </message>
+        <message>
+            <source>Calibration Solution Standard Value</source>
+            <translation>Valeur de la solution d'étalonnage</translation>
+        </message>
+        <message>
+            <source>Tap to enter</source>
+            <translation>Toucher pour saisir</translation>
+        </message>
+        <message>
+            <source>Value cannot be empty.</source>
+            <translation>La valeur ne peut pas être vide.</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrationStandardValue</name>
+        <message>
+            <source>Standard Value</source>
+            <translation>Valeur de l'étalon</translation>
+        </message>
+        <message>
+            <source>Calibration Solution Standard Value</source>
+            <translation>Valeur de la solution d'étalonnage</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrationSuccessPopup</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>Capteur étalonné</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated</source>
+            <translation>Le capteur a été étalonné avec succès</translation>
+        </message>
+    </context>
+    <context>
+        <name>CalibrationSummary</name>
+        <message>
+            <source>Calibration Summary</source>
+            <translation>Résumé de l'étalonnage</translation>
+        </message>
+        <message>
+            <source>Offset</source>
+            <translation>Décalage</translation>
+        </message>
+        <message>
+            <source>Average Slope</source>
+            <translation>Pente moyenne</translation>
+        </message>
+        <message>
+            <source>Cal. Point</source>
+            <translation>Point d'étal.</translation>
+        </message>
+        <message>
+            <source>Calibration Value</source>
+            <translation>Valeur d'étalonnage</translation>
+        </message>
+        <message>
+            <source>mV Value</source>
+            <translation>Valeur mV</translation>
+        </message>
+        <message>
+            <source>Temp. °C</source>
+            <translation>Temp. °C</translation>
+        </message>
+        <message>
+            <source>Segment Slope</source>
+            <translation>Pente du segment</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Imprimer</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Rapport</translation>
+        </message>
+        <message>
+            <source>Calibration reports are not available yet; the calibration is stored in the log.</source>
+            <translation>Les rapports d'étalonnage ne sont pas encore disponibles ; l'étalonnage est enregistré dans le journal.</translation>
+        </message>
+        <message>
+            <source>Done</source>
+            <translation>Terminé</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatePage</name>
+        <message>
+            <source>January</source>
+            <translation>Janvier</translation>
+        </message>
+        <message>
+            <source>February</source>
+            <translation>Février</translation>
+        </message>
+        <message>
+            <source>March</source>
+            <translation>Mars</translation>
+        </message>
+        <message>
+            <source>April</source>
+            <translation>Avril</translation>
+        </message>
+        <message>
+            <source>May</source>
+            <translation>Mai</translation>
+        </message>
+        <message>
+            <source>June</source>
+            <translation>Juin</translation>
+        </message>
+        <message>
+            <source>July</source>
+            <translation>Juillet</translation>
+        </message>
+        <message>
+            <source>August</source>
+            <translation>Août</translation>
+        </message>
+        <message>
+            <source>September</source>
+            <translation>Septembre</translation>
+        </message>
+        <message>
+            <source>October</source>
+            <translation>Octobre</translation>
+        </message>
+        <message>
+            <source>November</source>
+            <translation>Novembre</translation>
+        </message>
+        <message>
+            <source>December</source>
+            <translation>Décembre</translation>
+        </message>
+    </context>
+    <context>
+        <name>DirectMeasure</name>
+        <message>
+            <source>Direct Measure</source>
+            <translation>Mesure directe</translation>
+        </message>
+        <message>
+            <source>Read Mode</source>
+            <translation>Mode de lecture</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Type d'ISE</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Nom de l'électrode</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Résolution</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Groupe de tampons</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Vitesse d'agitation</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Préfixe auto-incrémenté</translation>
+        </message>
+        <message>
+            <source>Significant Digits</source>
+            <translation>Chiffres significatifs</translation>
+        </message>
+        <message>
+            <source>Direct Measure Units</source>
+            <translation>Unités de mesure directe</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>Display01</name>
+        <message>
+            <source>Display</source>
+            <translation>Affichage</translation>
+        </message>
+    </context>
+    <context>
+        <name>DynamicLoader</name>
+        <message>
+            <source>Method Deleted</source>
+            <translation>Méthode supprimée</translation>
+        </message>
+        <message>
+            <source>Method Saved</source>
+            <translation>Méthode enregistrée</translation>
+        </message>
+    </context>
+    <context>
+        <name>ElectrodeSetupDynamic</name>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>Suivant</translation>
+        </message>
+    </context>
+    <context>
+        <name>EntryPage</name>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>ExportImportErrorPopUp</name>
+        <message>
+            <source>Close</source>
+            <translation>Fermer</translation>
+        </message>
+        <message>
+            <source>Error Message</source>
+            <translation>Message d'erreur</translation>
+        </message>
+        <message>
+            <source>No Methods available for Export</source>
+            <translation>Aucune méthode à exporter</translation>
+        </message>
+        <message>
+            <source>USB does not contain an Importation file</source>
+            <translation>La clé USB ne contient pas de fichier d'importation</translation>
+        </message>
+        <message>
+            <source>There are no available Methods for Import</source>
+            <translation>Aucune méthode disponible pour l'importation</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exporter</translation>
+        </message>
+        <message>
+            <source>Export Process Completed</source>
+            <translation>Exportation terminée</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importer</translation>
+        </message>
+        <message>
+            <source>Import Process Completed</source>
+            <translation>Importation terminée</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Périphérique USB non connecté</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Rapport</translation>
+        </message>
+        <message>
+            <source>Titration Report is Generated</source>
+            <translation>Le rapport de titrage est généré</translation>
+        </message>
+        <message>
+            <source>Information</source>
+            <translation>Information</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Pente hors limites</translation>
+        </message>
+        <message>
+            <source>Calibration Report Printing Completed</source>
+            <translation>Impression du rapport d'étalonnage terminée</translation>
+        </message>
+        <message>
+            <source>Standardization Report is Generated</source>
+            <translation>Le rapport de standardisation est généré</translation>
+        </message>
+        <message>
+            <source>Measurement Report Printing Completed</source>
+            <translation>Impression du rapport de mesure terminée</translation>
+        </message>
+        <message>
+            <source>Printer not connected</source>
+            <translation>Imprimante non connectée</translation>
+        </message>
+        <message>
+            <source>Titration Report Printing Completed</source>
+            <translation>Impression du rapport de titrage terminée</translation>
+        </message>
+        <message>
+            <source>Standardization Report Printing Completed</source>
+            <translation>Impression du rapport de standardisation terminée</translation>
+        </message>
+        <message>
+            <source>Report Printing Completed</source>
+            <translation>Impression du rapport terminée</translation>
+        </message>
+        <message>
+            <source>Calibration Report is Generated</source>
+            <translation>Le rapport d'étalonnage est généré</translation>
+        </message>
+        <message>
+            <source>Measurement Report is Generated</source>
+            <translation>Le rapport de mesure est généré</translation>
+        </message>
+        <message>
+            <source>Methods have been exported to USB</source>
+            <translation>Les méthodes ont été exportées sur la clé USB</translation>
+        </message>
+        <message>
+            <source>Method Report Printing Completed</source>
+            <translation>Impression du rapport de méthode terminée</translation>
+        </message>
+        <message>
+            <source>Screenshot</source>
+            <translation>Capture d'écran</translation>
+        </message>
+        <message>
+            <source>Screenshot saved in USB</source>
+            <translation>Capture d'écran enregistrée sur la clé USB</translation>
+        </message>
+    </context>
+    <context>
+        <name>Halvorn01</name>
+        <message>
+            <source>Welcome to your new titrator</source>
+            <translation>Bienvenue sur votre nouveau titrateur</translation>
+        </message>
+    </context>
+    <context>
+        <name>HomeCalibrationLine</name>
+        <message>
+            <source>Calibrated</source>
+            <translation>Étalonné</translation>
+        </message>
+    </context>
+    <context>
+        <name>KeypadEntry</name>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>Log01</name>
+        <message>
+            <source>Data Logs</source>
+            <translation>Journaux</translation>
+        </message>
+    </context>
+    <context>
+        <name>ManualSampleIdPopup</name>
+        <message>
+            <source>Manual Sample Id</source>
+            <translation>ID d'échantillon manuel</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+    </context>
+    <context>
+        <name>MeasureReadmode</name>
+        <message>
+            <source>Measure </source>
+            <translation>Mesurer </translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Last Calibration</source>
+            <translation>Dernier étalonnage</translation>
+        </message>
+        <message>
+            <source>Settings</source>
+            <translation>Réglages</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>Étalonner</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Stir Off</source>
+            <translation>Agitation arrêt</translation>
+        </message>
+        <message>
+            <source>Stir On</source>
+            <translation>Agitation marche</translation>
+        </message>
+    </context>
+    <context>
+        <name>MeasureSampleIdPopup</name>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Enter the sample ID of this measurement.</source>
+            <translation>Saisissez l'ID d'échantillon de cette mesure.</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Value cannot be empty.</source>
+            <translation>La valeur ne peut pas être vide.</translation>
+        </message>
+    </context>
+    <context>
+        <name>MultipleOptionsPage</name>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>NotificationPopUp</name>
+        <message>
+            <source>Ignore</source>
+            <translation>Ignorer</translation>
+        </message>
+    </context>
+    <context>
+        <name>PasswordVerificationPopUp</name>
+        <message>
+            <source>Enter Password</source>
+            <translation>Saisir le mot de passe</translation>
+        </message>
+        <message>
+            <source>This method has been password protected. Please enter the password to make changes.</source>
+            <translation>Cette méthode est protégée par un mot de passe. Veuillez saisir le mot de passe pour la modifier.</translation>
+        </message>
+        <message>
+            <source>Tap to enter password</source>
+            <translation>Toucher pour saisir le mot de passe</translation>
+        </message>
+        <message>
+            <source>Invalid Password</source>
+            <translation>Mot de passe incorrect</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Submit</source>
+            <translation>Valider</translation>
+        </message>
+    </context>
+    <context>
+        <name>PopupWithBusyIndicator</name>
+        <message>
+            <source>Close</source>
+            <translation>Fermer</translation>
+        </message>
+        <message>
+            <source> Record Found</source>
+            <translation> Enregistrement trouvé</translation>
+        </message>
+        <message>
+            <source> File Created</source>
+            <translation> Fichier créé</translation>
+        </message>
+        <message>
+            <source> File Not Created</source>
+            <translation> Fichier non créé</translation>
+        </message>
+        <message>
+            <source> Reports Moved To </source>
+            <translation> Rapports déplacés vers </translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exporter</translation>
+        </message>
+        <message>
+            <source>Exporting to USB...</source>
+            <translation>Exportation vers la clé USB...</translation>
+        </message>
+        <message>
+            <source>Export Process Completed</source>
+            <translation>Exportation terminée</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Imprimer</translation>
+        </message>
+        <message>
+            <source>Printing...</source>
+            <translation>Impression...</translation>
+        </message>
+        <message>
+            <source>Report Printing Completed</source>
+            <translation>Impression du rapport terminée</translation>
+        </message>
+        <message>
+            <source>Records</source>
+            <translation>Enregistrements</translation>
+        </message>
+        <message>
+            <source>No Record Found</source>
+            <translation>Aucun enregistrement trouvé</translation>
+        </message>
+        <message>
+            <source>Report Creation</source>
+            <translation>Création du rapport</translation>
+        </message>
+        <message>
+            <source>Report Moved</source>
+            <translation>Rapport déplacé</translation>
+        </message>
+        <message>
+            <source>Error</source>
+            <translation>Erreur</translation>
+        </message>
+        <message>
+            <source>USB is not ready</source>
+            <translation>La clé USB n'est pas prête</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Le journal des méthodes est plein, la nouvelle méthode ne peut pas être enregistrée.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continuer</translation>
+        </message>
+        <message>
+            <source>Restart</source>
+            <translation>Redémarrer</translation>
+        </message>
+        <message>
+            <source>Restarting Application...</source>
+            <translation>Redémarrage de l'application...</translation>
+        </message>
+    </context>
+    <context>
+        <name>ProcessDestroyConfirmation</name>
+        <message>
+            <source>Cancel %1</source>
+            <translation>Annuler %1</translation>
+        </message>
+        <message>
+            <source>Go Back</source>
+            <translation>Revenir</translation>
+        </message>
+    </context>
+    <context>
+        <name>ProcessListView</name>
+        <message>
+            <source>Blank</source>
+            <translation>Blanc</translation>
+        </message>
+        <message>
+            <source>Conc. %1</source>
+            <translation>Conc. %1</translation>
+        </message>
+        <message>
+            <source>Volume %1</source>
+            <translation>Volume %1</translation>
+        </message>
+        <message>
+            <source>Conc. 1</source>
+            <translation>Conc. 1</translation>
+        </message>
+        <message>
+            <source>Slope 1</source>
+            <translation>Pente 1</translation>
+        </message>
+        <message>
+            <source>Cycle No </source>
+            <translation>Cycle n° </translation>
+        </message>
+    </context>
+    <context>
+        <name>Settings01</name>
+        <message>
+            <source>Settings</source>
+            <translation>Réglages</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup02</name>
+        <message>
+            <source>Select Language</source>
+            <translation>Choisir la langue</translation>
+        </message>
+        <message>
+            <source>Setup | Step 1 of 13</source>
+            <translation>Configuration | Étape 1 sur 13</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup03</name>
+        <message>
+            <source>Set Date</source>
+            <translation>Régler la date</translation>
+        </message>
+        <message>
+            <source>Setup | Step 2 of 13</source>
+            <translation>Configuration | Étape 2 sur 13</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup04</name>
+        <message>
+            <source>Set Date Display Format</source>
+            <translation>Format d'affichage de la date</translation>
+        </message>
+        <message>
+            <source>Setup | Step 3 of 13</source>
+            <translation>Configuration | Étape 3 sur 13</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup05</name>
+        <message>
+            <source>Set Time</source>
+            <translation>Régler l'heure</translation>
+        </message>
+        <message>
+            <source>Setup | Step 4 of 13</source>
+            <translation>Configuration | Étape 4 sur 13</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup06</name>
+        <message>
+            <source>Set Temperature Units</source>
+            <translation>Unités de température</translation>
+        </message>
+        <message>
+            <source>Setup | Step 5 of 13</source>
+            <translation>Configuration | Étape 5 sur 13</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup07</name>
+        <message>
+            <source>Set Instrument Name</source>
+            <translation>Nom de l'instrument</translation>
+        </message>
+        <message>
+            <source>Setup | Step 6 of 13</source>
+            <translation>Configuration | Étape 6 sur 13</translation>
+        </message>
+        <message>
+            <source>Instrument Name</source>
+            <translation>Nom de l'instrument</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Nom incorrect. Saisissez 14 caractères alphanumériques au maximum.</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Les caractères spéciaux ne sont pas autorisés</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup10</name>
+        <message>
+            <source>Setup Complete!</source>
+            <translation>Configuration terminée !</translation>
+        </message>
+        <message>
+            <source>Finish</source>
+            <translation>Terminer</translation>
+        </message>
+        <message>
+            <source>You may now start your first titration.</source>
+            <translation>Vous pouvez maintenant lancer votre premier titrage.</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupBackground</name>
+        <message>
+            <source>Next</source>
+            <translation>Suivant</translation>
+        </message>
+        <message>
+            <source>Back</source>
+            <translation>Retour</translation>
+        </message>
+    </context>
+    <context>
+        <name>SetupBuretteSizeDatePage</name>
+        <message>
+            <source>Installation Date</source>
+            <translation>Date d'installation</translation>
+        </message>
+        <message>
+            <source>Setup | Step 13 of 13</source>
+            <translation>Configuration | Étape 13 sur 13</translation>
+        </message>
+        <message>
+            <source>Save Date</source>
+            <translation>Enregistrer la date</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+    </context>
+    <context>
+        <name>Setup_BuretteSize</name>
+        <message>
+            <source>Burette Size Selection</source>
+            <translation>Choix de la taille de burette</translation>
+        </message>
+        <message>
+            <source>Setup | Step 13 of 13</source>
+            <translation>Configuration | Étape 13 sur 13</translation>
+        </message>
+        <message>
+            <source>Burette Size</source>
+            <translation>Taille de la burette</translation>
+        </message>
+        <message>
+            <source>Installation Date</source>
+            <translation>Date d'installation</translation>
+        </message>
+    </context>
+    <context>
+        <name>StableMark</name>
+        <message>
+            <source>Stable</source>
+            <translation>Stable</translation>
+        </message>
+        <message>
+            <source>Settling</source>
+            <translation>Stabilisation</translation>
+        </message>
+    </context>
+    <context>
+        <name>StandardizationSummary</name>
+        <message>
+            <source>Standardization Summary</source>
+            <translation>Résumé de la standardisation</translation>
+        </message>
+        <message>
+            <source>Avg Conc. (</source>
+            <translation>Conc. moy. (</translation>
+        </message>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>Titrant standardisé</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>Le titrant a été standardisé avec succès.</translation>
+        </message>
+        <message>
+            <source>Standard</source>
+            <translation>Étalon</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>Suivant</translation>
+        </message>
+    </context>
+    <context>
+        <name>StartTitrationScreen</name>
+        <message>
+            <source>Standardize Titrant</source>
+            <translation>Standardiser le titrant</translation>
+        </message>
+        <message>
+            <source>Cycle No. </source>
+            <translation>Cycle n° </translation>
+        </message>
+        <message>
+            <source>Stop Cycle</source>
+            <translation>Arrêter le cycle</translation>
+        </message>
+        <message>
+            <source>Cycle Stopped</source>
+            <translation>Cycle arrêté</translation>
+        </message>
+        <message>
+            <source>Your cycle has stopped and data has not been saved.</source>
+            <translation>Votre cycle s'est arrêté et les données n'ont pas été enregistrées.</translation>
+        </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Non enregistré</translation>
+        </message>
+        <message>
+            <source>The run could not be saved. Its cycles are kept; press Complete to try again.</source>
+            <translation>L'analyse n'a pas pu être enregistrée. Ses cycles sont conservés ; appuyez sur Terminer pour réessayer.</translation>
+        </message>
+        <message>
+            <source>Cancelling Standardization</source>
+            <translation>Annulation de la standardisation</translation>
+        </message>
+        <message>
+            <source>Cancelling Titration</source>
+            <translation>Annulation du titrage</translation>
+        </message>
+        <message>
+            <source>Are you sure you want to cancel? The cycles of this run will not be saved.</source>
+            <translation>Voulez-vous vraiment annuler ? Les cycles de cette analyse ne seront pas enregistrés.</translation>
+        </message>
+        <message>
+            <source>No.</source>
+            <translation>N°</translation>
+        </message>
+        <message>
+            <source>Vol. (mL)</source>
+            <translation>Vol. (mL)</translation>
+        </message>
+        <message>
+            <source>Conc.</source>
+            <translation>Conc.</translation>
+        </message>
+        <message>
+            <source>Prec. %</source>
+            <translation>Préc. %</translation>
+        </message>
+        <message>
+            <source>Waiting for the first addition</source>
+            <translation>En attente de la première addition</translation>
+        </message>
+        <message>
+            <source>Complete</source>
+            <translation>Terminer</translation>
+        </message>
+    </context>
+    <context>
+        <name>StirComponent</name>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Agitateur en marche</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Agitateur arrêté</translation>
+        </message>
+    </context>
+    <context>
+        <name>SummaryScrollView</name>
+        <message>
+            <source>Conc. (</source>
+            <translation>Conc. (</translation>
+        </message>
+        <message>
+            <source>Cycle</source>
+            <translation>Cycle</translation>
+        </message>
+        <message>
+            <source>Slope</source>
+            <translation>Pente</translation>
+        </message>
+        <message>
+            <source>Prec. %</source>
+            <translation>Préc. %</translation>
+        </message>
+        <message>
+            <source>Incl. in Avg</source>
+            <translation>Incl. dans moy.</translation>
+        </message>
+        <message>
+            <source>Initial </source>
+            <translation type="unfinished">Initial </translation>
+        </message>
+        <message>
+            <source>Vol. (mL)</source>
+            <translation>Vol. (mL)</translation>
+        </message>
+        <message>
+            <source>RSD</source>
+            <translation>RSD</translation>
+        </message>
+        <message>
+            <source>%1 of %2 cycles in the average</source>
+            <translation>%1 cycles sur %2 dans la moyenne</translation>
+        </message>
+    </context>
+    <context>
+        <name>TimePage</name>
+        <message>
+            <source>12 Hours</source>
+            <translation>12 heures</translation>
+        </message>
+        <message>
+            <source>24 Hours</source>
+            <translation>24 heures</translation>
+        </message>
+        <message>
+            <source>AM</source>
+            <translation>AM</translation>
+        </message>
+        <message>
+            <source>PM</source>
+            <translation>PM</translation>
+        </message>
+    </context>
+    <context>
+        <name>Tips</name>
+        <message>
+            <source>Enter the concentration of the blank determined in an earlier blank titration.</source>
+            <translation>Saisissez la concentration du blanc déterminée lors d'un titrage à blanc précédent.</translation>
+        </message>
+        <message>
+            <source>Choose whether a blank titration is run, with a fixed or a variable sample amount.</source>
+            <translation>Choisissez si un titrage à blanc est effectué, avec une quantité d'échantillon fixe ou variable.</translation>
+        </message>
+        <message>
+            <source>Rinse, fill, empty or dispense a volume with the burette, and record its installation date.</source>
+            <translation>Rincez, remplissez, videz ou distribuez un volume avec la burette, et notez sa date d'installation.</translation>
+        </message>
+        <message>
+            <source>Enter the date the burette was installed. The instrument reminds you when it is due for maintenance.</source>
+            <translation>Saisissez la date d'installation de la burette. L'instrument vous rappelle quand la maintenance est due.</translation>
+        </message>
+        <message>
+            <source>Place the electrode in the first buffer or standard and follow the steps on screen. Up to five points can be used.</source>
+            <translation>Placez l'électrode dans le premier tampon ou étalon et suivez les étapes à l'écran. Jusqu'à cinq points sont possibles.</translation>
+        </message>
+        <message>
+            <source>Calibrate the ion-selective electrode in at least two standards of known concentration, from the lowest to the highest.</source>
+            <translation>Étalonnez l'électrode ionique sélective dans au moins deux étalons de concentration connue, du plus faible au plus élevé.</translation>
+        </message>
+        <message>
+            <source>Place the electrode in the redox standard and enter its value once the reading is stable.</source>
+            <translation>Placez l'électrode dans l'étalon redox et saisissez sa valeur une fois la lecture stable.</translation>
+        </message>
+        <message>
+            <source>The point has been accepted. Rinse the electrode and place it in the next buffer, or finish the calibration.</source>
+            <translation>Le point a été accepté. Rincez l'électrode et placez-la dans le tampon suivant, ou terminez l'étalonnage.</translation>
+        </message>
+        <message>
+            <source>The slope and offset of the calibration. A slope between 90% and 105% is good for most electrodes.</source>
+            <translation>La pente et le décalage de l'étalonnage. Une pente entre 90 % et 105 % convient à la plupart des électrodes.</translation>
+        </message>
+        <message>
+            <source>Enter the value of the buffer at the measured temperature and press "Save".</source>
+            <translation>Saisissez la valeur du tampon à la température mesurée et appuyez sur « Enregistrer ».</translation>
+        </message>
+        <message>
+            <source>Check the recognised buffer value and accept it, or edit it when your buffer differs.</source>
+            <translation>Vérifiez la valeur du tampon reconnu et acceptez-la, ou modifiez-la si votre tampon est différent.</translation>
+        </message>
+        <message>
+            <source>The reading has not become stable. You may accept the current value, but the calibration may be less accurate.</source>
+            <translation>La lecture ne s'est pas stabilisée. Vous pouvez accepter la valeur actuelle, mais l'étalonnage risque d'être moins précis.</translation>
+        </message>
+        <message>
+            <source>Choose after how many hours without a calibration the instrument reminds you to calibrate.</source>
+            <translation>Choisissez après combien d'heures sans étalonnage l'instrument vous rappelle d'étalonner.</translation>
+        </message>
+        <message>
+            <source>The Calibration Log may contain up to 50 points of electrode calibration data. Each point of calibration data may consist of up to five standards with all relevant associated data.</source>
+            <translation>Le journal d'étalonnage peut contenir jusqu'à 50 points de données d'étalonnage. Chaque point peut comporter jusqu'à cinq étalons avec toutes les données associées.</translation>
+        </message>
+        <message>
+            <source>The results of this calibration: each standard with its reading, and the slope and offset.</source>
+            <translation>Les résultats de cet étalonnage : chaque étalon avec sa lecture, ainsi que la pente et le décalage.</translation>
+        </message>
+        <message>
+            <source>Enter the titrant concentration by hand, or determine it by a standardization.</source>
+            <translation>Saisissez la concentration du titrant manuellement, ou déterminez-la par une standardisation.</translation>
+        </message>
+        <message>
+            <source>A method joins an electrode setup, a titrant setup and a titration setup. Up to 10 methods can be saved.</source>
+            <translation>Une méthode associe une configuration d'électrode, de titrant et de titrage. Jusqu'à 10 méthodes peuvent être enregistrées.</translation>
+        </message>
+        <message>
+            <source>The titration curve as it is recorded. Stop ends the run; the results follow when the end is found.</source>
+            <translation>La courbe de titrage en cours d'enregistrement. Arrêter met fin à l'analyse ; les résultats suivent lorsque la fin est trouvée.</translation>
+        </message>
+        <message>
+            <source>Open the log of titrations, titrant standardizations, calibrations or direct measurements.</source>
+            <translation>Ouvrez le journal des titrages, standardisations, étalonnages ou mesures directes.</translation>
+        </message>
+        <message>
+            <source>Set today's date.</source>
+            <translation>Réglez la date du jour.</translation>
+        </message>
+        <message>
+            <source>Tests of the instrument's parts for service.</source>
+            <translation>Tests des composants de l'instrument pour le service.</translation>
+        </message>
+        <message>
+            <source>The saved direct measurements, newest first. Tap a row for its details.</source>
+            <translation>Les mesures directes enregistrées, les plus récentes en premier. Touchez une ligne pour ses détails.</translation>
+        </message>
+        <message>
+            <source>The details of one saved measurement.</source>
+            <translation>Les détails d'une mesure enregistrée.</translation>
+        </message>
+        <message>
+            <source>Choose the unit of the concentration shown in ISE measurements.</source>
+            <translation>Choisissez l'unité de concentration affichée pour les mesures ISE.</translation>
+        </message>
+        <message>
+            <source>Enter the volume to dispense from the burette, in mL.</source>
+            <translation>Saisissez le volume à distribuer par la burette, en mL.</translation>
+        </message>
+        <message>
+            <source>Brightness, instrument name, date and time, language and temperature settings.</source>
+            <translation>Luminosité, nom de l'instrument, date et heure, langue et température.</translation>
+        </message>
+        <message>
+            <source>Choose the brightness of the screen.</source>
+            <translation>Choisissez la luminosité de l'écran.</translation>
+        </message>
+        <message>
+            <source>Change the electrode, titrant or titration setup of the method.</source>
+            <translation>Modifiez la configuration d'électrode, de titrant ou de titrage de la méthode.</translation>
+        </message>
+        <message>
+            <source>Enter an electrode name using up to 14 alphanumeric characters. Press "Save" when done.</source>
+            <translation>Saisissez un nom d'électrode de 14 caractères alphanumériques au maximum. Appuyez sur « Enregistrer » pour terminer.</translation>
+        </message>
+        <message>
+            <source>Enter the pH or mV value at which the titration ends. Up to three end points can be set.</source>
+            <translation>Saisissez la valeur de pH ou de mV à laquelle le titrage s'arrête. Jusqu'à trois points finaux peuvent être définis.</translation>
+        </message>
+        <message>
+            <source>Returns every setting to its factory value. Logs and methods are deleted unless you choose to keep the methods.</source>
+            <translation>Rétablit tous les réglages d'usine. Les journaux et les méthodes sont supprimés, sauf si vous choisissez de conserver les méthodes.</translation>
+        </message>
+        <message>
+            <source>Software versions of the instrument, and the software update.</source>
+            <translation>Versions logicielles de l'instrument et mise à jour du logiciel.</translation>
+        </message>
+        <message>
+            <source>The version of the instrument's controller firmware.</source>
+            <translation>La version du micrologiciel du contrôleur de l'instrument.</translation>
+        </message>
+        <message>
+            <source>Enter the weight of the reagent used in every run.</source>
+            <translation>Saisissez le poids de réactif utilisé à chaque analyse.</translation>
+        </message>
+        <message>
+            <source>Start a titration with the current method, or set up the electrode, titrant and titration first.</source>
+            <translation>Lancez un titrage avec la méthode en cours, ou configurez d'abord l'électrode, le titrant et le titrage.</translation>
+        </message>
+        <message>
+            <source>Choose the ion the electrode measures.</source>
+            <translation>Choisissez l'ion mesuré par l'électrode.</translation>
+        </message>
+        <message>
+            <source>Enter the name shown in the header of every screen and on every report.</source>
+            <translation>Saisissez le nom affiché en tête de chaque écran et sur chaque rapport.</translation>
+        </message>
+        <message>
+            <source>Choose the language of the screens and reports.</source>
+            <translation>Choisissez la langue des écrans et des rapports.</translation>
+        </message>
+        <message>
+            <source>Set up a multiple known addition: the additions, their volumes and the sample.</source>
+            <translation>Configurez une addition multiple connue : les additions, leurs volumes et l'échantillon.</translation>
+        </message>
+        <message>
+            <source>Choose after how long the instrument reminds you of maintenance.</source>
+            <translation>Choisissez au bout de combien de temps l'instrument vous rappelle la maintenance.</translation>
+        </message>
+        <message>
+            <source>The run stops when this volume of titrant has been added without reaching the end.</source>
+            <translation>L'analyse s'arrête lorsque ce volume de titrant a été ajouté sans atteindre la fin.</translation>
+        </message>
+        <message>
+            <source>The largest volume added in one step, far from the end point.</source>
+            <translation>Le plus grand volume ajouté en une fois, loin du point final.</translation>
+        </message>
+        <message>
+            <source>The longest wait for a stable reading after each addition.</source>
+            <translation>L'attente la plus longue d'une lecture stable après chaque addition.</translation>
+        </message>
+        <message>
+            <source>Direct measurement of pH, mV or ion concentration with stability detection.</source>
+            <translation>Mesure directe du pH, du mV ou de la concentration ionique avec détection de stabilité.</translation>
+        </message>
+        <message>
+            <source>Choose what the meter measures: pH, redox or ion concentration.</source>
+            <translation>Choisissez ce que mesure l'appareil : pH, redox ou concentration ionique.</translation>
+        </message>
+        <message>
+            <source>The saved methods. Tap a method to run, edit, copy or delete it.</source>
+            <translation>Les méthodes enregistrées. Touchez une méthode pour la lancer, la modifier, la copier ou la supprimer.</translation>
+        </message>
+        <message>
+            <source>The smallest volume added in one step, near the end point.</source>
+            <translation>Le plus petit volume ajouté en une fois, près du point final.</translation>
+        </message>
+        <message>
+            <source>The shortest wait after each addition before the reading is taken.</source>
+            <translation>L'attente la plus courte après chaque addition avant la prise de la lecture.</translation>
+        </message>
+        <message>
+            <source>There are 3 steps to setting up a titration: the electrode, the titrant and the titration.</source>
+            <translation>La configuration d'un titrage comporte 3 étapes : l'électrode, le titrant et le titrage.</translation>
+        </message>
+        <message>
+            <source>The concentration the titrant is expected to have.</source>
+            <translation>La concentration attendue du titrant.</translation>
+        </message>
+        <message>
+            <source>Choose which reminders and warnings the instrument shows.</source>
+            <translation>Choisissez les rappels et avertissements affichés par l'instrument.</translation>
+        </message>
+        <message>
+            <source>A pre-dose is useful to shorten titration time when the equivalence or endpoint volume is well predicted. A pre-dose volume of 50%-75% of the predicted equivalence or endpoint volume may be very effective.</source>
+            <translation>Un pré-dosage permet de raccourcir le titrage lorsque le volume d'équivalence ou de point final est bien prévisible. Un pré-dosage de 50 % à 75 % du volume prévu peut être très efficace.</translation>
+        </message>
+        <message>
+            <source>The time the sample is stirred before the first addition.</source>
+            <translation>La durée d'agitation de l'échantillon avant la première addition.</translation>
+        </message>
+        <message>
+            <source>The number of titrant molecules that react with one molecule of the sample.</source>
+            <translation>Le nombre de molécules de titrant qui réagissent avec une molécule d'échantillon.</translation>
+        </message>
+        <message>
+            <source>The amount of reagent added in a back titration.</source>
+            <translation>La quantité de réactif ajoutée dans un titrage en retour.</translation>
+        </message>
+        <message>
+            <source>The concentration of the reagent added in a back titration.</source>
+            <translation>La concentration du réactif ajouté dans un titrage en retour.</translation>
+        </message>
+        <message>
+            <source>The molecular weight of the reagent, in g/mol.</source>
+            <translation>La masse molaire du réactif, en g/mol.</translation>
+        </message>
+        <message>
+            <source>The purity of the reagent, in percent.</source>
+            <translation>La pureté du réactif, en pourcentage.</translation>
+        </message>
+        <message>
+            <source>The number of reagent molecules that react with one molecule of the sample.</source>
+            <translation>Le nombre de molécules de réactif qui réagissent avec une molécule d'échantillon.</translation>
+        </message>
+        <message>
+            <source>The volume of reagent added in a back titration, in mL.</source>
+            <translation>Le volume de réactif ajouté dans un titrage en retour, en mL.</translation>
+        </message>
+        <message>
+            <source>Choose the unit of the result.</source>
+            <translation>Choisissez l'unité du résultat.</translation>
+        </message>
+        <message>
+            <source>The result is the titrant consumption in mmol multiplied by a factor you enter.</source>
+            <translation>Le résultat est la consommation de titrant en mmol multipliée par un facteur que vous saisissez.</translation>
+        </message>
+        <message>
+            <source>Choose whether the sample is given by volume or weight, fixed for every run or entered each time.</source>
+            <translation>Choisissez si l'échantillon est donné en volume ou en poids, fixe pour chaque analyse ou saisi à chaque fois.</translation>
+        </message>
+        <message>
+            <source>Each measurement takes the next number as its sample ID.</source>
+            <translation>Chaque mesure prend le numéro suivant comme ID d'échantillon.</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID for each measurement.</source>
+            <translation>Saisissez un ID d'échantillon pour chaque mesure.</translation>
+        </message>
+        <message>
+            <source>Calibrate the touch screen by tapping the marks.</source>
+            <translation>Étalonnez l'écran tactile en touchant les repères.</translation>
+        </message>
+        <message>
+            <source>Display, notifications, diagnostics and the instrument's files and information.</source>
+            <translation>Affichage, notifications, diagnostics, fichiers et informations de l'instrument.</translation>
+        </message>
+        <message>
+            <source>Choose the electrode type, name and resolution.</source>
+            <translation>Choisissez le type, le nom et la résolution de l'électrode.</translation>
+        </message>
+        <message>
+            <source>Enter the titrant's name, concentration and the way it is standardized.</source>
+            <translation>Saisissez le nom du titrant, sa concentration et son mode de standardisation.</translation>
+        </message>
+        <message>
+            <source>Choose the technique, sample amount, result unit and process control.</source>
+            <translation>Choisissez la technique, la quantité d'échantillon, l'unité du résultat et le contrôle du procédé.</translation>
+        </message>
+        <message>
+            <source>The largest change of the reading per second at which it counts as stable.</source>
+            <translation>La plus grande variation de la lecture par seconde pour laquelle elle est considérée comme stable.</translation>
+        </message>
+        <message>
+            <source>Choose whether the standard is given by volume or weight, fixed or entered each time.</source>
+            <translation>Choisissez si l'étalon est donné en volume ou en poids, fixe ou saisi à chaque fois.</translation>
+        </message>
+        <message>
+            <source>The concentration of the primary standard.</source>
+            <translation>La concentration de l'étalon primaire.</translation>
+        </message>
+        <message>
+            <source>The molecular weight of the primary standard, in g/mol.</source>
+            <translation>La masse molaire de l'étalon primaire, en g/mol.</translation>
+        </message>
+        <message>
+            <source>Choose the primary standard used to standardize the titrant.</source>
+            <translation>Choisissez l'étalon primaire utilisé pour standardiser le titrant.</translation>
+        </message>
+        <message>
+            <source>The purity of the primary standard, in percent.</source>
+            <translation>La pureté de l'étalon primaire, en pourcentage.</translation>
+        </message>
+        <message>
+            <source>The number of titrant molecules that react with one molecule of the standard.</source>
+            <translation>Le nombre de molécules de titrant qui réagissent avec une molécule d'étalon.</translation>
+        </message>
+        <message>
+            <source>The result of the standardization: the titrant's concentration from each cycle and their average.</source>
+            <translation>Le résultat de la standardisation : la concentration du titrant de chaque cycle et leur moyenne.</translation>
+        </message>
+        <message>
+            <source>Check the titrant, standard and electrode before the standardization starts.</source>
+            <translation>Vérifiez le titrant, l'étalon et l'électrode avant le début de la standardisation.</translation>
+        </message>
+        <message>
+            <source>Choose how fast the sample is stirred.</source>
+            <translation>Choisissez la vitesse d'agitation de l'échantillon.</translation>
+        </message>
+        <message>
+            <source>The change of the reading aimed at by each addition.</source>
+            <translation>La variation de la lecture visée par chaque addition.</translation>
+        </message>
+        <message>
+            <source>Enter the sample temperature, or use the temperature probe (ATC).</source>
+            <translation>Saisissez la température de l'échantillon, ou utilisez la sonde de température (CAT).</translation>
+        </message>
+        <message>
+            <source>The smallest slope of the curve that counts as an equivalence point.</source>
+            <translation>La plus petite pente de la courbe considérée comme un point d'équivalence.</translation>
+        </message>
+        <message>
+            <source>Set the time and choose the 12 or 24 hour display.</source>
+            <translation>Réglez l'heure et choisissez l'affichage sur 12 ou 24 heures.</translation>
+        </message>
+        <message>
+            <source>Enter the concentration of the titrant.</source>
+            <translation>Saisissez la concentration du titrant.</translation>
+        </message>
+        <message>
+            <source>Enter an identifier of the titrant lot.</source>
+            <translation>Saisissez un identifiant du lot de titrant.</translation>
+        </message>
+        <message>
+            <source>The saved titrant standardizations, newest first.</source>
+            <translation>Les standardisations de titrant enregistrées, les plus récentes en premier.</translation>
+        </message>
+        <message>
+            <source>Choose the titrant.</source>
+            <translation>Choisissez le titrant.</translation>
+        </message>
+        <message>
+            <source>The saved titrations, newest first. Tap a row for its details.</source>
+            <translation>Les titrages enregistrés, les plus récents en premier. Touchez une ligne pour ses détails.</translation>
+        </message>
+        <message>
+            <source>Check the method, the calibration and the titrant before the titration starts.</source>
+            <translation>Vérifiez la méthode, l'étalonnage et le titrant avant le début du titrage.</translation>
+        </message>
+        <message>
+            <source>The result of each cycle and their average.</source>
+            <translation>Le résultat de chaque cycle et leur moyenne.</translation>
+        </message>
+        <message>
+            <source>Enter the name of your own primary standard.</source>
+            <translation>Saisissez le nom de votre propre étalon primaire.</translation>
+        </message>
+        <message>
+            <source>Enter the name of your own titrant.</source>
+            <translation>Saisissez le nom de votre propre titrant.</translation>
+        </message>
+        <message>
+            <source>About this screen</source>
+            <translation>À propos de cet écran</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrantSetupDynamic</name>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Standardize Titrant</source>
+            <translation>Standardiser le titrant</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrantSetupMKA</name>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Configurer le titrant</translation>
+        </message>
+        <message>
+            <source>Next: Setup Titration</source>
+            <translation>Suivant : titrage</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrantSetupMkaDynamic</name>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Standardize Titrant</source>
+            <translation>Standardiser le titrant</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration01</name>
+        <message>
+            <source>Home</source>
+            <translation>Accueil</translation>
+        </message>
+        <message>
+            <source>Last Titration</source>
+            <translation>Dernier titrage</translation>
+        </message>
+        <message>
+            <source>Calibrated</source>
+            <translation>Étalonné</translation>
+        </message>
+        <message>
+            <source>Standardized</source>
+            <translation>Standardisé</translation>
+        </message>
+        <message>
+            <source>No titration run yet</source>
+            <translation>Aucun titrage effectué</translation>
+        </message>
+        <message>
+            <source>Electrode</source>
+            <translation>Électrode</translation>
+        </message>
+        <message>
+            <source>Titrant</source>
+            <translation>Titrant</translation>
+        </message>
+        <message>
+            <source>Titration</source>
+            <translation>Titrage</translation>
+        </message>
+        <message>
+            <source>Run Titration</source>
+            <translation>Lancer le titrage</translation>
+        </message>
+        <message>
+            <source>Repeat Last Titration</source>
+            <translation>Répéter le dernier titrage</translation>
+        </message>
+        <message>
+            <source>Use a Saved Method</source>
+            <translation>Utiliser une méthode enregistrée</translation>
+        </message>
+        <message>
+            <source>Start a New Titration</source>
+            <translation>Nouveau titrage</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration03</name>
+        <message>
+            <source>New Titration Setup Process</source>
+            <translation>Nouvelle configuration de titrage</translation>
+        </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>La configuration d'un titrage comporte 3 étapes :</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Configurer l'électrode</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Configurer le titrant</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Configurer le titrage</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Commencer la configuration</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration04</name>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Configurer l'électrode</translation>
+        </message>
+        <message>
+            <source>Next: Setup Titrant</source>
+            <translation>Suivant : titrant</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration05</name>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Configurer le titrant</translation>
+        </message>
+        <message>
+            <source>Next: Setup Titration</source>
+            <translation>Suivant : titrage</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration06</name>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Configurer le titrage</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>Suivant</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration07</name>
+        <message>
+            <source>Save Method</source>
+            <translation>Enregistrer la méthode</translation>
+        </message>
+        <message>
+            <source>Would you like to save this as a method?</source>
+            <translation>Voulez-vous enregistrer ceci comme méthode ?</translation>
+        </message>
+        <message>
+            <source>Saving as a method will still allow you to run the titration.</source>
+            <translation>L'enregistrement comme méthode vous permet toujours de lancer le titrage.</translation>
+        </message>
+        <message>
+            <source>Yes, Save Method</source>
+            <translation>Oui, enregistrer la méthode</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Non</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Le journal des méthodes est plein, la nouvelle méthode ne peut pas être enregistrée.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration08</name>
+        <message>
+            <source>Save Method</source>
+            <translation>Enregistrer la méthode</translation>
+        </message>
+        <message>
+            <source>Method Saved</source>
+            <translation>Méthode enregistrée</translation>
+        </message>
+        <message>
+            <source>Your method has
+been saved as - </source>
+            <translation>Votre méthode a
+été enregistrée sous - </translation>
+        </message>
+        <message>
+            <source>Method Name</source>
+            <translation>Nom de la méthode</translation>
+        </message>
+        <message>
+            <source>Password</source>
+            <translation>Mot de passe</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration14</name>
+        <message>
+            <source>Standardize Titrant | Pre-Check</source>
+            <translation>Standardiser le titrant | Vérification</translation>
+        </message>
+        <message>
+            <source>nominal</source>
+            <translation>nominale</translation>
+        </message>
+        <message>
+            <source>Standard</source>
+            <translation>Étalon</translation>
+        </message>
+        <message>
+            <source>Make sure the electrode is in the sample solution before pressing the standardize titrant button below.</source>
+            <translation>Assurez-vous que l'électrode est dans la solution d'échantillon avant d'appuyer sur le bouton de standardisation ci-dessous.</translation>
+        </message>
+        <message>
+            <source>Standardize</source>
+            <translation>Standardiser</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration21</name>
+        <message>
+            <source>Methods</source>
+            <translation>Méthodes</translation>
+        </message>
+        <message>
+            <source>No methods saved</source>
+            <translation>Aucune méthode enregistrée</translation>
+        </message>
+        <message>
+            <source>New Method</source>
+            <translation>Nouvelle méthode</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration24</name>
+        <message>
+            <source>Method Saved</source>
+            <translation>Méthode enregistrée</translation>
+        </message>
+        <message>
+            <source>Your method has
+been saved as - </source>
+            <translation>Votre méthode a
+été enregistrée sous - </translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Method Name</source>
+            <translation>Nom de la méthode</translation>
+        </message>
+        <message>
+            <source>Password (Optional)</source>
+            <translation>Mot de passe (facultatif)</translation>
+        </message>
+        <message>
+            <source>Confirm Password</source>
+            <translation>Confirmer le mot de passe</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrationPreCheckScreen</name>
+        <message>
+            <source>pH Titration | Pre-Check</source>
+            <translation>Titrage pH | Vérification</translation>
+        </message>
+        <message>
+            <source>Redox Titration | Pre-Check</source>
+            <translation>Titrage redox | Vérification</translation>
+        </message>
+        <message>
+            <source>MKA Titration | Pre-Check</source>
+            <translation>Titrage MKA | Vérification</translation>
+        </message>
+        <message>
+            <source>ISE Titration | Pre-Check</source>
+            <translation>Titrage ISE | Vérification</translation>
+        </message>
+        <message>
+            <source>Electrode</source>
+            <translation>Électrode</translation>
+        </message>
+        <message>
+            <source>Calibrated</source>
+            <translation>Étalonné</translation>
+        </message>
+        <message>
+            <source>Not calibrated: calibrating the sensor is strongly encouraged.</source>
+            <translation>Non étalonné : il est vivement conseillé d'étalonner le capteur.</translation>
+        </message>
+        <message>
+            <source>Entered by hand</source>
+            <translation>Saisi manuellement</translation>
+        </message>
+        <message>
+            <source>Standardized</source>
+            <translation>Standardisé</translation>
+        </message>
+        <message>
+            <source>Not standardized: the nominal concentration is used.</source>
+            <translation>Non standardisé : la concentration nominale est utilisée.</translation>
+        </message>
+        <message>
+            <source>Titrant</source>
+            <translation>Titrant</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Burette</translation>
+        </message>
+        <message>
+            <source>The method may dispense more than the burette holds; it refills between doses.</source>
+            <translation>La méthode peut distribuer plus que le contenu de la burette ; elle se remplit entre les doses.</translation>
+        </message>
+        <message>
+            <source>asked at the start</source>
+            <translation>demandé au début</translation>
+        </message>
+        <message>
+            <source>Sample</source>
+            <translation>Échantillon</translation>
+        </message>
+        <message>
+            <source>Sample Id</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Not</source>
+            <translation>Non</translation>
+        </message>
+        <message>
+            <source>The method</source>
+            <translation>La méthode</translation>
+        </message>
+        <message>
+            <source>Make sure the electrode is in your sample solution before pressing the start titration button below.</source>
+            <translation>Assurez-vous que l'électrode est dans votre solution d'échantillon avant d'appuyer sur le bouton de démarrage du titrage ci-dessous.</translation>
+        </message>
+        <message>
+            <source>Run a Blank</source>
+            <translation>Effectuer un blanc</translation>
+        </message>
+        <message>
+            <source>Standardize</source>
+            <translation>Standardiser</translation>
+        </message>
+        <message>
+            <source>Start Titration</source>
+            <translation>Démarrer le titrage</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrationSetupDynamic</name>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>Suivant</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrationSetupMKA</name>
+        <message>
+            <source>MKA-Setup Titration</source>
+            <translation>Titrage MKA - Configuration</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Run Titration</source>
+            <translation>Lancer le titrage</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrationSetupMkaDynamic</name>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Run Titration</source>
+            <translation>Lancer le titrage</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrationSummary</name>
+        <message>
+            <source>Titration Summary</source>
+            <translation>Résumé du titrage</translation>
+        </message>
+        <message>
+            <source>Blank Run</source>
+            <translation>Essai à blanc</translation>
+        </message>
+        <message>
+            <source>Avg Blank(mmol)</source>
+            <translation>Blanc moy. (mmol)</translation>
+        </message>
+        <message>
+            <source>Avg Conc. (</source>
+            <translation>Conc. moy. (</translation>
+        </message>
+        <message>
+            <source>Blank Value(mmol)</source>
+            <translation>Valeur du blanc (mmol)</translation>
+        </message>
+        <message>
+            <source>Conc. (</source>
+            <translation>Conc. (</translation>
+        </message>
+        <message>
+            <source>Sample Id</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Titrant</source>
+            <translation>Titrant</translation>
+        </message>
+        <message>
+            <source>Blank</source>
+            <translation>Blanc</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>Suivant</translation>
+        </message>
+        <message>
+            <source>Repeat MKA</source>
+            <translation>Répéter MKA</translation>
+        </message>
+        <message>
+            <source>Repeat Titration</source>
+            <translation>Répéter le titrage</translation>
+        </message>
+    </context>
+    <context>
+        <name>TitrationValidationPopUp</name>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+    </context>
+    <context>
+        <name>TranslationListElements</name>
+        <message>
+            <source>Very Slow</source>
+            <translation>Très lent</translation>
+        </message>
+        <message>
+            <source>Slow</source>
+            <translation>Lent</translation>
+        </message>
+        <message>
+            <source>Medium</source>
+            <translation>Moyen</translation>
+        </message>
+        <message>
+            <source>Fast</source>
+            <translation>Rapide</translation>
+        </message>
+        <message>
+            <source>Very Fast</source>
+            <translation>Très rapide</translation>
+        </message>
+        <message>
+            <source>No Stirring</source>
+            <translation>Sans agitation</translation>
+        </message>
+        <message>
+            <source>Equivalence Pt.</source>
+            <translation>Pt d'équivalence</translation>
+        </message>
+        <message>
+            <source>Preset End Pt.</source>
+            <translation>Pt final prédéfini</translation>
+        </message>
+        <message>
+            <source>Routine</source>
+            <translation>Routine</translation>
+        </message>
+        <message>
+            <source>Quick</source>
+            <translation>Rapide</translation>
+        </message>
+        <message>
+            <source>Careful</source>
+            <translation>Attention</translation>
+        </message>
+        <message>
+            <source>User Defined</source>
+            <translation>Défini par l'utilisateur</translation>
+        </message>
+        <message>
+            <source>Manual Entry</source>
+            <translation>Saisie manuelle</translation>
+        </message>
+        <message>
+            <source>Standardization</source>
+            <translation>Standardisation</translation>
+        </message>
+        <message>
+            <source>Fixed Weight</source>
+            <translation>Poids fixe</translation>
+        </message>
+        <message>
+            <source>Variable Weight</source>
+            <translation>Poids variable</translation>
+        </message>
+        <message>
+            <source>Fixed Volume</source>
+            <translation>Volume fixe</translation>
+        </message>
+        <message>
+            <source>Variable Volume</source>
+            <translation>Volume variable</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Non</translation>
+        </message>
+        <message>
+            <source>Fixed</source>
+            <translation>Fixe</translation>
+        </message>
+        <message>
+            <source>Variable</source>
+            <translation>Variable</translation>
+        </message>
+        <message>
+            <source>None</source>
+            <translation>Aucun</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental</source>
+            <translation>Auto-incrémenté</translation>
+        </message>
+        <message>
+            <source>Manual</source>
+            <translation>Manuel</translation>
+        </message>
+        <message>
+            <source>pH</source>
+            <translation>pH</translation>
+        </message>
+        <message>
+            <source>mV</source>
+            <translation>mV</translation>
+        </message>
+        <message>
+            <source>USA</source>
+            <translation type="unfinished">USA</translation>
+        </message>
+        <message>
+            <source>DIN</source>
+            <translation>DIN</translation>
+        </message>
+        <message>
+            <source>Redox</source>
+            <translation>Redox</translation>
+        </message>
+        <message>
+            <source>ISE-Titration</source>
+            <translation>Titrage ISE</translation>
+        </message>
+        <message>
+            <source>ISE-MKA</source>
+            <translation>ISE-MKA</translation>
+        </message>
+        <message>
+            <source>ppm</source>
+            <translation>ppm</translation>
+        </message>
+        <message>
+            <source>Molar</source>
+            <translation>Molaire</translation>
+        </message>
+        <message>
+            <source>mg/L</source>
+            <translation>mg/L</translation>
+        </message>
+        <message>
+            <source>%</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source>ppb</source>
+            <translation>ppb</translation>
+        </message>
+        <message>
+            <source>Ammonia (NH3)</source>
+            <translation>Ammoniac (NH3)</translation>
+        </message>
+        <message>
+            <source>Ammonium (NH4+)</source>
+            <translation>Ammonium (NH4+)</translation>
+        </message>
+        <message>
+            <source>Bromide (Br-)</source>
+            <translation>Bromure (Br-)</translation>
+        </message>
+        <message>
+            <source>Cadmium (Cd2+)</source>
+            <translation>Cadmium (Cd2+)</translation>
+        </message>
+        <message>
+            <source>Calcium (Ca2+)</source>
+            <translation>Calcium (Ca2+)</translation>
+        </message>
+        <message>
+            <source>Carbon Dioxide (CO2)</source>
+            <translation>Dioxyde de carbone (CO2)</translation>
+        </message>
+        <message>
+            <source>Chloride (Cl-)</source>
+            <translation>Chlorure (Cl-)</translation>
+        </message>
+        <message>
+            <source>Chlorine (Cl2)</source>
+            <translation>Chlore (Cl2)</translation>
+        </message>
+        <message>
+            <source>Copper (Cu2+)</source>
+            <translation>Cuivre (Cu2+)</translation>
+        </message>
+        <message>
+            <source>Cyanide (CN-)</source>
+            <translation>Cyanure (CN-)</translation>
+        </message>
+        <message>
+            <source>Fluoride (F-)</source>
+            <translation>Fluorure (F-)</translation>
+        </message>
+        <message>
+            <source>Fluoroborate (BF4-)</source>
+            <translation>Fluoroborate (BF4-)</translation>
+        </message>
+        <message>
+            <source>Iodide (I-)</source>
+            <translation>Iodure (I-)</translation>
+        </message>
+        <message>
+            <source>Lead (Pb2+)</source>
+            <translation>Plomb (Pb2+)</translation>
+        </message>
+        <message>
+            <source>Nitrate (NO3-)</source>
+            <translation>Nitrate (NO3-)</translation>
+        </message>
+        <message>
+            <source>Potassium (K+)</source>
+            <translation>Potassium (K+)</translation>
+        </message>
+        <message>
+            <source>Silver (Ag+)</source>
+            <translation>Argent (Ag+)</translation>
+        </message>
+        <message>
+            <source>Sodium (Na+)</source>
+            <translation>Sodium (Na+)</translation>
+        </message>
+        <message>
+            <source>Sulfide (S2-)</source>
+            <translation>Sulfure (S2-)</translation>
+        </message>
+        <message>
+            <source>Surfactant</source>
+            <translation>Tensioactif</translation>
+        </message>
+        <message>
+            <source>Thiocyanate (SCN-)</source>
+            <translation>Thiocyanate (SCN-)</translation>
+        </message>
+        <message>
+            <source>Monovalent Anion (X-)</source>
+            <translation>Anion monovalent (X-)</translation>
+        </message>
+        <message>
+            <source>Monovalent Cation (X+)</source>
+            <translation>Cation monovalent (X+)</translation>
+        </message>
+        <message>
+            <source>Divalent Anion (X2-)</source>
+            <translation>Anion divalent (X2-)</translation>
+        </message>
+        <message>
+            <source>Divalent Cation (X2+)</source>
+            <translation>Cation divalent (X2+)</translation>
+        </message>
+        <message>
+            <source>0.1</source>
+            <translation>0.1</translation>
+        </message>
+        <message>
+            <source>0.01</source>
+            <translation>0.01</translation>
+        </message>
+        <message>
+            <source>0.001</source>
+            <translation>0.001</translation>
+        </message>
+        <message>
+            <source>NaOH</source>
+            <translation>NaOH</translation>
+        </message>
+        <message>
+            <source>HCl</source>
+            <translation>HCl</translation>
+        </message>
+        <message>
+            <source>H2SO4</source>
+            <translation>H2SO4</translation>
+        </message>
+        <message>
+            <source>AgNO3</source>
+            <translation>AgNO3</translation>
+        </message>
+        <message>
+            <source>EDTA</source>
+            <translation>EDTA</translation>
+        </message>
+        <message>
+            <source>HClO4</source>
+            <translation>HClO4</translation>
+        </message>
+        <message>
+            <source>I2</source>
+            <translation>I2</translation>
+        </message>
+        <message>
+            <source>KIO3</source>
+            <translation>KIO3</translation>
+        </message>
+        <message>
+            <source>KOH</source>
+            <translation>KOH</translation>
+        </message>
+        <message>
+            <source>Na2S2O3</source>
+            <translation>Na2S2O3</translation>
+        </message>
+        <message>
+            <source>Calcium (Ca+2)</source>
+            <translation>Calcium (Ca+2)</translation>
+        </message>
+        <message>
+            <source>Sodium Chloride (NaCl)</source>
+            <translation>Chlorure de sodium (NaCl)</translation>
+        </message>
+        <message>
+            <source>M</source>
+            <translation>M</translation>
+        </message>
+        <message>
+            <source>mM</source>
+            <translation>mM</translation>
+        </message>
+        <message>
+            <source>Ascorbic Acid</source>
+            <translation>Acide ascorbique</translation>
+        </message>
+        <message>
+            <source>KCl</source>
+            <translation>KCl</translation>
+        </message>
+        <message>
+            <source>KH(IO3)2</source>
+            <translation>KH(IO3)2</translation>
+        </message>
+        <message>
+            <source>KHP</source>
+            <translation>KHP</translation>
+        </message>
+        <message>
+            <source>NaCl</source>
+            <translation>NaCl</translation>
+        </message>
+        <message>
+            <source>THAM</source>
+            <translation>THAM</translation>
+        </message>
+        <message>
+            <source>mg/100mL</source>
+            <translation>mg/100mL</translation>
+        </message>
+        <message>
+            <source>g/100mL</source>
+            <translation>g/100mL</translation>
+        </message>
+        <message>
+            <source>g/L</source>
+            <translation>g/L</translation>
+        </message>
+        <message>
+            <source>oz/gal</source>
+            <translation>oz/gal</translation>
+        </message>
+        <message>
+            <source>% w/v</source>
+            <translation>% w/v</translation>
+        </message>
+        <message>
+            <source>mol/kg</source>
+            <translation>mol/kg</translation>
+        </message>
+        <message>
+            <source>mmol/kg</source>
+            <translation>mmol/kg</translation>
+        </message>
+        <message>
+            <source>mmol/g</source>
+            <translation>mmol/g</translation>
+        </message>
+        <message>
+            <source>mg/100g</source>
+            <translation>mg/100g</translation>
+        </message>
+        <message>
+            <source>mg/g</source>
+            <translation>mg/g</translation>
+        </message>
+        <message>
+            <source>mg/kg</source>
+            <translation>mg/kg</translation>
+        </message>
+        <message>
+            <source>g/100g</source>
+            <translation>g/100g</translation>
+        </message>
+        <message>
+            <source>g/kg</source>
+            <translation>g/kg</translation>
+        </message>
+        <message>
+            <source>ppm by weight</source>
+            <translation>ppm en poids</translation>
+        </message>
+        <message>
+            <source>% w/w</source>
+            <translation>% w/w</translation>
+        </message>
+        <message>
+            <source>TAN</source>
+            <translation>TAN</translation>
+        </message>
+        <message>
+            <source>TBN</source>
+            <translation>TBN</translation>
+        </message>
+        <message>
+            <source>Consumption mmol</source>
+            <translation>Consommation mmol</translation>
+        </message>
+        <message>
+            <source>F*Consumption mmol</source>
+            <translation>F*Consommation mmol</translation>
+        </message>
+        <message>
+            <source>%w/w</source>
+            <translation>%w/w</translation>
+        </message>
+        <message>
+            <source>ppm(w)</source>
+            <translation>ppm(w)</translation>
+        </message>
+        <message>
+            <source>mg/serving</source>
+            <translation>mg/portion</translation>
+        </message>
+        <message>
+            <source>mg</source>
+            <translation>mg</translation>
+        </message>
+        <message>
+            <source>Serving No.</source>
+            <translation type="unfinished">N° de portion</translation>
+        </message>
+        <message>
+            <source>Reagent Reaction Ratio</source>
+            <translation>Rapport stœchiométrique du réactif</translation>
+        </message>
+        <message>
+            <source>Titrant Reaction Ratio</source>
+            <translation>Rapport stœchiométrique du titrant</translation>
+        </message>
+        <message>
+            <source>Manual Calc.</source>
+            <translation>Calcul manuel</translation>
+        </message>
+        <message>
+            <source>Manual Volume</source>
+            <translation>Volume manuel</translation>
+        </message>
+        <message>
+            <source>Manual Weight</source>
+            <translation>Poids manuel</translation>
+        </message>
+        <message>
+            <source>Back Blank Titration</source>
+            <translation>Titrage en retour du blanc</translation>
+        </message>
+        <message>
+            <source>1</source>
+            <translation>1</translation>
+        </message>
+        <message>
+            <source>2</source>
+            <translation>2</translation>
+        </message>
+        <message>
+            <source>3</source>
+            <translation>3</translation>
+        </message>
+        <message>
+            <source>Direct Titration</source>
+            <translation>Titrage direct</translation>
+        </message>
+        <message>
+            <source>Back Titration</source>
+            <translation>Titrage en retour</translation>
+        </message>
+    </context>
+    <context>
+        <name>UserDefinedProcessControll</name>
+        <message>
+            <source>User Defined Process Control</source>
+            <translation>Contrôle du procédé défini par l'utilisateur</translation>
+        </message>
+    </context>
+    <context>
+        <name>VariableReagentWeightPopup</name>
+        <message>
+            <source>Variable Weight</source>
+            <translation>Poids variable</translation>
+        </message>
+        <message>
+            <source>grams</source>
+            <translation>grammes</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Enregistrer</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+        <message>
+            <source>Please enter a value</source>
+            <translation>Veuillez saisir une valeur</translation>
+        </message>
+    </context>
+    <context>
+        <name>VariableSampleAmountPopup</name>
+        <message>
+            <source>Variable Sample Volume</source>
+            <translation>Volume d'échantillon variable</translation>
+        </message>
+        <message>
+            <source>Variable Sample Weight</source>
+            <translation>Poids d'échantillon variable</translation>
+        </message>
+        <message>
+            <source>grams</source>
+            <translation>grammes</translation>
+        </message>
+        <message>
+            <source>Save-Run</source>
+            <translation type="unfinished">Enreg.-Lancer</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+    </context>
+    <context>
+        <name>VariableStandardAmountPopup</name>
+        <message>
+            <source>Variable Standard Volume</source>
+            <translation>Volume d'étalon variable</translation>
+        </message>
+        <message>
+            <source>Variable Standard Weight</source>
+            <translation>Poids d'étalon variable</translation>
+        </message>
+        <message>
+            <source>grams</source>
+            <translation>grammes</translation>
+        </message>
+        <message>
+            <source>Save-Run</source>
+            <translation type="unfinished">Enreg.-Lancer</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Annuler</translation>
+        </message>
+    </context>
+    <context>
+        <name>VersionPopup</name>
+        <message>
+            <source>Versions</source>
+            <translation>Versions</translation>
+        </message>
+        <message>
+            <source>IP</source>
+            <translation>IP</translation>
+        </message>
+        <message>
+            <source>Build</source>
+            <translation>Version</translation>
+        </message>
+        <message>
+            <source>QML Version</source>
+            <translation>Version QML</translation>
+        </message>
+        <message>
+            <source>Core Version</source>
+            <translation>Version du noyau</translation>
+        </message>
+        <message>
+            <source>MSP Version</source>
+            <translation>Version MSP</translation>
+        </message>
+        <message>
+            <source>Generate All Reports</source>
+            <translation>Générer tous les rapports</translation>
+        </message>
+        <message>
+            <source>Update</source>
+            <translation>Mettre à jour</translation>
+        </message>
+    </context>
+    <context>
+        <name>WizardFlow</name>
+        <message>
+            <source>Error</source>
+            <translation>Erreur</translation>
+        </message>
+        <message>
+            <source>Method Updated</source>
+            <translation>Méthode mise à jour</translation>
+        </message>
+        <message>
+            <source> - has been saved with your new settings.</source>
+            <translation> - a été enregistrée avec vos nouveaux réglages.</translation>
+        </message>
+    </context>
+    <context>
+        <name>main</name>
+        <message>
+            <source>Tap to enter text</source>
+            <translation>Toucher pour saisir du texte</translation>
+        </message>
+        <message>
+            <source>Cancelling Calibration</source>
+            <translation>Annulation de l'étalonnage</translation>
+        </message>
+        <message>
+            <source>Are you sure you want to cancel calibration? Your current buffers will not be saved</source>
+            <translation>Voulez-vous vraiment annuler l'étalonnage ? Les tampons en cours ne seront pas enregistrés</translation>
+        </message>
+        <message>
+            <source>Calibration due time interval has been reached without a calibration being performed - perform a calibration on the electrode.</source>
+            <translation>L'intervalle d'étalonnage est écoulé sans qu'un étalonnage ait été effectué - étalonnez l'électrode.</translation>
+        </message>
+        <message>
+            <source>You are nearing the maximum amount of saved data points. Press Ignore to automatically overwrite data points. Press View Log for other options including exporting the data log.</source>
+            <translation>Vous approchez du nombre maximal de points de données enregistrés. Appuyez sur Ignorer pour écraser automatiquement des points. Appuyez sur Voir le journal pour d'autres options, dont l'exportation du journal.</translation>
+        </message>
+        <message>
+            <source>View Log</source>
+            <translation>Voir le journal</translation>
+        </message>
+        <message>
+            <source>pH Calibration Due</source>
+            <translation>Rappel d'étalonnage pH</translation>
+        </message>
+        <message>
+            <source>Redox Calibration Due</source>
+            <translation>Rappel d'étalonnage redox</translation>
+        </message>
+        <message>
+            <source>ISE Calibration Due</source>
+            <translation>Rappel d'étalonnage ISE</translation>
+        </message>
+        <message>
+            <source>Titration Log Full</source>
+            <translation>Journal des titrages plein</translation>
+        </message>
+        <message>
+            <source>Titrant Log Full</source>
+            <translation>Journal des titrants plein</translation>
+        </message>
+        <message>
+            <source>Measurement Log Full</source>
+            <translation>Journal de mesures plein</translation>
+        </message>
+        <message>
+            <source>Calibration Log Full</source>
+            <translation>Journal d'étalonnage plein</translation>
+        </message>
+        <message>
+            <source>Maintenance due</source>
+            <translation>Maintenance due</translation>
+        </message>
+        <message>
+            <source>Maintenance due time interval has been reached - perform any required maintenance on the instrument.</source>
+            <translation>L'intervalle de maintenance est écoulé - effectuez la maintenance nécessaire sur l'instrument.</translation>
+        </message>
+        <message>
+            <source>Measurement Saved</source>
+            <translation>Mesure enregistrée</translation>
+        </message>
+        <message>
+            <source>Your measurement has been saved</source>
+            <translation>Votre mesure a été enregistrée</translation>
+        </message>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. Fixez la tige du porte-électrodes</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>Configuration | Étape 7 sur 13</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. Réglez la tête du porte-électrodes et insérez les électrodes</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>Configuration | Étape 8 sur 13</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. Installez la burette et son couvercle</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>Configuration | Étape 9 sur 13</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. Raccordez le support du flacon de réactif</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>Configuration | Étape 10 sur 13</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. Raccordez les tubes à code couleur aux ports 
+ de la vanne et aux composants.</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>Configuration | Étape 11 sur 13</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. Raccordez les électrodes et l'alimentation 
+ aux entrées indiquées</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>Configuration | Étape 12 sur 13</translation>
+        </message>
+    </context>
+</TS>
