@@ -579,7 +579,6 @@ ApplicationWindow {
         VariableStandardAmountPopup { id: variableStandardAmountPopup }
         VariableReagentWeightPopup { id: variablereagentweightPopup }
         CalibrationSuccessPopup { id: calibrationSuccessPopop }
-        MeasureSampleIdPopup { id: measureSampleIdPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------

@@ -11,6 +11,9 @@ Rectangle {
     property int maximumLength: 20
     signal edited(string text)
 
+    // Leaves the field (a Save takes the text as it stands).
+    function release() { input.focus = false }
+
     width: parent ? parent.width : 510
     height: 52
     color: Colors.whiteColor
@@ -48,6 +51,17 @@ Rectangle {
             font.pixelSize: 16
             onTextEdited: row.edited(text)
             onAccepted: focus = false
+            // As on the entry pages: the field clears when it takes the
+            // focus, and gets its text back when it is left empty.
+            property string lastText: ""
+            onActiveFocusChanged: {
+                if (activeFocus) {
+                    lastText = text
+                    text = ""
+                } else if (text === "") {
+                    text = lastText
+                }
+            }
         }
         Text {
             anchors.fill: input

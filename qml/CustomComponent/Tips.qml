@@ -106,6 +106,10 @@ Item {
         "User Defined Titrant Name": qsTr("Enter the name of your own titrant.")
     })
 
+    function has(key) {
+        return tipsDirectory[key] !== undefined
+    }
+
     // Whether a tip is on show.
     property bool shown: false
 

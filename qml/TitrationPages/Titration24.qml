@@ -29,8 +29,6 @@ MainContentBackground {
         var name = nameField.text.replace(/^\s+|\s+$/g, "")
         var message = EntryRules.methodNameMessage(name, passwordField.text, confirmField.text,
                                                    mainWindow.formatNum, mainWindow.tapToTextString)
-        if (message === "" && dm.methodCount >= 10)
-            message = "Method log is full, new method cannot be saved."
         if (message !== "") {
             errorMessage = message
             return
@@ -38,9 +36,9 @@ MainContentBackground {
         nameField.focus = false
         passwordField.focus = false
         Qt.inputMethod.hide()
-        method.saveMethodValues(name, passwordField.text)
-        if (method.success !== 1) {
-            errorMessage = "The method could not be saved."
+        var refusal = dm.library.saveCurrent(name, passwordField.text)
+        if (refusal !== "") {
+            errorMessage = EntryRules.saveRefusalMessage(refusal)
             return
         }
         setup.currentMethodId = method.id
