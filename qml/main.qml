@@ -642,6 +642,9 @@ ApplicationWindow {
 
     Component.onCompleted: {
         console.log("Main :: AppLoaded ", dm.titrationQMLVersion, dm.titrationQMLCoreVersion)
+        // The one window takes the input focus (the splash had it): the
+        // keyboard follows its focused field, the number keys for a number.
+        requestActivate()
         if (setup.isDataUpdated) {
             skipToHome()
             changeKeyboardLanguage()

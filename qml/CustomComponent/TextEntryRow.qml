@@ -10,6 +10,7 @@ Rectangle {
     property alias validator: input.validator
     property int maximumLength: 20
     signal edited(string text)
+    signal focused()
 
     // Leaves the field (a Save takes the text as it stands).
     function release() { input.focus = false }
@@ -58,6 +59,7 @@ Rectangle {
                 if (activeFocus) {
                     lastText = text
                     text = ""
+                    row.focused()
                 } else if (text === "") {
                     text = lastText
                 }

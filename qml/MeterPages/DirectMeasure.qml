@@ -122,12 +122,19 @@ MainContentBackground {
         measureStack.pop()
     }
 
+    // While the keyboard is up, the row being typed into and the buttons
+    // stand above it.
+    function showRow(row) {
+        list.contentY = Math.max(0, Math.min(row.y - 8, list.contentHeight - keyboardRoom))
+    }
+    readonly property int keyboardRoom: 130
+
     Flickable {
         id: list
         x: 20
         y: 4
         width: 510
-        height: 324
+        height: Qt.inputMethod.visible ? page.keyboardRoom : 324
         clip: true
         contentHeight: rows.height
         boundsBehavior: Flickable.StopAtBounds
@@ -156,6 +163,7 @@ MainContentBackground {
                 objectName: "electrodeName"
                 label: qsTr("Electrode Name") + ls.translatedText
                 onEdited: page.errorMessage = ""
+                onFocused: page.showRow(electrodeNameRow)
             }
             ChoiceRow {
                 id: resolutionRow
@@ -203,6 +211,7 @@ MainContentBackground {
                 visible: sampleIdRow.currentText === "Auto-Incremental"
                 label: qsTr("Auto-Incremental Prefix") + ls.translatedText
                 onEdited: page.errorMessage = ""
+                onFocused: page.showRow(prefixRow)
             }
             ChoiceRow {
                 id: digitsRow
@@ -225,7 +234,7 @@ MainContentBackground {
 
     Row {
         x: 20
-        y: 336
+        y: Qt.inputMethod.visible ? page.keyboardRoom + 6 : 336
         spacing: 16
         PopupAlternateButton {
             text: qsTr("Cancel") + ls.translatedText
@@ -239,9 +248,10 @@ MainContentBackground {
     }
     Text {
         objectName: "measureSettingsError"
+        // Beside Save, clear of the tip's mark in the corner.
         x: 308
-        y: 332
-        width: 222
+        y: Qt.inputMethod.visible ? page.keyboardRoom : 330
+        width: 180
         visible: page.errorMessage !== ""
         wrapMode: Text.WordWrap
         color: Colors.orangepeelColor

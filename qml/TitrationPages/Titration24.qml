@@ -74,39 +74,40 @@ MainContentBackground {
             text: page.errorMessage === "" ? "" : qsTr(page.errorMessage) + ls.translatedText
         }
     }
+    // All three fields stand above the keyboard.
     Column {
         id: form
         x: 30
-        y: 14
+        y: 6
         width: side.x - 30 - 20
-        spacing: 4
-        Text { text: qsTr("Method Name") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        spacing: 2
+        Text { text: qsTr("Method Name") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 14; color: Colors.slateColor }
         TextField {
             id: nameField
             objectName: "methodNameField"
             width: form.width
-            height: 44
+            height: 40
             maximumLength: 20
             placeholderText: mainWindow.tapToTextString
             onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
         }
-        Text { text: qsTr("Password (Optional)") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        Text { text: qsTr("Password (Optional)") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 14; color: Colors.slateColor }
         TextField {
             id: passwordField
             objectName: "passwordField"
             width: form.width
-            height: 44
+            height: 40
             maximumLength: 20
             echoMode: TextInput.Password
             placeholderText: mainWindow.tapToTextString
             onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
         }
-        Text { text: qsTr("Confirm Password") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        Text { text: qsTr("Confirm Password") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 14; color: Colors.slateColor }
         TextField {
             id: confirmField
             objectName: "confirmPasswordField"
             width: form.width
-            height: 44
+            height: 40
             maximumLength: 20
             echoMode: TextInput.Password
             placeholderText: mainWindow.tapToTextString

@@ -426,7 +426,7 @@ TEST_F(Screens, EveryTipHasThePageThatShowsIt)
     listed.sort();
     EXPECT_EQ(listed, keys);
 
-    const QList<QQuickItem *> items = root->contentItem()->findChildren<QQuickItem *>();
+    const QList<QQuickItem *> items = root->findChildren<QQuickItem *>();
     for (const TipRow &row : kTipRows) {
         const QString key = QString::fromUtf8(row.key);
         QString open;

@@ -267,10 +267,11 @@ TEST_P(SaveOutcome, TheLibraryNamesTheReasonOfARefusal)
     const QString before = db.dump();
     EXPECT_EQ(library.saveCurrent(QString::fromLatin1(c.newName), QString()), QString::fromLatin1(c.outcome));
     EXPECT_EQ(library.current()->success(), *c.outcome ? 0 : 1);
-    if (*c.outcome)
+    if (*c.outcome) {
         EXPECT_EQ(db.dump(), before);
-    else
+    } else {
         EXPECT_TRUE(MethodLibrary::nameTaken(QString::fromLatin1(c.newName)));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Reasons, SaveOutcome, ::testing::ValuesIn(kSaveCases),
