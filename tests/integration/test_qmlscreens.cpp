@@ -307,153 +307,90 @@ TEST_F(Screens, BusyPopupStates)
 }
 
 // Every tip and the page that shows it. A page of the window shows its own
-// (by its objectName); the one entry page shows the tip of the value or name
-// it asks for, the radio list the tip of the row whose options it offers.
-// Run screens and pre-checks are the run's; the rest belong to pages of the
-// settings and logs that are not built yet.
-enum class TipPage { Page, Entry, Name, Options, State, Run, NotYet };
-struct TipRow {
-    const char *key;
-    TipPage how;
-    const char *what; // the page, or the entry or name it asks for
-};
-const TipRow kTipRows[] = {
-    {"Blank Conc. Required", TipPage::NotYet, "the blank of a known addition"},
-    {"Blank Required", TipPage::Entry, "blankRequiredValue"},
-    {"Burette", TipPage::Page, "burette01"},
-    {"Burette Installation Date", TipPage::Page, "buretteInstallationDate"},
-    {"Calibrate Electrode", TipPage::Page, "measure02"},
-    {"Calibrate ISE", TipPage::State, "measure02, an ion-selective electrode"},
-    {"Calibrate Redox", TipPage::State, "measure02, a redox electrode"},
-    {"Calibrate pH(Calibration Point Successful screen)", TipPage::Page, "measure04"},
-    {"Calibrate pH(Calibration Result screen)", TipPage::Page, "calibrationSlope"},
-    {"Calibrate pH(Calibration Solution Standard Value Save screen)", TipPage::Page, "calibrationStandard"},
-    {"Calibrate pH(Edit and Accept)", TipPage::State, "measure03, a stable reading"},
-    {"Calibrate pH(Override screen)", TipPage::Page, "measure03"},
-    {"Calibration Due", TipPage::NotYet, "settings"},
-    {"Calibration Log", TipPage::NotYet, "logs"},
-    {"Calibration Summary", TipPage::Page, "calibrationSummary"},
-    {"Conc. Input Mode", TipPage::Entry, "concInputModeM"},
-    {"Create Method", TipPage::Page, "titration24"},
-    {"Cycle screen", TipPage::Run, "startTitrationFullscreen"},
-    {"Data Logs", TipPage::Page, "log01"},
-    {"Date", TipPage::NotYet, "settings"},
-    {"Diagnostics", TipPage::NotYet, "settings"},
-    {"Direct Measure Log", TipPage::NotYet, "logs"},
-    {"Direct Measure Log Summary", TipPage::NotYet, "logs"},
-    {"Direct Measure Units", TipPage::NotYet, "a drop-down row of directMeasure"},
-    {"Dispense Volume", TipPage::Page, "buretteDispenseVolume"},
-    {"Display", TipPage::Page, "display01"},
-    {"Display Brightness", TipPage::NotYet, "settings"},
-    {"Edit Method", TipPage::NotYet, "method library"},
-    {"Electrode Name", TipPage::Name, "electrodeName"},
-    {"Endpoint Values", TipPage::Entry, "endPointpH"},
-    {"Factory Reset", TipPage::NotYet, "settings"},
-    {"Files and Info", TipPage::NotYet, "settings"},
-    {"Firmware", TipPage::NotYet, "settings"},
-    {"Fixed Reagent Weight", TipPage::Entry, "reagentWeight"},
-    {"Home", TipPage::Page, "titration01"},
-    {"ISE Type", TipPage::Options, ""},
-    {"Instrument Name", TipPage::NotYet, "settings"},
-    {"Language", TipPage::NotYet, "settings"},
-    {"MKA-Setup Titration", TipPage::Page, "titrationSetupMka"},
-    {"Maintenance Due", TipPage::NotYet, "settings"},
-    {"Max Total Titrant Volume", TipPage::Entry, "titrationMaxVolume"},
-    {"Maximum Dose ΔVmax", TipPage::Entry, "deltaVmax"},
-    {"Maximum Response Time tmax", TipPage::Entry, "tMax"},
-    {"Measure", TipPage::Page, "measure01"},
-    {"Measure ReadMode", TipPage::Page, "directMeasure"},
-    {"Methods", TipPage::Page, "titration21"},
-    {"Minimum Dose ΔVmin", TipPage::Entry, "deltaVmin"},
-    {"Minimum Response Time tmin", TipPage::Entry, "tMin"},
-    {"New Titration Setup Process", TipPage::Page, "titration03"},
-    {"Nominal Concentration", TipPage::Entry, "nominalConcM"},
-    {"Notifications", TipPage::NotYet, "settings"},
-    {"Pre-dose Titrant Volume", TipPage::Entry, "titrationPreDose"},
-    {"Pre-stir Duration", TipPage::Entry, "titrantPreStir"},
-    {"Reaction Ratio", TipPage::Entry, "reactionRatio"},
-    {"Reagent Amount", TipPage::Entry, "reagentAmountValue"},
-    {"Reagent Concentration", TipPage::Entry, "reagentConcentration"},
-    {"Reagent Molecular Weight", TipPage::Entry, "reagentMolecularWeight"},
-    {"Reagent Purity", TipPage::Entry, "reagentPurity"},
-    {"Reagent Reaction Ratio", TipPage::Entry, "reagentReactionRatio"},
-    {"Reagent Volume", TipPage::Entry, "reagentVolume"},
-    {"Result Units", TipPage::Options, ""},
-    {"Result Units(F*Consumption mmol)", TipPage::Entry, "resultUnitsValue"},
-    {"Sample Amount", TipPage::Entry, "fixedSampleVolume"},
-    {"Sample ID-Auto-Incremental", TipPage::Name, "sampleIdPrefix"},
-    {"Sample ID-Manual", TipPage::NotYet, "no page: the run asks in a popup"},
-    {"Screen Calibration", TipPage::NotYet, "settings"},
-    {"Settings", TipPage::Page, "settings01"},
-    {"Setup Electrode", TipPage::Page, "titration04"},
-    {"Setup Titrant", TipPage::Page, "titration05"},
-    {"Setup Titration", TipPage::Page, "titration06"},
-    {"Stability Criteria dE/dt", TipPage::Entry, "stablityCriteria"},
-    {"Standard Amount", TipPage::Entry, "fixedStandAmountWeight"},
-    {"Standard Concentration", TipPage::Entry, "standConcentrationM"},
-    {"Standard Molecular Weight", TipPage::Entry, "standMolecularWeight"},
-    {"Standard Name", TipPage::Options, ""},
-    {"Standard Purity", TipPage::Entry, "standardPurity"},
-    {"Standardization Reaction Ratio", TipPage::Entry, "standReactionRatio"},
-    {"Standardization Summary", TipPage::Page, "standardizationSummary"},
-    {"Standardize Titrant Pre-Check", TipPage::Run, "titration14"},
-    {"Stir Speed", TipPage::Options, ""},
-    {"Target ΔE", TipPage::Entry, "deltaE"},
-    {"Temperature Input", TipPage::NotYet, "settings"},
-    {"Threshold", TipPage::Entry, "threshold"},
-    {"Time", TipPage::NotYet, "settings"},
-    {"Titrant Concentration", TipPage::Entry, "titrantConcentrationMka"},
-    {"Titrant ID", TipPage::Name, "titrantID"},
-    {"Titrant Log", TipPage::NotYet, "logs"},
-    {"Titrant Name", TipPage::Options, ""},
-    {"Titrant Reaction Ratio", TipPage::Entry, "titrantReactionRatio"},
-    {"Titration Log", TipPage::NotYet, "logs"},
-    {"Titration Pre-Check", TipPage::Run, "titrationPreCheck"},
-    {"Titration Summary", TipPage::Page, "titrationSummaryPage"},
-    {"User Defined Standard Name", TipPage::Name, "standardName"},
-    {"User Defined Titrant Name", TipPage::Name, "titrantName"},
-};
+// (its objectName is the key); the one entry page shows the tip of the value
+// or name it asks for, the radio list the tip of the row whose options it
+// offers. The run's pages (the pre-checks, the cycle screen) and the pages
+// of a state (a redox or ion-selective calibration, a stable reading) are
+// the run's and the calibration's; the others belong to settings and log
+// pages still to be built.
+const char *const kTipPages[] = {
+    "Burette", "Burette Installation Date", "Calibrate Electrode", "Calibrate pH(Calibration Point Successful screen)",
+    "Calibrate pH(Calibration Result screen)", "Calibrate pH(Calibration Solution Standard Value Save screen)",
+    "Calibrate pH(Override screen)", "Calibration Summary", "Create Method", "Data Logs", "Dispense Volume", "Display",
+    "Home", "MKA-Setup Titration", "Measure", "Measure ReadMode", "Methods", "New Titration Setup Process", "Settings",
+    "Setup Electrode", "Setup Titrant", "Setup Titration", "Standardization Summary", "Titration Summary"};
+const char *const kTipEntries[][2] = { // key, the value asked for ("name:" a name)
+    {"Blank Required", "blankRequiredValue"}, {"Conc. Input Mode", "concInputModeM"}, {"Endpoint Values", "endPointpH"},
+    {"Fixed Reagent Weight", "reagentWeight"}, {"Max Total Titrant Volume", "titrationMaxVolume"},
+    {"Maximum Dose ΔVmax", "deltaVmax"}, {"Maximum Response Time tmax", "tMax"}, {"Minimum Dose ΔVmin", "deltaVmin"},
+    {"Minimum Response Time tmin", "tMin"}, {"Nominal Concentration", "nominalConcM"},
+    {"Pre-dose Titrant Volume", "titrationPreDose"}, {"Pre-stir Duration", "titrantPreStir"},
+    {"Reaction Ratio", "reactionRatio"}, {"Reagent Amount", "reagentAmountValue"},
+    {"Reagent Concentration", "reagentConcentration"}, {"Reagent Molecular Weight", "reagentMolecularWeight"},
+    {"Reagent Purity", "reagentPurity"}, {"Reagent Reaction Ratio", "reagentReactionRatio"},
+    {"Reagent Volume", "reagentVolume"}, {"Result Units(F*Consumption mmol)", "resultUnitsValue"},
+    {"Sample Amount", "fixedSampleVolume"}, {"Stability Criteria dE/dt", "stablityCriteria"},
+    {"Standard Amount", "fixedStandAmountWeight"}, {"Standard Concentration", "standConcentrationM"},
+    {"Standard Molecular Weight", "standMolecularWeight"}, {"Standard Purity", "standardPurity"},
+    {"Standardization Reaction Ratio", "standReactionRatio"}, {"Target ΔE", "deltaE"}, {"Threshold", "threshold"},
+    {"Titrant Concentration", "titrantConcentrationMka"}, {"Titrant Reaction Ratio", "titrantReactionRatio"},
+    {"Electrode Name", "name:electrodeName"}, {"Sample ID-Auto-Incremental", "name:sampleIdPrefix"},
+    {"Titrant ID", "name:titrantID"}, {"User Defined Standard Name", "name:standardName"},
+    {"User Defined Titrant Name", "name:titrantName"}};
+const char *const kTipOptions[] = {"ISE Type", "Result Units", "Standard Name", "Stir Speed", "Titrant Name"};
+const char *const kTipsElsewhere[] = {"Cycle screen", "Titration Pre-Check", "Standardize Titrant Pre-Check",
+                                      "Calibrate ISE", "Calibrate Redox", "Calibrate pH(Edit and Accept)"};
+const char *const kTipsNotYet[] = {
+    "Blank Conc. Required", "Calibration Due", "Calibration Log", "Date", "Diagnostics", "Direct Measure Log",
+    "Direct Measure Log Summary", "Direct Measure Units", "Display Brightness", "Edit Method", "Factory Reset",
+    "Files and Info", "Firmware", "Instrument Name", "Language", "Maintenance Due", "Notifications",
+    "Sample ID-Manual", "Screen Calibration", "Temperature Input", "Time", "Titrant Log", "Titration Log"};
 
 TEST_F(Screens, EveryTipHasThePageThatShowsIt)
 {
     call("skipToHome");
     QObject *tips = byId(QStringLiteral("tips"));
     QStringList listed;
-    for (const TipRow &row : kTipRows)
-        listed << QString::fromUtf8(row.key);
+    for (const char *key : kTipPages)
+        listed << QString::fromUtf8(key);
+    for (const auto &entry : kTipEntries)
+        listed << QString::fromUtf8(entry[0]);
+    for (const char *key : kTipOptions)
+        listed << QString::fromUtf8(key);
+    for (const char *key : kTipsElsewhere)
+        listed << QString::fromUtf8(key);
+    for (const char *key : kTipsNotYet)
+        listed << QString::fromUtf8(key);
     QStringList keys = tips->property("tipsDirectory").toMap().keys();
     keys.sort();
     listed.sort();
     EXPECT_EQ(listed, keys);
 
     const QList<QQuickItem *> items = root->findChildren<QQuickItem *>();
-    for (const TipRow &row : kTipRows) {
-        const QString key = QString::fromUtf8(row.key);
-        QString open;
-        switch (row.how) {
-        case TipPage::Page:
-            EXPECT_TRUE(std::any_of(items.begin(), items.end(), [&](QQuickItem *i) {
-                return i->objectName() == key && i->property("hasInfo").toBool();
-            })) << row.key << " on " << row.what;
-            continue;
-        case TipPage::Entry:
-            open = QStringLiteral("entryPage.openEntry('%1')").arg(QString::fromUtf8(row.what));
-            break;
-        case TipPage::Name:
-            open = QStringLiteral("entryPage.openName('%1', '')").arg(QString::fromUtf8(row.what));
-            break;
-        case TipPage::Options:
-            open = QStringLiteral("multipleOptionsPage.setMultipleOptions(0, ['One'], '%1', null); "
-                                  "titrationStack.push(multipleOptionsPage)").arg(key);
-            break;
-        default:
-            continue;
-        }
-        QQmlExpression(qmlContext(root), root, open).evaluate();
-        // The corner of the page on show brings its tip.
+    for (const char *key : kTipPages) {
+        EXPECT_TRUE(std::any_of(items.begin(), items.end(), [&](QQuickItem *i) {
+            return i->objectName() == QString::fromUtf8(key) && i->property("hasInfo").toBool();
+        })) << key;
+    }
+    // The entry page and the radio list, opened for each of theirs: the
+    // corner of the page on show brings its tip.
+    QList<QPair<QString, QString>> opened;
+    for (const auto &entry : kTipEntries) {
+        const QString what = QString::fromUtf8(entry[1]);
+        opened << qMakePair(QString::fromUtf8(entry[0]),
+                            what.startsWith(QLatin1String("name:"))
+                                ? QStringLiteral("entryPage.openName('%1', '')").arg(what.mid(5))
+                                : QStringLiteral("entryPage.openEntry('%1')").arg(what));
+    }
+    for (const char *key : kTipOptions)
+        opened << qMakePair(QString::fromUtf8(key),
+                            QStringLiteral("multipleOptionsPage.setMultipleOptions(0, ['One'], '%1', null); "
+                                           "titrationStack.push(multipleOptionsPage)").arg(QString::fromUtf8(key)));
+    for (const auto &page : opened) {
+        QQmlExpression(qmlContext(root), root, page.second).evaluate();
         call("handleTipAction");
-        EXPECT_TRUE(tips->property("shown").toBool()) << row.key;
-        EXPECT_EQ(tips->property("title").toString(), key);
+        EXPECT_TRUE(tips->property("shown").toBool()) << page.first.toStdString();
+        EXPECT_EQ(tips->property("title").toString(), page.first);
         call("backButtonAction");
     }
     EXPECT_EQ(warnings(), QString());
