@@ -396,6 +396,27 @@ TEST_F(Screens, EveryTipHasThePageThatShowsIt)
     EXPECT_EQ(warnings(), QString());
 }
 
+// A finger's tap on a tip, its text included, closes it and reaches
+// nothing beneath: here home's button under the tip's text.
+TEST_F(Screens, ATapOnATipOnlyClosesIt)
+{
+    call("skipToHome");
+    QTest::qWait(100);
+    QQuickItem *button = UiScene(root).itemWithText(QStringLiteral("Start a New Titration"));
+    ASSERT_TRUE(button);
+    call("handleTipAction");
+    QObject *tips = byId(QStringLiteral("tips"));
+    ASSERT_TRUE(tips->property("shown").toBool());
+    static QTouchDevice *finger = QTest::createTouchDevice();
+    const QPoint at = button->mapToScene(QPointF(button->width() / 2, button->height() / 2)).toPoint();
+    QTest::touchEvent(root, finger).press(0, at, root);
+    QTest::touchEvent(root, finger).release(0, at, root);
+    QTest::qWait(100);
+    EXPECT_FALSE(tips->property("shown").toBool());
+    EXPECT_EQ(byId(QStringLiteral("titrationStack"))->property("depth").toInt(), 1);
+    EXPECT_EQ(warnings(), QString());
+}
+
 // The first row of the titration page: a long titrant name gives way, the
 // concentration stays whole.
 TEST_F(Screens, ALongTitrantNameLeavesItsConcentrationWhole)
