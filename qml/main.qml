@@ -590,7 +590,6 @@ ApplicationWindow {
         VariableStandardAmountPopup { id: variableStandardAmountPopup }
         VariableReagentWeightPopup { id: variablereagentweightPopup }
         CalibrationSuccessPopup { id: calibrationSuccessPopop }
-        MeasureSampleIdPopup { id: measureSampleIdPopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------
@@ -728,6 +727,9 @@ ApplicationWindow {
 
     Component.onCompleted: {
         console.log("Main :: AppLoaded ", dm.titrationQMLVersion, dm.titrationQMLCoreVersion)
+        // The one window takes the input focus (the splash had it): the
+        // keyboard follows its focused field, the number keys for a number.
+        requestActivate()
         if (setup.isDataUpdated) {
             skipToHome()
             changeKeyboardLanguage()

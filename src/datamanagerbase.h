@@ -69,6 +69,8 @@ class DataManagerBase : public QObject, public MeterDataInterface
     Q_PROPERTY(ObjectListModel *calibratoinLogList READ calibratoinLogList NOTIFY calibrationLogListChanged)
     Q_PROPERTY(ObjectListModel *measures READ measures NOTIFY measuresChanged)
     Q_PROPERTY(ObjectListModel *methods READ methods NOTIFY valueChanged)
+    // The method library: the screens save a new method through it.
+    Q_PROPERTY(MethodLibrary *library READ library CONSTANT)
     Q_PROPERTY(int methodCount READ methodCount WRITE setMethodCount NOTIFY valueChanged)
     Q_PROPERTY(QString titrationQMLVersion READ titrationQMLVersion WRITE setTitrationQMLVersion NOTIFY valueChanged)
     Q_PROPERTY(QString titrationQMLCoreVersion READ titrationQMLCoreVersion WRITE setTitrationQMLCoreVersion NOTIFY valueChanged)
@@ -143,6 +145,7 @@ public:
     void attachLogModel(TitrationLogModel *log);
     void attachLogModel(StandardisationLogModel *log);
     ObjectListModel *methods() const;
+    MethodLibrary *library() const { return m_library; }
     const QList<MethodModel *> &methodList() const;
     int methodCount() const { return m_methodCount; }
     void setMethodCount(int count);

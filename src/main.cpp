@@ -40,6 +40,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QFontDatabase>
 #include <QMetaObject>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
@@ -78,6 +79,13 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication app(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Material"));
+    // Roboto for every text, those that name no family (the run screen's,
+    // the charts') included: the faces are resources of the program.
+    for (const char *face : {"light", "regular", "medium", "bold"})
+        QFontDatabase::addApplicationFont(QStringLiteral(":/assets/Fonts/roboto.%1.ttf").arg(QLatin1String(face)));
+    QFont font = QApplication::font();
+    font.setFamily(QStringLiteral("Roboto"));
+    QApplication::setFont(font);
 
     // The splash, visible while the back end is built.
     QQmlApplicationEngine engine_startup;

@@ -10,7 +10,12 @@
 #include "models/titrationlogmodel.h"
 #include "models/titrationsetupmodel.h"
 
+#include <QDebug>
 #include <QSqlQuery>
+
+const QString MethodLibrary::duplicateName = QStringLiteral("duplicateName");
+const QString MethodLibrary::libraryFull = QStringLiteral("libraryFull");
+const QString MethodLibrary::databaseError = QStringLiteral("databaseError");
 
 MethodLibrary::MethodLibrary(QObject *parent)
     : QObject(parent)
@@ -72,4 +77,28 @@ void MethodLibrary::attach(TitrationLogModel *log, std::function<bool(int)> stan
 void MethodLibrary::attach(StandardisationLogModel *log)
 {
     log->setCurrentMethod(m_current);
+}
+
+bool MethodLibrary::nameTaken(const QString &name)
+{
+    QSqlQuery query;
+    query.prepare(QStringLiteral("SELECT 1 FROM methodSetupTable WHERE methodName = :name"));
+    query.bindValue(QStringLiteral(":name"), name);
+    return DbUtil::exec(query) && query.next();
+}
+
+QString MethodLibrary::saveCurrent(const QString &name, const QString &password)
+{
+    QString refusal;
+    if (MethodModel::methodCount() >= MethodModel::maxMethods)
+        refusal = libraryFull;
+    else if (nameTaken(name))
+        refusal = duplicateName;
+    if (!refusal.isEmpty()) {
+        qDebug() << "MethodLibrary: the method" << name << "was not saved:" << refusal;
+        m_current->setSuccess(0);
+        return refusal;
+    }
+    m_current->saveMethodValues(name, password);
+    return m_current->success() == 1 ? QString() : databaseError;
 }

@@ -40,6 +40,16 @@ public:
     void attach(TitrationLogModel *log, std::function<bool(int)> standardised);
     void attach(StandardisationLogModel *log);
 
+    // Why a save of the current method as a new method was refused.
+    static const QString duplicateName;
+    static const QString libraryFull;
+    static const QString databaseError;
+    // Saves the current method under a new name: "" when it is stored, else
+    // one of the reasons above, with nothing written.
+    Q_INVOKABLE QString saveCurrent(const QString &name, const QString &password);
+    // Whether a stored method (the working method included) has this name.
+    static bool nameTaken(const QString &name);
+
 signals:
     void changed();
 

@@ -9,8 +9,9 @@ Rectangle {
     id: page
 
     property string header3Text: ""
-    // Whether the page has a tip (its objectName is the key into the tips).
-    property bool hasInfo: true
+    // Whether the page has a tip (its objectName is the key into the tips):
+    // the info mark shows exactly where a tip is there to show.
+    property bool hasInfo: tips.has(objectName)
     default property alias content: contentArea.data
     readonly property alias contentArea: contentArea
     readonly property int contentHeight: contentArea.height

@@ -17,7 +17,7 @@ MainContentBackground {
             continuousButton.checked = true
         } else {
             presetButton.checked = true
-            keypad.text = burette01.dispenseVolumeText
+            keypad.show(burette01.dispenseVolumeText)
         }
     }
 

@@ -23,6 +23,15 @@ QtObject {
     function formattedDateTime(date) {
         return formatDate(date) + " | " + formatTime(date)
     }
+    // A date kept as text (a calibration point's, a method's last run), by
+    // the settings; a text that is no date stays as it is.
+    function storedDate(text) {
+        return DateFormat.parseStored(text)
+    }
+    function formatCalibrationDate(text) {
+        var d = storedDate(text)
+        return isNaN(d.getTime()) ? String(text) : formattedDateTime(d)
+    }
     function getConvertedTemp(temp) {
         return Temperature.inUnit(temp, setup.temperatureFormat_Index)
     }

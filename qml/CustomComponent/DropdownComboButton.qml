@@ -11,6 +11,8 @@ Rectangle {
 
     property string title: ""
     property string selector: ""
+    // A value after the selector that stays whole: the selector gives way.
+    property string selectorValue: ""
     property bool isDropdown: false
     property bool isInfo: false
     property int optionCount: 0
@@ -38,8 +40,8 @@ Rectangle {
         id: valueLabel
         anchors.left: titleLabel.right
         anchors.leftMargin: 12
-        anchors.right: mark.left
-        anchors.rightMargin: 8
+        anchors.right: valueTail.left
+        anchors.rightMargin: valueTail.width > 0 ? 6 : 0
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignRight
         elide: Text.ElideRight
@@ -47,6 +49,16 @@ Rectangle {
         font.family: "Roboto"
         font.pixelSize: 15
         text: row.selector
+    }
+    Text {
+        id: valueTail
+        anchors.right: mark.left
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        width: row.selectorValue === "" ? 0 : implicitWidth
+        color: valueLabel.color
+        font: valueLabel.font
+        text: row.selectorValue
     }
     Text {
         id: mark

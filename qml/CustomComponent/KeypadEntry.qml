@@ -14,6 +14,8 @@ Item {
     property string unit: ""
     property bool allowMinus: true
     property int maxLength: 12
+    // The text the page opened with is selected: the first key replaces it.
+    property bool selected: false
     // Rows under the field, such as the choices of a dispense.
     default property alias extraContent: extra.data
     signal accepted(string text)
@@ -23,10 +25,17 @@ Item {
 
     function clear() {
         text = ""
+        selected = false
         messageText.text = ""
         refusedTimer.stop()
         field.border.color = Colors.lineColor
         Qt.callLater(takeFocus)
+    }
+    // Opens on `value`, selected.
+    function show(value) {
+        clear()
+        text = value
+        selected = text.length > 0
     }
     function refuse(message) {
         messageText.text = message
@@ -35,6 +44,9 @@ Item {
     }
     function press(key) {
         messageText.text = ""
+        if (selected && key !== "-")
+            keypad.text = ""
+        selected = false
         if (key === "⌫")
             keypad.text = keypad.text.slice(0, -1)
         else if (key === "-")
@@ -88,7 +100,19 @@ Item {
             radius: 4
             border.width: 2
             border.color: Colors.lineColor
+            Rectangle {
+                // The mark of a selected text.
+                visible: keypad.selected
+                x: 8
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(typed.contentWidth, typed.width) + 8
+                height: 34
+                radius: 2
+                color: Colors.summerSkyColor
+                opacity: 0.3
+            }
             Text {
+                id: typed
                 anchors.left: parent.left
                 anchors.leftMargin: 12
                 anchors.right: unitText.left

@@ -9,8 +9,8 @@ import "../Constants/Icons.js" as Icons
 // the page that opened it (its setMultipleOptions(selectedIndex, title)).
 MainContentBackground {
     id: page
-    objectName: "multipleOptionsPage"
-    hasInfo: false
+    // The tip is the row's whose options these are.
+    objectName: englishHeader3
 
     property int selectedIndex: -1
     property string englishHeader3: ""
@@ -77,6 +77,9 @@ MainContentBackground {
                 onClicked: {
                     page.selectedIndex = index
                     page.optionSelected(index, page.englishHeader3)
+                    // An option with a page of its own opens it at once.
+                    if (page.originPage && page.originPage.multipleOptionsCustomEntries)
+                        page.originPage.multipleOptionsCustomEntries(index, page.englishHeader3)
                 }
             }
         }

@@ -10,6 +10,10 @@ Rectangle {
     property alias validator: input.validator
     property int maximumLength: 20
     signal edited(string text)
+    signal focused()
+
+    // Leaves the field (a Save takes the text as it stands).
+    function release() { input.focus = false }
 
     width: parent ? parent.width : 510
     height: 52
@@ -48,6 +52,18 @@ Rectangle {
             font.pixelSize: 16
             onTextEdited: row.edited(text)
             onAccepted: focus = false
+            // As on the entry pages: the field clears when it takes the
+            // focus, and gets its text back when it is left empty.
+            property string lastText: ""
+            onActiveFocusChanged: {
+                if (activeFocus) {
+                    lastText = text
+                    text = ""
+                    row.focused()
+                } else if (text === "") {
+                    text = lastText
+                }
+            }
         }
         Text {
             anchors.fill: input

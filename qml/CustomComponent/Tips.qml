@@ -106,6 +106,10 @@ Item {
         "User Defined Titrant Name": qsTr("Enter the name of your own titrant.")
     })
 
+    function has(key) {
+        return tipsDirectory[key] !== undefined
+    }
+
     // Whether a tip is on show.
     property bool shown: false
 
@@ -192,6 +196,13 @@ Item {
             anchors.bottomMargin: 16
             clip: true
             contentHeight: tipText.implicitHeight
+            // A tap on the text closes the tip as a tap anywhere else does
+            // (a drag still scrolls a long one); nothing beneath gets it.
+            MouseArea {
+                width: flickable.width
+                height: Math.max(flickable.height, tipText.implicitHeight)
+                onClicked: tips.dismiss()
+            }
             Text {
                 id: tipText
                 width: flickable.width

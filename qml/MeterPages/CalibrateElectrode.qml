@@ -11,6 +11,7 @@ MainContentBackground {
 
     function updateHeader() {
         var type = stack.calibrationType()
+        objectName = type === "pH" ? "Calibrate Electrode" : type === "Redox" ? "Calibrate Redox" : "Calibrate ISE"
         if (type === "pH")
             header3Text = qsTr("Calibrate pH") + ls.translatedText
         else if (type === "Redox")

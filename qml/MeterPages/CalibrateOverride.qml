@@ -10,7 +10,7 @@ import "MeterFormat.js" as MeterFormat
 // Accept and Edit come once it is stable.
 MainContentBackground {
     id: page
-    objectName: "Calibrate pH(Override screen)"
+    objectName: stable ? "Calibrate pH(Edit and Accept)" : "Calibrate pH(Override screen)"
 
     property bool userEditCalValue: false
     property bool stable: false

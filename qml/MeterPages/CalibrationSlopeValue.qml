@@ -12,8 +12,7 @@ MainContentBackground {
 
     function clear() { keypad.clear() }
     function open(text) {
-        keypad.clear()
-        keypad.text = text
+        keypad.show(text)
         keypad.unit = MeterFormat.slopeUnit(stack.calibrationType())
     }
 
@@ -24,12 +23,12 @@ MainContentBackground {
         onAccepted: {
             var verdict = MeterFormat.checkSlope(text, stack.calibrationType())
             if (verdict === "Slope out of range") {
-                refuse("")
+                refuse(qsTr(MeterFormat.slopeMessage(stack.calibrationType())) + ls.translatedText)
                 mainWindow.showSlopeError()
                 return
             }
             if (verdict.length > 0) {
-                refuse(verdict === "empty" ? "" : qsTr(verdict) + ls.translatedText)
+                refuse(qsTr(verdict) + ls.translatedText)
                 return
             }
             calibrationSlope.setSlope(text)

@@ -12,8 +12,7 @@ MainContentBackground {
 
     function clear() { keypad.clear() }
     function open(text) {
-        keypad.clear()
-        keypad.text = text
+        keypad.show(text)
         keypad.unit = stack.calibrationType() === "pH" ? "pH" : stack.calibrationType() === "Redox" ? "mV" : ""
         keypad.allowMinus = stack.calibrationType() !== "ISE"
     }

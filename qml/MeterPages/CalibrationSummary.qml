@@ -46,7 +46,7 @@ MainContentBackground {
             pointsModel.append({ point: String(i + 1), value: pointValueText(p), mv: p.voltage.toFixed(1) + " mV",
                                  temp: p.temperature.toFixed(1) + " °C", slope: last })
         }
-        dateText.text = cycles.get(cycles.length - 1).timestamp
+        dateText.text = displayValues.formatCalibrationDate(cycles.get(cycles.length - 1).timestamp)
         offsetText.text = electrodeType === "pH" ? qsTr("Offset") + ls.translatedText + ": "
                                                    + MeterFormat.phOffset(values, offsets).toFixed(1) + " mV" : ""
         updateAvgSlopeValue()

@@ -3,6 +3,7 @@ import "../Background"
 import "../Buttons"
 import "../CustomComponent"
 import "../Constants/Colors.js" as Colors
+import "../TitrationPages/EntryRules.js" as EntryRules
 
 // The meter's settings: read mode and its rows, on a scratch copy of the
 // meter's record (`measurementTemp`) until Save.
@@ -26,6 +27,8 @@ MainContentBackground {
         "Lead (Pb2+)", "Nitrate (NO3-)", "Potassium (K+)", "Silver (Ag+)", "Sodium (Na+)", "Sulfide (S2-)",
         "Surfactant", "Thiocyanate (SCN-)", "Monovalent Anion (X-)", "Monovalent Cation (X+)", "Divalent Anion (X2-)"]
     property int typeIndex: 0
+    // Why the last Save was refused; cleared by the next edit.
+    property string errorMessage: ""
     // A manual sample id is asked for at each Save.
     readonly property bool sIdMan: measurement.sampleId === "Manual"
 
@@ -50,6 +53,7 @@ MainContentBackground {
 
     // The rows show the scratch copy.
     function loadModelData() {
+        errorMessage = ""
         typeIndex = Math.max(0, readModes.indexOf(measurementTemp.readMode))
         readModeRow.select(measurementTemp.readMode)
         iseTypeRow.select(measurementTemp.iseType)
@@ -99,8 +103,18 @@ MainContentBackground {
     }
 
     function save() {
-        measurementTemp.sensorName = electrodeNameRow.text
-        measurementTemp.sampleIDAutoInc = prefixRow.text
+        electrodeNameRow.release()
+        prefixRow.release()
+        Qt.inputMethod.hide()
+        var checked = EntryRules.measureSettingsCheck(electrodeNameRow.text, measurementTemp.sampleId, prefixRow.text,
+                                                      { format: mainWindow.format, formatNum: mainWindow.formatNum })
+        if (checked.message !== "") {
+            errorMessage = checked.message
+            return
+        }
+        errorMessage = ""
+        measurementTemp.sensorName = checked.name
+        measurementTemp.sampleIDAutoInc = checked.prefix
         setSampleId()
         measurement.setMeasurementValues(measurement)
         mainWindow.updateStirSpeed(measurement.stirSpeed)
@@ -108,12 +122,19 @@ MainContentBackground {
         measureStack.pop()
     }
 
+    // While the keyboard is up, the row being typed into and the buttons
+    // stand above it.
+    function showRow(row) {
+        list.contentY = Math.max(0, Math.min(row.y - 8, list.contentHeight - keyboardRoom))
+    }
+    readonly property int keyboardRoom: 130
+
     Flickable {
         id: list
         x: 20
         y: 4
         width: 510
-        height: 324
+        height: Qt.inputMethod.visible ? page.keyboardRoom : 324
         clip: true
         contentHeight: rows.height
         boundsBehavior: Flickable.StopAtBounds
@@ -141,6 +162,8 @@ MainContentBackground {
                 height: 46
                 objectName: "electrodeName"
                 label: qsTr("Electrode Name") + ls.translatedText
+                onEdited: page.errorMessage = ""
+                onFocused: page.showRow(electrodeNameRow)
             }
             ChoiceRow {
                 id: resolutionRow
@@ -187,6 +210,8 @@ MainContentBackground {
                 objectName: "sampleIdPrefix"
                 visible: sampleIdRow.currentText === "Auto-Incremental"
                 label: qsTr("Auto-Incremental Prefix") + ls.translatedText
+                onEdited: page.errorMessage = ""
+                onFocused: page.showRow(prefixRow)
             }
             ChoiceRow {
                 id: digitsRow
@@ -209,7 +234,7 @@ MainContentBackground {
 
     Row {
         x: 20
-        y: 336
+        y: Qt.inputMethod.visible ? page.keyboardRoom + 6 : 336
         spacing: 16
         PopupAlternateButton {
             text: qsTr("Cancel") + ls.translatedText
@@ -220,5 +245,18 @@ MainContentBackground {
             text: qsTr("Save") + ls.translatedText
             onClicked: page.save()
         }
+    }
+    Text {
+        objectName: "measureSettingsError"
+        // Beside Save, clear of the tip's mark in the corner.
+        x: 308
+        y: Qt.inputMethod.visible ? page.keyboardRoom : 330
+        width: 180
+        visible: page.errorMessage !== ""
+        wrapMode: Text.WordWrap
+        color: Colors.orangepeelColor
+        font.family: "Roboto"
+        font.pixelSize: 14
+        text: qsTr(page.errorMessage) + ls.translatedText
     }
 }

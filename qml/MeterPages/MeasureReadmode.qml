@@ -57,7 +57,7 @@ MainContentBackground {
             mainWindow.updateStirSpeed(dm.measure.stirSpeed)
         directMeasure.initTemp()
         stable = false
-        lastCalibrationText = method.lastCalibration.length > 0 ? method.lastCalibration : ""
+        lastCalibrationText = method.lastCalibration.length > 0 ? displayValues.formatCalibrationDate(method.lastCalibration) : ""
         updateReading()
     }
 
@@ -83,7 +83,7 @@ MainContentBackground {
     // meter's row; an auto-incremented id moves on to the next sample.
     function saveMeasurement() {
         if (directMeasure.sIdMan) {
-            measureSampleIdPopup.open()
+            manualSampleIdPopup.ask()
             return
         }
         saveWithSampleId(measurement.sampleIdValue)
@@ -111,7 +111,7 @@ MainContentBackground {
             // Settled again from the next samples on.
             stable = false
             dm.deviceMode = "Measurement"
-            lastCalibrationText = method.lastCalibration.length > 0 ? method.lastCalibration : ""
+            lastCalibrationText = method.lastCalibration.length > 0 ? displayValues.formatCalibrationDate(method.lastCalibration) : ""
         }
     }
 
@@ -236,7 +236,8 @@ MainContentBackground {
         }
         PopupAlternateButton {
             width: 104
-            text: (dm.qmlStirrerState ? qsTr("Stir Off") : qsTr("Stir On")) + ls.translatedText
+            // The stirrer's state, worded as on the run screen; a tap switches it.
+            text: (dm.qmlStirrerState ? qsTr("Stirrer On") : qsTr("Stirrer Off")) + ls.translatedText
             onClicked: dm.qmlStirrerState ? tc.qmlStopStirrer() : tc.qmlStartStirrer()
         }
     }

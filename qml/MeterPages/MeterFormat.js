@@ -79,14 +79,19 @@ function checkStandard(text, readMode, decimals) {
     return ""
 }
 
-// A slope typed on the one-point page; a pH slope within 80 to 120 %, the
-// limits of a calibration's average slope.
+// What a slope typed on the one-point page may be: a pH slope within 80 to
+// 120 %, the limits of a calibration's average slope; any other slope takes
+// four digits and two decimals.
+function slopeMessage(electrodeType) {
+    return electrodeType === "pH" ? "Enter a slope value between 80.0 - 120.0 %"
+                                  : "Enter a slope value between -9999.99 - 9999.99 " + slopeUnit(electrodeType)
+}
+// "" for a slope that is taken, "Slope out of range" for a pH slope beyond
+// its limits, else the message above (an empty field included).
 function checkSlope(text, electrodeType) {
-    if (text.length === 0)
-        return "empty"
     var v = parseFloat(text)
     if (!/^-?\d{1,4}(\.\d{1,2})?$/.test(text) || !isFinite(v))
-        return "Enter a slope value"
+        return slopeMessage(electrodeType)
     if (electrodeType === "pH" && (Math.abs(v) < 80 || Math.abs(v) > 120))
         return "Slope out of range"
     return ""

@@ -11,8 +11,8 @@ import "EntryRules.js" as EntryRules
 // stores the values and hands them to the opener's `saved`.
 MainContentBackground {
     id: page
+    // The key of its tip: the value's or the name's (set as it opens).
     objectName: "entryPage"
-    hasInfo: false
 
     property var keys: []          // numbers: one key of EntryRules a field
     property string nameKind: ""   // a name: its kind in EntryRules.names
@@ -30,6 +30,7 @@ MainContentBackground {
         props = fieldProps
         saved = onSaved || null
         unit = EntryRules.entry(fieldKeys[0]).unit || ""
+        objectName = EntryRules.tipKey(fieldKeys[0])
         var values = []
         for (var i = 0; i < fieldKeys.length; ++i) {
             var v = fieldTarget ? fieldTarget[fieldProps[i]] : ""
@@ -52,6 +53,7 @@ MainContentBackground {
         props = []
         saved = onSaved || null
         unit = ""
+        objectName = EntryRules.names[kind].title
         show(EntryRules.names[kind].title, [current])
     }
 
@@ -65,10 +67,12 @@ MainContentBackground {
             fields.itemAt(i).text = values[i]
         mainWindow.currentStack.push(page)
         // The first field takes the focus, and with it is cleared for the
-        // new value. The keyboard's own hiding leaves the focus where it is:
+        // new value; the keyboard comes up with it. The keyboard's own hiding leaves the focus where it is:
         // keys of an attached keyboard go on into the field.
-        if (fields.count > 0)
+        if (fields.count > 0) {
             fields.itemAt(0).forceActiveFocus()
+            Qt.inputMethod.show()
+        }
     }
 
     function save() {

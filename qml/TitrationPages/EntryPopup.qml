@@ -12,6 +12,9 @@ PopupBackground {
 
     property alias field: field
     property alias unit: unitLabel.text
+    // The name of the field before it, and the hint in it while it is empty.
+    property alias label: fieldLabel.text
+    property alias placeholder: field.placeholderText
     property alias errorText: errorLabel.text
     property bool errorMessageVisibility: false
     property string textInputLastValue: ""
@@ -41,10 +44,18 @@ PopupBackground {
     Row {
         width: parent.width
         spacing: 12
+        Text {
+            id: fieldLabel
+            visible: text !== ""
+            anchors.verticalCenter: parent.verticalCenter
+            color: Colors.slateColor
+            font.family: "Roboto"
+            font.pixelSize: 17
+        }
         TextField {
             id: field
             objectName: "entryField"
-            width: parent.width - unitLabel.width - 12
+            width: parent.width - unitLabel.width - 12 - (fieldLabel.visible ? fieldLabel.width + 12 : 0)
             height: 48
             font.pixelSize: 18
             inputMethodHints: popup.numeric ? Qt.ImhFormattedNumbersOnly : Qt.ImhNoPredictiveText

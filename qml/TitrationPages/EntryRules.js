@@ -33,7 +33,8 @@ function dose(whole, dec) {
 }
 var WHOLE = /^\d*$/
 
-// title: the page title; field: object and property the value goes to;
+// title: the page title (tip: the key of its tip when not the title);
+// field: object and property the value goes to;
 // store: "f2".."f5" toFixed, "sig5" five significant figures, "t3sig5"
 // toFixed(3) then five figures, "int" whole number, "" as typed.
 var entries = {
@@ -43,9 +44,9 @@ var entries = {
     titrantMolecularWeight: { title: "Titrant Molecular Weight", unit: "g/mol", field: ["titrant", "titrantMolecularWeight"],
         min: 0.01, max: 100000, pattern: num("{1,6}", 2), store: "",
         message: "Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals." },
-    concInputModeM: { title: "Titrant Concentration", unit: "M", field: ["titrant", "concInputMode_manualEntry"],
+    concInputModeM: { title: "Titrant Concentration", tip: "Conc. Input Mode", unit: "M", field: ["titrant", "concInputMode_manualEntry"],
         min: 0.0001, max: 100, pattern: num("{0,3}", 5), message: MSG_CONC_M5, empty: 1, store: "f5" },
-    concInputModemM: { title: "Titrant Concentration", unit: "mM", field: ["titrant", "concInputMode_manualEntry"],
+    concInputModemM: { title: "Titrant Concentration", tip: "Conc. Input Mode", unit: "mM", field: ["titrant", "concInputMode_manualEntry"],
         min: 0.1, max: 100000, pattern: num("{0,6}", 5), message: MSG_CONC_MM5, empty: 1, store: "f5" },
     nominalConcM: { title: "Nominal Concentration", unit: "M", field: ["titrant", "nominalConc"],
         min: 0.0001, max: 100, pattern: num("{0,3}", 4), message: MSG_CONC_M4, store: "f4" },
@@ -79,7 +80,7 @@ var entries = {
         min: 0, max: 14, message: MSG_EP_PH, store: "", signed: true },
     endPointmV: { title: "Endpoint Values", unit: "mV", field: ["titration", "endPointValues"], signed: true,
         min: -2000, max: 2000, message: "Enter a mV value between -2000.0 - +2000.0 mV.", store: "" },
-    blankRequiredValue: { title: "Fixed Blank Value", unit: "mL", field: ["titration", "blankRequiredValue"],
+    blankRequiredValue: { title: "Fixed Blank Value", tip: "Blank Required", unit: "mmol", field: ["titration", "blankRequiredValue"],
         min: 0, max: 1000, pattern: num("{0,5}", 5), empty: 0, store: "sig5",
         message: "Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals." },
     resultUnitsValue: { title: "Result Units(F*Consumption mmol)", field: ["titration", "resultUnitsValue"],
@@ -155,17 +156,17 @@ var entries = {
 
     // Known addition: the constant increment and the stability are held to
     // the limits of the titration's target ΔE and dE/dt.
-    mkaConstant: { title: "Constant Increment", unit: "mV", field: ["titration", "mkaProcessControlConstant"],
+    mkaConstant: { title: "Constant Increment", tip: "Target ΔE", unit: "mV", field: ["titration", "mkaProcessControlConstant"],
         min: 0.1, max: 100, pattern: dose("{0,3}", 1), message: MSG_DELTA_E, empty: 18, store: "", decimals: 1 },
-    mkaMeasurement: { title: "Measurement Stability", unit: "mV/min", field: ["titration", "mkaProcessControlMeasurement"],
+    mkaMeasurement: { title: "Measurement Stability", tip: "Stability Criteria dE/dt", unit: "mV/min", field: ["titration", "mkaProcessControlMeasurement"],
         min: 0.1, max: 200, pattern: dose("{0,3}", 1), message: MSG_STABILITY, empty: 3, store: "", decimals: 1 },
-    mkaTmin: { title: "Tmin", unit: "sec", field: ["titration", "tMin"], min: 1, max: 150,
+    mkaTmin: { title: "Tmin", tip: "Minimum Response Time tmin", unit: "sec", field: ["titration", "tMin"], min: 1, max: 150,
         pattern: /^\d{0,3}$/, message: MSG_TMIN, empty: 2, store: "int", decimals: 0 },
-    mkaTmax: { title: "Tmax", unit: "sec", field: ["titration", "tMax"], min: 1, max: 15000,
+    mkaTmax: { title: "Tmax", tip: "Maximum Response Time tmax", unit: "sec", field: ["titration", "tMax"], min: 1, max: 15000,
         pattern: /^\d{0,5}$/, message: MSG_TMAX, empty: 10, store: "int", decimals: 0 },
-    mkaDVmin: { title: "dVmin", unit: "mL", field: ["titration", "deltaVmin"], min: 0.001, max: 10,
+    mkaDVmin: { title: "dVmin", tip: "Minimum Dose ΔVmin", unit: "mL", field: ["titration", "deltaVmin"], min: 0.001, max: 10,
         pattern: dose("{0,2}", 3), message: MSG_DOSE, empty: 10, store: "", decimals: 3 },
-    mkaDVmax: { title: "dVmax", unit: "mL", field: ["titration", "deltaVmax"], min: 0.001, max: 10,
+    mkaDVmax: { title: "dVmax", tip: "Maximum Dose ΔVmax", unit: "mL", field: ["titration", "deltaVmax"], min: 0.001, max: 10,
         pattern: dose("{0,2}", 3), message: MSG_DOSE, empty: 10, store: "", decimals: 3 }
 }
 
@@ -174,6 +175,13 @@ function entry(key) {
     if (!e)
         throw new Error("no entry " + key)
     return e
+}
+
+// The key of the tip of an entry's page: its title, unless another tip
+// tells about the same value.
+function tipKey(key) {
+    var e = entry(key)
+    return e.tip || e.title
 }
 
 // The text as typed, with the letters A to Z and a to z taken out.
@@ -223,20 +231,21 @@ var names = {
         tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
     titrantName: { title: "User Defined Titrant Name", pattern: "format", max: 14,
         tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
-    titrantID: { title: "Titrant ID", pattern: "formatNum", max: 14, trim: true,
+    titrantID: { title: "Titrant ID", pattern: "formatNum", max: 14,
         tooLong: "Invalid name. Please enter up to 14 alphanumeric characters" },
     standardName: { title: "User Defined Standard Name", pattern: "format", max: 14,
         tooLong: "Invalid name. Please enter up to 14 alphanumeric \ncharacters." },
-    sampleIdManual: { title: "Sample ID-Manual", pattern: "formatNum", max: 14, trim: true, blank: "Sample Id cannot be blank",
+    sampleIdManual: { title: "Sample ID-Manual", pattern: "formatNum", max: 14, blank: "Sample Id cannot be blank",
         tooLong: "Invalid name. Please enter up to 14 alphanumeric characters." },
-    sampleIdPrefix: { title: "Sample ID-Auto-Incremental", pattern: "formatNum", max: 10, trim: true, blank: "Sample Id cannot be blank",
+    sampleIdPrefix: { title: "Sample ID-Auto-Incremental", pattern: "formatNum", max: 10, blank: "Sample Id cannot be blank",
         tooLong: "Invalid name. Please enter up to 10 alphanumeric characters.", noUnderscore: true }
 }
 
 // patterns: { format: RegExp, formatNum: RegExp }. Answers { ok, value, message }.
+// Every name loses its blanks at both ends before it is checked and stored.
 function validateName(kind, text, patterns) {
     var n = names[kind]
-    var t = n.trim ? String(text).replace(/^\s+|\s+$/g, "") : String(text)
+    var t = String(text).replace(/^\s+|\s+$/g, "")
     if (t.length === 0 && n.blank)
         return { ok: false, message: n.blank }
     if (t.length === 0 || t.length > n.max)
@@ -244,6 +253,26 @@ function validateName(kind, text, patterns) {
     if (!patterns[n.pattern].test(t) || (n.noUnderscore && t.indexOf("_") >= 0))
         return { ok: false, message: SPECIAL }
     return { ok: true, value: t, message: "" }
+}
+
+// The electrode name and auto-increment prefix of the Measure section's
+// settings, by the rules of the method pages; an empty electrode name is no
+// name. Answers { message, name, prefix }: the first refusal, or "" with
+// the trimmed texts to store.
+function measureSettingsCheck(name, sampleId, prefix, patterns) {
+    var out = { message: "", name: String(name).replace(/^\s+|\s+$/g, ""), prefix: "" }
+    if (out.name !== "") {
+        var n = validateName("electrodeName", out.name, patterns)
+        if (!n.ok)
+            return { message: n.message }
+    }
+    if (sampleId === "Auto-Incremental") {
+        var p = validateName("sampleIdPrefix", prefix, patterns)
+        if (!p.ok)
+            return { message: p.message }
+        out.prefix = p.value
+    }
+    return out
 }
 
 // The name and password of a method saved from the Methods section: the
@@ -280,4 +309,14 @@ function saveMethodMessage(name, password, formatNum, placeholder) {
     if (n.length >= 15 || p.length >= 15)
         return { message: "Invalid name. Please enter up to 14 alphanumeric characters.", field: "name" }
     return { message: "", field: "" }
+}
+
+// Why the method library refused to save a method, as the screens say it.
+var saveRefusals = {
+    duplicateName: "A method with this name already exists.",
+    libraryFull: "Method log is full, new method cannot be saved.",
+    databaseError: "The method could not be stored. Please try again."
+}
+function saveRefusalMessage(reason) {
+    return reason === "" ? "" : (saveRefusals[reason] || saveRefusals.databaseError)
 }

@@ -411,6 +411,8 @@ Rectangle {
         ValueAxis {
             id: valueAxisX
             titleText: "Vol. (mL)"
+            titleFont: Qt.font({ family: "Roboto", pixelSize: 14 })
+            labelsFont: Qt.font({ family: "Roboto", pixelSize: 12 })
             tickCount: 2
             min: 0
             max: screen.xMax
@@ -419,6 +421,8 @@ Rectangle {
         ValueAxis {
             id: valueAxisY
             titleText: screen.phDisplay ? "pH" : "mV"
+            titleFont: Qt.font({ family: "Roboto", pixelSize: 14 })
+            labelsFont: Qt.font({ family: "Roboto", pixelSize: 12 })
             tickCount: 2
             min: 0
             max: screen.phDisplay ? 14 : 100

@@ -37,6 +37,7 @@ WizardListPage {
                 entryPage.openName("titrantName", titrant.titrantName_userDefined, function (v) {
                     titrant.titrantName = "User Defined"
                     titrant.titrantName_userDefined = v[0]
+                    page.closeOptions()
                     page.refresh()
                 })
             else

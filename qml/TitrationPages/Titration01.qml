@@ -30,7 +30,7 @@ MainContentBackground {
     function whenText(stamp) {
         if (!stamp)
             return ""
-        var d = new Date(stamp)
+        var d = displayValues.storedDate(stamp)
         if (isNaN(d.getTime()))
             return stamp
         return displayValues.formatTime(d) + " " + displayValues.formatDate(d)

@@ -93,6 +93,7 @@ WizardListPage {
                 entryPage.openName("titrantName", titrant.titrantName_userDefined, function (v) {
                     titrant.titrantName = "User Defined"
                     titrant.titrantName_userDefined = v[0]
+                    page.closeOptions()
                     page.refresh()
                 })
             else
@@ -113,6 +114,7 @@ WizardListPage {
                 entryPage.openName("standardName", titrant.standardName_userDefined, function (v) {
                     titrant.standardName = "User Defined"
                     titrant.standardName_userDefined = v[0]
+                    page.closeOptions()
                     page.refresh()
                 })
             else

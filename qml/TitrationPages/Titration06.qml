@@ -43,11 +43,10 @@ WizardListPage {
         return out.join(", ") + " " + titration.displayUnits
     }
 
-    function titrantText() {
-        var name = titrant.titrantName === "User Defined" ? titrant.titrantName_userDefined : qsTr(titrant.titrantName)
+    function titrantConcentrationText() {
         if (titrant.concInputMode === "Manual Entry")
-            return name + " " + n(titrant.concInputMode_manualEntry, 5) + " " + titrant.concInputMode_Unit
-        return name + " " + n(titrant.nominalConc, 4) + " " + titrant.nominalConc_Unit
+            return n(titrant.concInputMode_manualEntry, 5) + " " + titrant.concInputMode_Unit
+        return n(titrant.nominalConc, 4) + " " + titrant.nominalConc_Unit
     }
 
     function sampleText() {
@@ -64,7 +63,9 @@ WizardListPage {
 
     function describe(title) {
         switch (title) {
-        case "Titrant Name and Concentration": return { selector: titrantText(), isInfo: true }
+        case "Titrant Name and Concentration":
+            return { selector: titrant.titrantName === "User Defined" ? titrant.titrantName_userDefined : qsTr(titrant.titrantName),
+                     value: titrantConcentrationText(), isInfo: true }
         case "Titration Technique": return choice(titration.titrationTechnique, "titrationTechniqueModel")
         case "Number of Endpoints":
             return { selector: String(titration.noOfEndPoints), options: WizardRows.endPointCounts(titration.titrationTechnique, false) }
@@ -72,7 +73,7 @@ WizardListPage {
         case "Endpoint Values": return { selector: endPointText() }
         case "Titration Type": return choice(titration.titrationType, "titrationTypeModel")
         case "Blank Required": return choice(titration.blankRequired, "blankRequiredModel")
-        case "Fixed Blank Value": return { selector: n(titration.blankRequiredValue, 5) + " mL" }
+        case "Fixed Blank Value": return { selector: n(titration.blankRequiredValue, 5) + " mmol" }
         case "Result Units":
             return { selector: qsTr(titration.resultUnits) + (unitIndex() === 23 ? " F=" + n(titration.resultUnitsValue, 4) : ""),
                      current: titration.resultUnits, options: listElements.options("resultUnitsModel") }

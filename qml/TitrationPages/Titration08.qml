@@ -47,13 +47,13 @@ PopupBackground {
         nameField.focus = false
         passwordField.focus = false
         Qt.inputMethod.hide()
-        method.saveMethodValues(name, passwordField.text)
-        dm.reInitializeMethodModel(method.id)
-        if (method.success !== 1) {
-            errorMessage = "Method log is full, new method cannot be saved."
+        var refusal = dm.library.saveCurrent(name, passwordField.text)
+        if (refusal !== "") {
+            errorMessage = EntryRules.saveRefusalMessage(refusal)
             errorField = "name"
             return
         }
+        dm.reInitializeMethodModel(method.id)
         electrode.methodId = method.id
         titrant.methodId = method.id
         titration.methodId = method.id

@@ -31,8 +31,10 @@ MainContentBackground {
             font.pixelSize: 18
         }
         Text {
-            text: qsTr("Standard") + ls.translatedText + ": " + titrant.standAmount
-                  + (titrant.standAmount.indexOf("Fixed") === 0 ? " " + titrant.standAmount_Value + " " + titrant.standAmount_Unit : "")
+            // The amount with the five decimals it is entered with, at most.
+            text: qsTr("Standard") + ls.translatedText + ": " + qsTr(titrant.standAmount) + ls.translatedText
+                  + (titrant.standAmount.indexOf("Fixed") === 0
+                     ? " " + Number(titrant.standAmount_Value.toFixed(5)) + " " + titrant.standAmount_Unit : "")
             color: Colors.slateColor
             font.pixelSize: 16
         }

@@ -29,8 +29,6 @@ MainContentBackground {
         var name = nameField.text.replace(/^\s+|\s+$/g, "")
         var message = EntryRules.methodNameMessage(name, passwordField.text, confirmField.text,
                                                    mainWindow.formatNum, mainWindow.tapToTextString)
-        if (message === "" && dm.methodCount >= 10)
-            message = "Method log is full, new method cannot be saved."
         if (message !== "") {
             errorMessage = message
             return
@@ -38,9 +36,9 @@ MainContentBackground {
         nameField.focus = false
         passwordField.focus = false
         Qt.inputMethod.hide()
-        method.saveMethodValues(name, passwordField.text)
-        if (method.success !== 1) {
-            errorMessage = "The method could not be saved."
+        var refusal = dm.library.saveCurrent(name, passwordField.text)
+        if (refusal !== "") {
+            errorMessage = EntryRules.saveRefusalMessage(refusal)
             return
         }
         setup.currentMethodId = method.id
@@ -76,39 +74,40 @@ MainContentBackground {
             text: page.errorMessage === "" ? "" : qsTr(page.errorMessage) + ls.translatedText
         }
     }
+    // All three fields stand above the keyboard.
     Column {
         id: form
         x: 30
-        y: 14
+        y: 6
         width: side.x - 30 - 20
-        spacing: 4
-        Text { text: qsTr("Method Name") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        spacing: 2
+        Text { text: qsTr("Method Name") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 14; color: Colors.slateColor }
         TextField {
             id: nameField
             objectName: "methodNameField"
             width: form.width
-            height: 44
+            height: 40
             maximumLength: 20
             placeholderText: mainWindow.tapToTextString
             onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
         }
-        Text { text: qsTr("Password (Optional)") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        Text { text: qsTr("Password (Optional)") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 14; color: Colors.slateColor }
         TextField {
             id: passwordField
             objectName: "passwordField"
             width: form.width
-            height: 44
+            height: 40
             maximumLength: 20
             echoMode: TextInput.Password
             placeholderText: mainWindow.tapToTextString
             onActiveFocusChanged: if (activeFocus) page.errorMessage = ""
         }
-        Text { text: qsTr("Confirm Password") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 15; color: Colors.slateColor }
+        Text { text: qsTr("Confirm Password") + ls.translatedText; font.family: "Roboto"; font.pixelSize: 14; color: Colors.slateColor }
         TextField {
             id: confirmField
             objectName: "confirmPasswordField"
             width: form.width
-            height: 44
+            height: 40
             maximumLength: 20
             echoMode: TextInput.Password
             placeholderText: mainWindow.tapToTextString

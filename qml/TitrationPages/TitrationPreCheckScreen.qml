@@ -42,10 +42,10 @@ MainContentBackground {
         var lines = []
         var calibrated = method.lastCalibration !== ""
         lines.push({ name: qsTr("Electrode"), value: electrode.electrodeName + " (" + electrode.electrodeType + ")",
-                     note: titration.displayUnits === "mV" ? "" : calibrated ? qsTr("Calibrated") + " " + method.lastCalibration
+                     note: titration.displayUnits === "mV" ? "" : calibrated ? qsTr("Calibrated") + " " + displayValues.formatCalibrationDate(method.lastCalibration)
                                                                              : qsTr("Not calibrated: calibrating the sensor is strongly encouraged.") })
         var standardisation = titrant.concInputMode === "Manual Entry" ? qsTr("Entered by hand")
-                            : standardised ? qsTr("Standardized") + " " + method.lastStandardization
+                            : standardised ? qsTr("Standardized") + " " + displayValues.formatCalibrationDate(method.lastStandardization)
                             : qsTr("Not standardized: the nominal concentration is used.")
         lines.push({ name: qsTr("Titrant"), value: titration01.titrantShownName() + "  " + titrantConcText(), note: standardisation })
         var maxMl = titrant.maxTotalVolume

@@ -38,7 +38,7 @@ WizardListPage {
         switch (title) {
         case "Titrant Name and Concentration":
             var name = titrant.titrantName === "User Defined" ? titrant.titrantName_userDefined : qsTr(titrant.titrantName)
-            return { selector: name + " " + n(titrant.titrantConcentrationValue, 5) + " " + titrant.titrantConcentration, isInfo: true }
+            return { selector: name, value: n(titrant.titrantConcentrationValue, 5) + " " + titrant.titrantConcentration, isInfo: true }
         case "Result Units": return choice(titration.resultUnits, listElements.options("resultUnitsModelTwo"))
         case "Serving Size": return { selector: n(titration.servingSize, 3) + " " + titration.servingUnit,
                                       current: titration.servingUnit, options: ["g", "mL"] }

@@ -21,7 +21,8 @@ MainContentBackground {
 
     // ---- what a page gives ----
     function rowTitles() { return [] }
-    // { selector: text, options: [English entries] (a choice), isInfo: bool }
+    // { selector: text, value: text kept whole after it (the selector is
+    //   elided first), options: [English entries] (a choice), isInfo: bool }
     function describe(title) { return { selector: "" } }
     function rowPicked(title, index, option) {}
     function rowOpened(title) {}
@@ -43,6 +44,7 @@ MainContentBackground {
             var options = d.options || null
             source.push(options)
             var row = { title: titles[i], selector: d.selector === undefined ? "" : String(d.selector),
+                        selectorValue: d.value === undefined ? "" : String(d.value),
                         isDropdown: options !== null, infoField: d.isInfo === true,
                         isCustom: d.isCustom === true, optionCount: options ? options.length : 0,
                         loadIndex: options ? options.indexOf(d.current !== undefined ? d.current : d.selector) : -1 }
@@ -83,6 +85,19 @@ MainContentBackground {
         loadModelData()
     }
 
+    // A pick on the radio list: "User Defined" opens its page at once, and
+    // that page's Save closes the list (closeOptions).
+    function multipleOptionsCustomEntries(selectedIndex, title) {
+        var index = indexOfElement(title)
+        if (index >= 0 && dropdownDatasource[index][selectedIndex] === "User Defined")
+            rowPicked(title, selectedIndex, "User Defined")
+    }
+    function closeOptions() {
+        var stack = mainWindow.currentStack
+        if (stack && stack.currentItem === multipleOptionsPage)
+            stack.pop()
+    }
+
     function openCombo(index) {
         comboTitle = rows.get(index).title
         comboOptions.model = dropdownDatasource[index]
@@ -107,6 +122,7 @@ MainContentBackground {
             width: list.width
             title: model.title
             selector: model.selector
+            selectorValue: model.selectorValue
             isDropdown: model.isDropdown
             isInfo: model.infoField
             optionCount: model.optionCount

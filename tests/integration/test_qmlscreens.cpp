@@ -33,6 +33,7 @@
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQmlContext>
+#include <QQmlExpression>
 #include <QQmlInfo>
 #include <QQuickItem>
 #include <QQuickStyle>
@@ -302,6 +303,139 @@ TEST_F(Screens, BusyPopupStates)
     ASSERT_TRUE(close);
     scene.tap(close);
     EXPECT_FALSE(busy->property("visible").toBool());
+    EXPECT_EQ(warnings(), QString());
+}
+
+// Every tip and the page that shows it. A page of the window shows its own
+// (its objectName is the key); the one entry page shows the tip of the value
+// or name it asks for, the radio list the tip of the row whose options it
+// offers. The run's pages (the pre-checks, the cycle screen) and the pages
+// of a state (a redox or ion-selective calibration, a stable reading) are
+// the run's and the calibration's; the others belong to settings and log
+// pages still to be built.
+const char *const kTipPages[] = {
+    "Burette", "Burette Installation Date", "Calibrate Electrode", "Calibrate pH(Calibration Point Successful screen)",
+    "Calibrate pH(Calibration Result screen)", "Calibrate pH(Calibration Solution Standard Value Save screen)",
+    "Calibrate pH(Override screen)", "Calibration Summary", "Create Method", "Data Logs", "Dispense Volume", "Display",
+    "Home", "MKA-Setup Titration", "Measure", "Measure ReadMode", "Methods", "New Titration Setup Process", "Settings",
+    "Setup Electrode", "Setup Titrant", "Setup Titration", "Standardization Summary", "Titration Summary"};
+const char *const kTipEntries[][2] = { // key, the value asked for ("name:" a name)
+    {"Blank Required", "blankRequiredValue"}, {"Conc. Input Mode", "concInputModeM"}, {"Endpoint Values", "endPointpH"},
+    {"Fixed Reagent Weight", "reagentWeight"}, {"Max Total Titrant Volume", "titrationMaxVolume"},
+    {"Maximum Dose ΔVmax", "deltaVmax"}, {"Maximum Response Time tmax", "tMax"}, {"Minimum Dose ΔVmin", "deltaVmin"},
+    {"Minimum Response Time tmin", "tMin"}, {"Nominal Concentration", "nominalConcM"},
+    {"Pre-dose Titrant Volume", "titrationPreDose"}, {"Pre-stir Duration", "titrantPreStir"},
+    {"Reaction Ratio", "reactionRatio"}, {"Reagent Amount", "reagentAmountValue"},
+    {"Reagent Concentration", "reagentConcentration"}, {"Reagent Molecular Weight", "reagentMolecularWeight"},
+    {"Reagent Purity", "reagentPurity"}, {"Reagent Reaction Ratio", "reagentReactionRatio"},
+    {"Reagent Volume", "reagentVolume"}, {"Result Units(F*Consumption mmol)", "resultUnitsValue"},
+    {"Sample Amount", "fixedSampleVolume"}, {"Stability Criteria dE/dt", "stablityCriteria"},
+    {"Standard Amount", "fixedStandAmountWeight"}, {"Standard Concentration", "standConcentrationM"},
+    {"Standard Molecular Weight", "standMolecularWeight"}, {"Standard Purity", "standardPurity"},
+    {"Standardization Reaction Ratio", "standReactionRatio"}, {"Target ΔE", "deltaE"}, {"Threshold", "threshold"},
+    {"Titrant Concentration", "titrantConcentrationMka"}, {"Titrant Reaction Ratio", "titrantReactionRatio"},
+    {"Electrode Name", "name:electrodeName"}, {"Sample ID-Auto-Incremental", "name:sampleIdPrefix"},
+    {"Titrant ID", "name:titrantID"}, {"User Defined Standard Name", "name:standardName"},
+    {"User Defined Titrant Name", "name:titrantName"}};
+const char *const kTipOptions[] = {"ISE Type", "Result Units", "Standard Name", "Stir Speed", "Titrant Name"};
+const char *const kTipsElsewhere[] = {"Cycle screen", "Titration Pre-Check", "Standardize Titrant Pre-Check",
+                                      "Calibrate ISE", "Calibrate Redox", "Calibrate pH(Edit and Accept)"};
+const char *const kTipsNotYet[] = {
+    "Blank Conc. Required", "Calibration Due", "Calibration Log", "Date", "Diagnostics", "Direct Measure Log",
+    "Direct Measure Log Summary", "Direct Measure Units", "Display Brightness", "Edit Method", "Factory Reset",
+    "Files and Info", "Firmware", "Instrument Name", "Language", "Maintenance Due", "Notifications",
+    "Sample ID-Manual", "Screen Calibration", "Temperature Input", "Time", "Titrant Log", "Titration Log"};
+
+TEST_F(Screens, EveryTipHasThePageThatShowsIt)
+{
+    call("skipToHome");
+    QObject *tips = byId(QStringLiteral("tips"));
+    QStringList listed;
+    for (const char *key : kTipPages)
+        listed << QString::fromUtf8(key);
+    for (const auto &entry : kTipEntries)
+        listed << QString::fromUtf8(entry[0]);
+    for (const char *key : kTipOptions)
+        listed << QString::fromUtf8(key);
+    for (const char *key : kTipsElsewhere)
+        listed << QString::fromUtf8(key);
+    for (const char *key : kTipsNotYet)
+        listed << QString::fromUtf8(key);
+    QStringList keys = tips->property("tipsDirectory").toMap().keys();
+    keys.sort();
+    listed.sort();
+    EXPECT_EQ(listed, keys);
+
+    const QList<QQuickItem *> items = root->findChildren<QQuickItem *>();
+    for (const char *key : kTipPages) {
+        EXPECT_TRUE(std::any_of(items.begin(), items.end(), [&](QQuickItem *i) {
+            return i->objectName() == QString::fromUtf8(key) && i->property("hasInfo").toBool();
+        })) << key;
+    }
+    // The entry page and the radio list, opened for each of theirs: the
+    // corner of the page on show brings its tip.
+    QList<QPair<QString, QString>> opened;
+    for (const auto &entry : kTipEntries) {
+        const QString what = QString::fromUtf8(entry[1]);
+        opened << qMakePair(QString::fromUtf8(entry[0]),
+                            what.startsWith(QLatin1String("name:"))
+                                ? QStringLiteral("entryPage.openName('%1', '')").arg(what.mid(5))
+                                : QStringLiteral("entryPage.openEntry('%1')").arg(what));
+    }
+    for (const char *key : kTipOptions)
+        opened << qMakePair(QString::fromUtf8(key),
+                            QStringLiteral("multipleOptionsPage.setMultipleOptions(0, ['One'], '%1', null); "
+                                           "titrationStack.push(multipleOptionsPage)").arg(QString::fromUtf8(key)));
+    for (const auto &page : opened) {
+        QQmlExpression(qmlContext(root), root, page.second).evaluate();
+        call("handleTipAction");
+        EXPECT_TRUE(tips->property("shown").toBool()) << page.first.toStdString();
+        EXPECT_EQ(tips->property("title").toString(), page.first);
+        call("backButtonAction");
+    }
+    EXPECT_EQ(warnings(), QString());
+}
+
+// A finger's tap on a tip, its text included, closes it and reaches
+// nothing beneath: here home's button under the tip's text.
+TEST_F(Screens, ATapOnATipOnlyClosesIt)
+{
+    call("skipToHome");
+    QTest::qWait(100);
+    QQuickItem *button = UiScene(root).itemWithText(QStringLiteral("Start a New Titration"));
+    ASSERT_TRUE(button);
+    call("handleTipAction");
+    QObject *tips = byId(QStringLiteral("tips"));
+    ASSERT_TRUE(tips->property("shown").toBool());
+    static QTouchDevice *finger = QTest::createTouchDevice();
+    const QPoint at = button->mapToScene(QPointF(button->width() / 2, button->height() / 2)).toPoint();
+    QTest::touchEvent(root, finger).press(0, at, root);
+    QTest::touchEvent(root, finger).release(0, at, root);
+    QTest::qWait(100);
+    EXPECT_FALSE(tips->property("shown").toBool());
+    EXPECT_EQ(byId(QStringLiteral("titrationStack"))->property("depth").toInt(), 1);
+    EXPECT_EQ(warnings(), QString());
+}
+
+// The first row of the titration page: a long titrant name gives way, the
+// concentration stays whole.
+TEST_F(Screens, ALongTitrantNameLeavesItsConcentrationWhole)
+{
+    call("skipToHome");
+    TitrantSetupModel *t = dm->titrantSetupModel();
+    t->setTitrantName(QStringLiteral("User Defined"));
+    t->setTitrantName_userDefined(QStringLiteral("WWWWWWWWWWWWWW"));
+    t->setConcInputMode(QStringLiteral("Standardization"));
+    t->setNominalConc(0.1234f);
+    t->setNominalConc_Unit(QStringLiteral("M"));
+    QQmlExpression(qmlContext(root), root, QStringLiteral("titration06.loadModelData(); titrationStack.push(titration06)"))
+        .evaluate();
+    QTest::qWait(100);
+    saveShot(QStringLiteral("longtitrant.png"));
+    UiScene scene(root);
+    QQuickItem *concentration = scene.itemWithText(QStringLiteral("0.1234 M"));
+    ASSERT_TRUE(concentration);
+    EXPECT_FALSE(concentration->property("truncated").toBool());
     EXPECT_EQ(warnings(), QString());
 }
 

@@ -112,4 +112,22 @@ TestCase {
         compare(Qt.formatTime(d, DateFormat.timeFormat(1, true)), "21:05:09")
         compare(Qt.formatTime(d, DateFormat.timeFormat(0, false)), "09:05 PM")
     }
+
+    // Stored date texts become dates, whatever the settings show them as.
+    function test_parseStored_data() {
+        return [
+            { tag: "calibration point PM", text: "24/11/2026 | 03:59 PM", expected: new Date(2026, 10, 24, 15, 59) },
+            { tag: "last run AM", text: "09:05 AM | 11/24/2026", expected: new Date(2026, 10, 24, 9, 5) },
+            { tag: "midnight", text: "24/11/2026 | 12:30 AM", expected: new Date(2026, 10, 24, 0, 30) },
+            { tag: "noon", text: "12:10 PM | 11/24/2026", expected: new Date(2026, 10, 24, 12, 10) },
+            { tag: "ISO", text: "2026-11-24T15:59:00", expected: new Date(2026, 10, 24, 15, 59) }
+        ]
+    }
+    function test_parseStored(data) {
+        compare(DateFormat.parseStored(data.text).getTime(), data.expected.getTime())
+    }
+    function test_parseStored_other_text() {
+        verify(isNaN(DateFormat.parseStored("NILL").getTime()))
+        verify(isNaN(DateFormat.parseStored("").getTime()))
+    }
 }

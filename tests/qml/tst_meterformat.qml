@@ -54,8 +54,9 @@ TestCase {
             { tag: "pH slope under 80 %", text: "79.9", type: "pH", expected: "Slope out of range" },
             { tag: "pH slope over 120 %", text: "120.5", type: "pH", expected: "Slope out of range" },
             { tag: "ISE slope in mV per decade", text: "-57.1", type: "ISE", expected: "" },
-            { tag: "empty", text: "", type: "pH", expected: "empty" },
-            { tag: "not a number", text: "9.9.9", type: "pH", expected: "Enter a slope value" }
+            { tag: "empty", text: "", type: "pH", expected: "Enter a slope value between 80.0 - 120.0 %" },
+            { tag: "not a number", text: "9.9.9", type: "pH", expected: "Enter a slope value between 80.0 - 120.0 %" },
+            { tag: "ISE three decimals", text: "-57.125", type: "ISE", expected: "Enter a slope value between -9999.99 - 9999.99 mV/dec" }
         ]
     }
     function test_slope(data) {

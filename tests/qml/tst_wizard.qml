@@ -97,6 +97,8 @@ TestCase {
         compare(EntryRules.validate("titrantPreDose", "10", { buretteSize: 5 }).message,
                 "Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.")
         compare(EntryRules.stripLetters("1a2.b5Z"), "12.5")
+        // a blank is an amount of matter, as the summary gives it
+        compare(EntryRules.entry("blankRequiredValue").unit, "mmol")
     }
 
     function test_electrode_rows() {
@@ -213,6 +215,8 @@ TestCase {
             { tag: "electrode ok", kind: "electrodeName", text: "Glass 1", message: "" },
             { tag: "electrode 15", kind: "electrodeName", text: "ABCDEFGHIJKLMNO", message: tooLong },
             { tag: "electrode mark", kind: "electrodeName", text: "Glass#1", message: "Special characters are not allowed" },
+            { tag: "electrode trimmed", kind: "electrodeName", text: "  Glass 1 ", message: "", value: "Glass 1" },
+            { tag: "titrant trimmed 14", kind: "titrantName", text: " ABCDEFGHIJKLMN ", message: "", value: "ABCDEFGHIJKLMN" },
             { tag: "titrant id trimmed", kind: "titrantID", text: "  Lot7  ", message: "", value: "Lot7" },
             { tag: "standard 15", kind: "standardName", text: "ABCDEFGHIJKLMNO", message: "Invalid name. Please enter up to 14 alphanumeric \ncharacters." },
             { tag: "sample blank", kind: "sampleIdManual", text: "   ", message: "Sample Id cannot be blank" },
@@ -229,6 +233,32 @@ TestCase {
             compare(r.value, data.value)
     }
 
+    // The Measure section's settings: the electrode name (none is allowed)
+    // and the prefix of an auto-incremented sample id.
+    function test_measure_settings_data() {
+        return [
+            { tag: "no name, no id", name: "", sampleId: "None", prefix: "AB_", message: "", stored: "" },
+            { tag: "name trimmed", name: "  Glass 1", sampleId: "None", prefix: "", message: "", stored: "Glass 1" },
+            { tag: "name too long", name: "Probe#7 Long Name He", sampleId: "None", prefix: "",
+              message: "Invalid name. Please enter up to 14 alphanumeric characters." },
+            { tag: "name mark", name: "Probe#7", sampleId: "None", prefix: "", message: "Special characters are not allowed" },
+            { tag: "prefix ok", name: "", sampleId: "Auto-Incremental", prefix: " S-007 ", message: "", storedPrefix: "S-007" },
+            { tag: "prefix long", name: "", sampleId: "Auto-Incremental", prefix: "AB_CD#EFGHIJKLMNOP",
+              message: "Invalid name. Please enter up to 10 alphanumeric characters." },
+            { tag: "prefix underscore", name: "", sampleId: "Auto-Incremental", prefix: "AB_CD", message: "Special characters are not allowed" },
+            { tag: "prefix blank", name: "", sampleId: "Auto-Incremental", prefix: "  ", message: "Sample Id cannot be blank" }
+        ]
+    }
+    function test_measure_settings(data) {
+        var patterns = { format: NamePatterns.userName(), formatNum: NamePatterns.identifier("English") }
+        var r = EntryRules.measureSettingsCheck(data.name, data.sampleId, data.prefix, patterns)
+        compare(r.message, data.message)
+        if (data.stored !== undefined)
+            compare(r.name, data.stored)
+        if (data.storedPrefix !== undefined)
+            compare(r.prefix, data.storedPrefix)
+    }
+
     function test_method_names() {
         var num = NamePatterns.identifier("English")
         var ph = "Tap to enter text"
@@ -239,5 +269,11 @@ TestCase {
         compare(EntryRules.methodNameMessage("Acid 1", ph, ph, num, ph), "")
         compare(EntryRules.saveMethodMessage("", "", num, ph).message, "Method Name can't be empty")
         compare(EntryRules.saveMethodMessage("Acid 1", "a#b", num, ph).field, "password")
+        // each refusal of the library has its own message
+        var reasons = ["duplicateName", "libraryFull", "databaseError"].map(EntryRules.saveRefusalMessage)
+        compare(reasons[0], "A method with this name already exists.")
+        compare(reasons[1], "Method log is full, new method cannot be saved.")
+        verify(reasons[2] !== reasons[0] && reasons[2] !== reasons[1])
+        compare(EntryRules.saveRefusalMessage(""), "")
     }
 }

@@ -1,3 +1,4 @@
+#include "methodlibrary.h"
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
 #include "models/sysinfomodel.h"
@@ -232,6 +233,49 @@ TEST_F(MethodModels, TheEleventhMethodIsRefused)
     EXPECT_EQ(MethodModel::methodCount(), 10);
     EXPECT_EQ(db.dump(), before);
 }
+
+// The library says why a save was refused, and writes nothing then.
+struct SaveCase {
+    const char *name;
+    int storedBefore;       // methods "Method 1".."Method N" saved first
+    const char *trigger;    // a statement run before the save, or ""
+    const char *newName;
+    const char *outcome;    // MethodLibrary's reason, "" for a save
+};
+const SaveCase kSaveCases[] = {
+    {"Saved", 1, "", "Nitrate", ""},
+    {"DuplicateName", 2, "", "Method 2", "duplicateName"},
+    {"LibraryFull", 10, "", "Nitrate", "libraryFull"},
+    {"DatabaseError", 1, "CREATE TRIGGER refuse BEFORE INSERT ON titrationSetupTable BEGIN SELECT RAISE(ABORT, 'disk'); END",
+     "Nitrate", "databaseError"},
+};
+
+class SaveOutcome : public ::testing::TestWithParam<SaveCase>
+{
+protected:
+    TestDatabase db;
+};
+
+TEST_P(SaveOutcome, TheLibraryNamesTheReasonOfARefusal)
+{
+    const SaveCase &c = GetParam();
+    MethodLibrary library;
+    for (int i = 1; i <= c.storedBefore; ++i)
+        ASSERT_EQ(library.saveCurrent(QStringLiteral("Method %1").arg(i), QString()), QString()) << i;
+    if (*c.trigger)
+        ASSERT_TRUE(QSqlQuery().exec(QString::fromLatin1(c.trigger)));
+    const QString before = db.dump();
+    EXPECT_EQ(library.saveCurrent(QString::fromLatin1(c.newName), QString()), QString::fromLatin1(c.outcome));
+    EXPECT_EQ(library.current()->success(), *c.outcome ? 0 : 1);
+    if (*c.outcome) {
+        EXPECT_EQ(db.dump(), before);
+    } else {
+        EXPECT_TRUE(MethodLibrary::nameTaken(QString::fromLatin1(c.newName)));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Reasons, SaveOutcome, ::testing::ValuesIn(kSaveCases),
+                         [](const ::testing::TestParamInfo<SaveCase> &info) { return std::string(info.param.name); });
 
 TEST_F(MethodModels, ImportedMethodsInstallUnderFreeNamesWithPasswordAndWithoutHistory)
 {
