@@ -262,8 +262,9 @@ TEST_P(SaveOutcome, TheLibraryNamesTheReasonOfARefusal)
     MethodLibrary library;
     for (int i = 1; i <= c.storedBefore; ++i)
         ASSERT_EQ(library.saveCurrent(QStringLiteral("Method %1").arg(i), QString()), QString()) << i;
-    if (*c.trigger)
+    if (*c.trigger) {
         ASSERT_TRUE(QSqlQuery().exec(QString::fromLatin1(c.trigger)));
+    }
     const QString before = db.dump();
     EXPECT_EQ(library.saveCurrent(QString::fromLatin1(c.newName), QString()), QString::fromLatin1(c.outcome));
     EXPECT_EQ(library.current()->success(), *c.outcome ? 0 : 1);
