@@ -21,8 +21,9 @@ if(NOT KESTRUM_ASAN)
     ${asan_dir}/controller/algorithms/*.cpp
     ${asan_dir}/controller/algorithms/maths/*.cpp
     ${asan_dir}/interfaces/*.cpp)
-  # The meter controller leans on the data layer, which the copy leaves out.
-  list(FILTER ASAN_ENGINE_SOURCES EXCLUDE REGEX "/metercontroller\\.cpp$")
+  # The meter controller leans on the data layer, and the report controller
+  # on the screens and the USB disk, which the copy leaves out.
+  list(FILTER ASAN_ENGINE_SOURCES EXCLUDE REGEX "/(metercontroller|reportcontroller)\\.cpp$")
   add_executable(asan_titrationcontroller
     ${ASAN_ENGINE_SOURCES}
     ${asan_dir}/titrationcontrollerbase.cpp

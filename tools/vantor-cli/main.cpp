@@ -5,6 +5,7 @@
 #include "methodcommand.h"
 #include "titrateoptions.h"
 #include "titraterunner.h"
+#include "transfercommand.h"
 #include "uiscript.h"
 
 #include <QCoreApplication>
@@ -32,9 +33,11 @@ QString mainUsage()
                           "  titrate   run one titration against the virtual instrument, or replay a curve\n"
                           "  measure   read the electrode of a scenario until the reading is stable\n"
                           "  calibrate calibrate the electrode of a scenario with buffers or standards\n"
-                          "  method    install a method file, or list the stored methods\n"
+                          "  method    install a method file, list, export or import the stored methods\n"
+                          "  backup    copy the database file\n"
                           "  ui        run a UI driver script against the running application\n\n")
-           + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n") + UiScript::usage();
+           + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n")
+           + TransferCommand::usage() + QStringLiteral("\n") + UiScript::usage();
 }
 
 } // namespace
@@ -69,6 +72,13 @@ int main(int argc, char *argv[])
         }
         g_verbose = meter.verbose();
         return meter.run(out, err);
+    }
+    if (TransferCommand::handles(command, args)) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << TransferCommand::usage();
+            return 0;
+        }
+        return TransferCommand::run(command, args, out, err);
     }
     if (command == QLatin1String("method")) {
         if (args.contains(QStringLiteral("--help"))) {
