@@ -18,7 +18,7 @@ class QQuickWindow;
 // scripts sent over a local socket (one command a line, one JSON answer a
 // line: {"ok":true,"text":"..."}). The commands it runs itself:
 //   tap TEXT | tap #NAME, type TEXT, wait TEXT [SECONDS], expect TEXT,
-//   absent TEXT, texts, shot FILE, nowarnings
+//   absent TEXT, texts, shot FILE, nowarnings, usb in [FOLDER], usb out
 // The client (vantor-cli ui) keeps sleep and beaker for itself. Each command
 // and its answer is kept in a cyclic log file of the sandbox.
 class UiDriver : public QObject
