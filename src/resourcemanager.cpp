@@ -109,6 +109,8 @@ bool ResourceManager::methodImport()
     USBDir dir(usbMethodsFolder(), usbDisk);
     if (!dir.isUsable())
         return false;
+    // A disk with the older single-file backup gets one file per method first.
+    DataMigrator::dmPtr()->migrateUSB();
     MethodBackup backup(m_methodList);
     const bool imported = backup.importMethods(dir, QStringLiteral("_import"), false, true);
     report(tr("Import"), backup.messages());

@@ -150,7 +150,7 @@ public:
     }
     void putOnDisk(const QString &name, const QByteArray &content)
     {
-        QFile f(disk(QStringLiteral("VantorPro/methods_backup/") + name));
+        QFile f(disk(QStringLiteral("VantorPro/") + name));
         QDir().mkpath(QFileInfo(f).absolutePath());
         ASSERT_TRUE(f.open(QIODevice::WriteOnly));
         f.write(content);
@@ -357,7 +357,7 @@ TEST_F(UsbDiskTest, HostileMethodFilesLeaveTheLiveTablesAsTheyWereAndSaySo)
     for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
         QDir(disk("VantorPro")).removeRecursively();
-        putOnDisk(QStringLiteral("hostile.json"), c.file);
+        putOnDisk(QStringLiteral("methods_backup/hostile.json"), c.file);
         QSignalSpy message(rm.get(), &ResourceManager::usbMessage);
         EXPECT_FALSE(rm->methodImport());
         EXPECT_EQ(MethodBackup(&list).installAll(), 0);
@@ -399,4 +399,26 @@ TEST_F(UsbDiskTest, KeptMethodsComeBackAfterTheFactoryResetAndTheirFolderEmpties
         QFile::remove(folder);
         ASSERT_TRUE(TestDatabase::exec("DELETE FROM methodSetupTable WHERE id != 99999"));
     }
+}
+
+TEST_F(UsbDiskTest, AnOldSingleFileBackupBecomesOneFilePerMethodOnImport)
+{
+    QJsonObject old;
+    for (int k : {1, 2}) {
+        const QJsonObject doc = QJsonDocument::fromJson(methodFile(QStringLiteral("Old %1").arg(k))).object();
+        for (const QString &table : kLiveTables) {
+            QJsonObject row = doc.value(table).toObject().begin().value().toObject();
+            row.insert("id", k);
+            row.insert("methodId", k);
+            QJsonObject rows = old.value(table).toObject();
+            rows.insert(QString::number(k), row);
+            old.insert(table, rows);
+        }
+    }
+    putOnDisk(QStringLiteral("methods_backup.json"), QJsonDocument(old).toJson());
+    insert();
+    ASSERT_TRUE(rm->methodImport());
+    EXPECT_EQ(list.methodList().size(), 2);
+    EXPECT_EQ(QDir(disk("VantorPro/methods_backup")).entryList(QDir::Files), QStringList({"Old 1.json", "Old 2.json"}));
+    EXPECT_FALSE(QFile::exists(disk("VantorPro/methods_backup.json")));
 }
