@@ -105,7 +105,7 @@ int ResourceManager::methodExport()
 bool ResourceManager::methodImport()
 {
     if (!m_methodList)
-        m_methodList = m_ownList = new MethodModel(this, false);
+        m_methodList = new MethodModel(this, false);
     USBDir dir(usbMethodsFolder(), usbDisk);
     if (!dir.isUsable())
         return false;

@@ -81,7 +81,6 @@ private:
 
     USBHost *m_usbHost;
     MethodModel *m_methodList = nullptr;
-    MethodModel *m_ownList = nullptr;
     QString m_ipAddress;
     QString m_versionStatus;
 };

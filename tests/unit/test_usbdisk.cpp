@@ -293,6 +293,9 @@ TEST_F(UsbDiskTest, ExportedMethodsComeBackFieldForFieldOnAFreshDatabase)
     EXPECT_EQ(rm->methodExport(), 2) << "the working method is not exported";
     const QStringList exported = QDir(disk("VantorPro/methods_backup")).entryList(QDir::Files);
     EXPECT_EQ(exported, QStringList({"Acetic.json", "Second one.json"}));
+    EXPECT_TRUE(rm->copyDatabaseToUsb());
+    EXPECT_EQ(rm->versionStatusQml(), QStringLiteral("Process Complete"));
+    EXPECT_TRUE(QFileInfo(disk("VantorPro/database_backup/KestrumDB")).size() > 0);
 
     // Another instrument: a fresh database.
     rm.reset();
