@@ -124,11 +124,13 @@ bool ResourceManager::backupMethods()
     dir.removeRecursively();
     if (!QDir().mkpath(dir.absolutePath())) {
         report(tr("Factory Reset"), {tr("The methods could not be kept: no backup folder")});
+        m_methodsBackupFailed = true;
         return false;
     }
     MethodBackup backup(m_methodList);
     const bool kept = backup.exportMethods(dir, QString()) >= 0;
     report(tr("Factory Reset"), backup.messages());
+    m_methodsBackupFailed = !kept;
     return kept;
 }
 
@@ -153,7 +155,7 @@ void ResourceManager::restartApp()
 
 bool ResourceManager::wipeDatabase(bool keepMethods)
 {
-    if (keepMethods && !backupMethods()) {
+    if (keepMethods ? !backupMethods() : m_methodsBackupFailed) {
         report(tr("Factory Reset"), {tr("The methods could not be kept; nothing was reset.")});
         return false;
     }

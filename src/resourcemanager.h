@@ -48,8 +48,9 @@ public:
     Q_INVOKABLE void restartApp();
     // The factory reset: the database to JSON, the stored images removed,
     // the database emptied. With keepMethods the methods are written to the
-    // backup folder first, and nothing is wiped when that fails. True when
-    // the database was emptied.
+    // backup folder first. Nothing is wiped when that fails, nor after a
+    // backupMethods() that failed (the screens may call the two in turn).
+    // True when the database was emptied.
     Q_INVOKABLE bool wipeDatabase(bool keepMethods = false);
 
 public slots:
@@ -81,6 +82,7 @@ private:
 
     USBHost *m_usbHost;
     MethodModel *m_methodList = nullptr;
+    bool m_methodsBackupFailed = false;
     QString m_ipAddress;
     QString m_versionStatus;
 };

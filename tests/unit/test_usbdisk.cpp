@@ -386,6 +386,7 @@ TEST_F(UsbDiskTest, KeptMethodsComeBackAfterTheFactoryResetAndTheirFolderEmpties
             ASSERT_TRUE(writeTextFile(folder, QStringLiteral("a file where the folder goes")));
         }
         EXPECT_EQ(rm->wipeDatabase(true), !c.backupBlocked);
+        EXPECT_FALSE(c.backupBlocked && (rm->backupMethods() || rm->wipeDatabase())) << "the backup, then the wipe";
         EXPECT_EQ(MethodModel::methodCount(), c.backupBlocked ? 2 : 0) << "no wipe without its backup";
         // The restart.
         rm.reset();
