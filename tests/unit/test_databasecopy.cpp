@@ -1,6 +1,7 @@
 // The database copied as a database file: sound, complete as committed,
 // under its name only when whole.
 #include "models/databasecopy.h"
+#include "logrecords.h"
 #include "models/titrationlogmodel.h"
 #include "testdatabase.h"
 #include "testdatalayer.h"
@@ -14,26 +15,14 @@
 
 namespace {
 
-// Row counts of every table of a database file, through a connection of its own.
-std::map<std::string, int> rowCounts(const QString &file, QString *integrity)
+// Every table of a database file with its row count, through the sqlite3 shell.
+QString rowCounts(const QString &file)
 {
-    std::map<std::string, int> counts;
-    sqlite3 *db = nullptr;
-    sqlite3_open_v2(QFile::encodeName(file).constData(), &db, SQLITE_OPEN_READONLY, nullptr);
-    auto text = [db](const std::string &sql) {
-        std::vector<std::string> values;
-        sqlite3_stmt *s = nullptr;
-        sqlite3_prepare_v2(db, sql.c_str(), -1, &s, nullptr);
-        while (sqlite3_step(s) == SQLITE_ROW)
-            values.emplace_back(reinterpret_cast<const char *>(sqlite3_column_text(s, 0)));
-        sqlite3_finalize(s);
-        return values;
-    };
-    *integrity = QString::fromStdString(text("PRAGMA integrity_check").at(0));
-    for (const std::string &table : text("SELECT name FROM sqlite_master WHERE type='table'"))
-        counts[table] = std::stoi(text("SELECT count(*) FROM \"" + table + "\"").at(0));
-    sqlite3_close(db);
-    return counts;
+    QStringList counts;
+    const QString tables = LogRecords::sqlite(file, QStringLiteral("SELECT name FROM sqlite_master WHERE type='table' ORDER BY name"));
+    for (const QString &t : tables.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        counts << t + QLatin1Char('=') + LogRecords::sqlite(file, QStringLiteral("SELECT count(*) FROM \"%1\"").arg(t));
+    return counts.join(QLatin1Char(' '));
 }
 
 } // namespace
@@ -61,8 +50,8 @@ TEST(DatabaseCopy, TheCopyIsSoundAndHoldsEveryCommittedRow)
     for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
         QFile::remove(c.target);
-        QString integrity;
-        const auto committed = rowCounts(db.path(), &integrity);
+        const QString committed = rowCounts(db.path());
+        ASSERT_TRUE(committed.contains(QStringLiteral("titrationLogTable=50"))) << qPrintable(committed);
         sqlite3 *writer = nullptr;
         if (c.entryBeingWritten) {
             // Another connection is in the middle of writing a log entry.
@@ -83,7 +72,7 @@ TEST(DatabaseCopy, TheCopyIsSoundAndHoldsEveryCommittedRow)
             EXPECT_FALSE(error.isEmpty());
             continue;
         }
-        EXPECT_EQ(rowCounts(c.target, &integrity), committed);
-        EXPECT_EQ(integrity, "ok");
+        EXPECT_EQ(rowCounts(c.target).toStdString(), committed.toStdString());
+        EXPECT_EQ(LogRecords::sqlite(c.target, QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
     }
 }

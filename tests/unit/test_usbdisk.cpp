@@ -240,23 +240,6 @@ TEST_F(UsbDiskTest, HoldersShareOneMountAndAnOldHolderCannotUnmountANewDisk)
     EXPECT_EQ(rm->usbDisk->mountCount(), 0);
 }
 
-TEST_F(UsbDiskTest, NamesOnTheDiskStayOnTheDisk)
-{
-    const struct {
-        const char *name;
-        QString path;
-    } cases[] = {
-        {"report.csv", disk("report.csv")},
-        {"/VantorPro/Screenshots/", disk("VantorPro/Screenshots")},
-        {"/media/usb/a.json", disk("a.json")},
-        {"../../etc/passwd", ""},
-        {"/VantorPro/../../x", ""},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(USBDisk::resolve(QString::fromUtf8(c.name)).toStdString(), c.path.toStdString()) << c.name;
-    EXPECT_EQ(USBDisk::resolve(disk("x.png")), disk("x.png")) << "a full path stays as it is";
-}
-
 TEST_F(UsbDiskTest, AHostOnTheDevicePortBringsUpTheNetworkGadget)
 {
     const QString bus = Platform::path(QStringLiteral("/dev/bus/usb/002"));
@@ -315,7 +298,7 @@ TEST_F(UsbDiskTest, ExportedMethodsComeBackFieldForFieldOnAFreshDatabase)
     EXPECT_EQ(exported, QDir(disk("VantorPro/methods_backup")).entryList(QDir::Files)) << "the files stay";
 }
 
-TEST_F(UsbDiskTest, MethodNamesBecomeFileNamesOfTheFolder)
+TEST_F(UsbDiskTest, NamesBecomeFileNamesThatStayOnTheDisk)
 {
     ASSERT_EQ(install(methodFile(QStringLiteral("Acetic"))), 1);
     ASSERT_EQ(install(methodFile(QStringLiteral("acetic"))), 1);
@@ -331,6 +314,20 @@ TEST_F(UsbDiskTest, MethodNamesBecomeFileNamesOfTheFolder)
     } cases[] = {{"a/b", "a_b"}, {"A/B", "A_B_2"}, {"..", "_."}, {"", "method"}, {"tab\there", "tab_here"}, {"c:\\x*?", "c__x__"}};
     for (const auto &c : cases)
         EXPECT_EQ(MethodBackup::safeFileName(QString::fromUtf8(c.name), &taken), QString::fromUtf8(c.file)) << c.name;
+    // Names on the disk stay on the disk.
+    const struct {
+        const char *name;
+        QString path;
+    } places[] = {
+        {"report.csv", disk("report.csv")},
+        {"/VantorPro/Screenshots/", disk("VantorPro/Screenshots")},
+        {"/media/usb/a.json", disk("a.json")},
+        {"../../etc/passwd", ""},
+        {"/VantorPro/../../x", ""},
+    };
+    for (const auto &c : places)
+        EXPECT_EQ(USBDisk::resolve(QString::fromUtf8(c.name)).toStdString(), c.path.toStdString()) << c.name;
+    EXPECT_EQ(USBDisk::resolve(disk("x.png")), disk("x.png")) << "a full path stays as it is";
 }
 
 TEST_F(UsbDiskTest, HostileMethodFilesLeaveTheLiveTablesAsTheyWereAndSaySo)
