@@ -51,7 +51,7 @@ TEST(DatabaseCopy, TheCopyIsSoundAndHoldsEveryCommittedRow)
         SCOPED_TRACE(c.name);
         QFile::remove(c.target);
         const QString committed = rowCounts(db.path());
-        ASSERT_TRUE(committed.contains(QStringLiteral("titrationLogTable=50"))) << qPrintable(committed);
+        ASSERT_TRUE(committed.contains(QStringLiteral("titrationLogTable=5"))) << qPrintable(committed);
         sqlite3 *writer = nullptr;
         if (c.entryBeingWritten) {
             // Another connection is in the middle of writing a log entry.
