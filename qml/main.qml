@@ -423,9 +423,8 @@ ApplicationWindow {
         if (itemClicked < 6)
             return
         itemClicked = 0
-        if (rm.usbIsReady) {
+        if (rm.usbIsReady && reportController.handleScreenShotImage()) {
             screenshotClicker.enabled = false
-            reportController.handleScreenShotImage()
             screenshotconfirmation.start()
         } else {
             screenShotConfirmPopup.changeText(5)

@@ -19,9 +19,14 @@
 #include "models/titrationmodel.h"
 #include "models/titrationsetupmodel.h"
 #include "models/importexport.h"
+#include "models/methodbackup.h"
 #include "system/platform.h"
+#include "system/usbdir.h"
 
 #include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSqlQuery>
 
 #include <algorithm>
@@ -135,4 +140,21 @@ void DataMigrator::restartApp()
     const Platform::Result r = Platform::run(QStringLiteral("systemctl"), {QStringLiteral("restart"), QStringLiteral("b2qt")}, 30000);
     if (!r.ok())
         qDebug() << "DataMigrator: restart failed, exit" << r.exitCode << r.standardError;
+}
+
+bool DataMigrator::migrateUSB()
+{
+    USBDir dir(QStringLiteral("/VantorPro/"));
+    if (!dir.isUsable() || !dir.mkpath(dir.absoluteFilePath(QStringLiteral("methods_backup"))))
+        return false;
+    const QString old = dir.absoluteFilePath(QStringLiteral("methods_backup.json"));
+    if (!QFileInfo(old).isFile())
+        return false;
+    const QString staging = QStringLiteral("_import");
+    ImportExport io(old);
+    if (!io.clearTables(staging) || !io.importAll(ImportExport::Replace, staging))
+        return false;
+    const int written = MethodBackup(nullptr).exportMethods(QDir(dir.absoluteFilePath(QStringLiteral("methods_backup"))), staging);
+    qDebug() << "DataMigrator: methods of the old backup file written:" << written;
+    return written > 0 && dir.isUsable() && QFile::remove(old);
 }

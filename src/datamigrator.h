@@ -35,6 +35,11 @@ public slots:
     // copy can't be written completely is left as it is (`LeftAsFound`).
     bool wipeDatabaseRebuildSysInfo();
     void restartApp();
+    // The older method backup on the USB disk, one file
+    // /VantorPro/methods_backup.json with all methods, becomes one file per
+    // method in /VantorPro/methods_backup/; the old file goes once they are
+    // written. False without the old file, or when it could not be converted.
+    bool migrateUSB();
 
 private:
     explicit DataMigrator(QObject *parent = nullptr);

@@ -4,7 +4,7 @@
 #include "datamanagerbase.h"
 #include "datamigrator.h"
 #include "system/platform.h"
-#include "system/resourcemanager.h"
+#include "resourcemanager.h"
 
 InstrumentConsoleHost::InstrumentConsoleHost(DataManagerBase *dm, ResourceManager *rm, TitrationController *tc)
     : m_dm(dm)

@@ -5,7 +5,7 @@
 #include "models/setupmodel.h"
 #include "models/sysinfomodel.h"
 #include "system/platform.h"
-#include "system/resourcemanager.h"
+#include "resourcemanager.h"
 
 #include <QFileInfo>
 

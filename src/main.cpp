@@ -34,7 +34,9 @@
 #include "system/languageselector.h"
 #include "system/networkdiscovery.h"
 #include "system/platform.h"
-#include "system/resourcemanager.h"
+#include "system/usb.h"
+#include "system/usbhandler.h"
+#include "resourcemanager.h"
 #include "uidriver.h"
 #include "titrationcontrollerbase.h"
 
@@ -119,6 +121,10 @@ int main(int argc, char *argv[])
     QObject::connect(dm->setupModel(), &SetupModel::valueChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
     rm->refreshIpAddress();
     discovery->updateJSONDiscoveryFile();
+    rm->setMethodList(dm->methodModel());
+    // Methods kept over a factory reset come back once, and their files go.
+    QObject::connect(rm, &ResourceManager::methodsRestored, dm, &DataManagerBase::getMethodsFromDB);
+    rm->restoreMethods();
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     // The remote command port: watches for "/dev/ttyMFG"; an attached host has the slave's line.
     auto *consoleHost = new InstrumentConsoleHost(dm, rm);
@@ -149,7 +155,10 @@ int main(int argc, char *argv[])
     auto *measurementTemp = new MeasurementModel();
     engine.rootContext()->setContextProperty(QStringLiteral("measurementTemp"), measurementTemp);
     engine.rootContext()->setContextProperty(QStringLiteral("calibrationCycleModel"), dm->calibrationCycleModel());
-    engine.rootContext()->setContextProperty(QStringLiteral("usbHandler"), rm->usb);
+    auto *usbHandler = new UsbHandler();
+    QObject::connect(rm->usb, &USB::usbDiskAttached, usbHandler, &UsbHandler::onDevInserted);
+    QObject::connect(rm->usb, &USB::usbDiskDetached, usbHandler, &UsbHandler::onDevRemoved);
+    engine.rootContext()->setContextProperty(QStringLiteral("usbHandler"), usbHandler);
 
     // The log models the screens save with.
     auto *measurementLogModel = new MeasurementLogModel();
@@ -205,12 +214,14 @@ int main(int argc, char *argv[])
         connectToRoot(root, calibrationLogModel, SIGNAL(notificationSignal(QVariant)), notification);
         connectToRoot(root, measurementLogModel, SIGNAL(notificationSignal(QVariant)), notification);
         connectToRoot(root, measurementLogModel, SIGNAL(logSaved()), "logSaved()");
-        connectToRoot(root, rm->usb, SIGNAL(usbToggle()), "usbStatusChanged()");
+        connectToRoot(root, rm, SIGNAL(usbIsReadyChanged()), "usbStatusChanged()");
+        connectToRoot(root, rm, SIGNAL(usbMessage(QVariant, QVariant)), "showMessage(QVariant,QVariant)");
         // A database file that could not be used: the session stores nothing.
         if (!DatabaseStartup::message().isEmpty())
             QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QStringLiteral("Database")),
                                       Q_ARG(QVariant, DatabaseStartup::message()));
     }
+    // A stick already there at start counts as just attached.
     rm->usb->usbDevChanged();
 
     dm->updateProdType(QStringLiteral("All-in-one"));

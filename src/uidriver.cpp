@@ -3,6 +3,7 @@
 #include "reports/logmanager.h"
 #include "system/platform.h"
 #include "uigesture.h"
+#include "uidriverusb.h"
 #include "uiscene.h"
 
 #include <QDebug>
@@ -197,6 +198,14 @@ void UiDriver::execute(const QString &line, Reply reply)
             p.argument = p.argument.left(cut).trimmed();
         }
     }
+    if (UiDriverUsb::isUsbCommand(p.command)) {
+        QString error;
+        if (!UiDriverUsb::plug(p.argument, &error)) {
+            p.reply(false, error);
+            return;
+        }
+        p.timeoutMs = UiDriverUsb::SettleWaitMs;
+    }
     p.argument = unquoted(p.argument);
     if (!m_window) {
         p.reply(false, QStringLiteral("the window is not up"));
@@ -313,6 +322,12 @@ bool UiDriver::attempt(const Pending &p, bool last)
                                .arg(arg, p.timeoutMs ? QStringLiteral(" after %1 s").arg(p.timeoutMs / 1000.0) : QString(),
                                     shownList(scene)));
         return last;
+    }
+    if (UiDriverUsb::isUsbCommand(p.command)) {
+        const bool settled = UiDriverUsb::settled(arg);
+        if (settled || last)
+            p.reply(settled, settled ? QString() : QStringLiteral("rm.usbIsReady did not follow \"usb %1\"").arg(arg));
+        return settled || last;
     }
     if (p.command == QLatin1String("absent")) {
         const auto texts = scene.shownTexts();

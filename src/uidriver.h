@@ -21,7 +21,8 @@ class QQuickWindow;
 // line: {"ok":true,"text":"..."}). The commands it runs itself:
 //   tap TEXT | tap #NAME, type TEXT, wait TEXT [SECONDS], expect TEXT,
 //   absent TEXT, texts, shot FILE, nowarnings, hold TEXT|#NAME SECONDS,
-//   swipe #NAME up|down|left|right [STEPS]
+//   swipe #NAME up|down|left|right [STEPS],
+//   usb in [FOLDER], usb out
 // The client (vantor-cli ui) keeps sleep and beaker for itself. Each command
 // and its answer is kept in a cyclic log file of the sandbox.
 class UiDriver : public QObject

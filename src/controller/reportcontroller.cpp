@@ -1,8 +1,17 @@
 #include "controller/reportcontroller.h"
 
-#include <QDebug>
+#include "system/screenshotfolder.h"
+#include "system/usbdisk.h"
 
-void ReportController::handleScreenShotImage()
+#include <QDebug>
+#include <QImage>
+#include <QQuickWindow>
+
+bool ReportController::handleScreenShotImage()
 {
-    qDebug() << "ReportController: screenshots go to a USB disk, and none is watched yet";
+    auto *window = qobject_cast<QQuickWindow *>(m_window.data());
+    QString error;
+    const QString file = ScreenshotFolder::save(window ? window->grabWindow() : QImage(), USBDisk::instance(), &error);
+    qDebug() << "ReportController: screenshot" << (file.isEmpty() ? error : file);
+    return !file.isEmpty();
 }

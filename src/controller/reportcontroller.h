@@ -17,8 +17,9 @@ public:
     QObject *capturingWindow() const { return m_window; }
 
 public slots:
-    // The screens call this only when a USB disk is ready.
-    void handleScreenShotImage();
+    // The screen into the USB disk's screenshot folder; false when it could
+    // not be saved (no disk, the disk went away, a failed write).
+    bool handleScreenShotImage();
 
 private:
     QPointer<QObject> m_window;

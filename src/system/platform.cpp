@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QProcess>
+#include <QSet>
+#include <QStorageInfo>
 
 namespace {
 
@@ -15,6 +17,7 @@ struct HostState {
     QString root;
     QStringList recorded;
     QHash<QString, Platform::Result> simulated;
+    QSet<QString> mounts;
 };
 
 HostState &host()
@@ -28,6 +31,24 @@ HostState &host()
                                                         : QString::fromLocal8Bit(env)).absolutePath());
     }
     return state;
+}
+
+// The mount table of the host profile: what the simulated mount and umount did.
+void simulateMount(const QString &program, const QStringList &arguments, Platform::Result *result)
+{
+    QSet<QString> &mounts = host().mounts;
+    if (program == QLatin1String("mount") && arguments.size() >= 2 && result->exitCode == 0) {
+        const QString point = QDir::cleanPath(arguments.last());
+        mounts.insert(point);
+        QFile::setPermissions(point, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner
+                                         | QFileDevice::ReadGroup | QFileDevice::ExeGroup | QFileDevice::ReadOther
+                                         | QFileDevice::ExeOther);
+    } else if (program == QLatin1String("umount") && arguments.size() == 1 && result->exitCode == 0) {
+        if (!mounts.remove(QDir::cleanPath(arguments.first()))) {
+            result->exitCode = 32;
+            result->standardError = "umount: " + arguments.first().toUtf8() + ": not mounted.";
+        }
+    }
 }
 
 QString commandLine(const QString &program, const QStringList &arguments)
@@ -87,7 +108,8 @@ void Platform::prepareSandbox()
 {
     if (isTarget())
         return;
-    for (const char *dir : {"/var/Kestrum/log", "/dev", "/media/usb", "/opt/www", "/sys/class/pwm/pwmchip0"})
+    // /dev/bus/usb/002 is the bus of the device port while no host computer is attached.
+    for (const char *dir : {"/var/Kestrum/log", "/dev/bus/usb/002", "/media/usb", "/opt/www", "/sys/class/pwm/pwmchip0"})
         QDir().mkpath(path(QString::fromLatin1(dir)));
 }
 
@@ -97,6 +119,19 @@ QString Platform::path(const QString &targetPath)
         return targetPath;
     // Keep a trailing "/" of the target path: callers build names on it.
     return host().root + targetPath;
+}
+
+bool Platform::isWritableMount(const QString &mountPoint)
+{
+    const QString point = QDir::cleanPath(mountPoint);
+    if (!isTarget())
+        return host().mounts.contains(point) && QFileInfo(point).isDir();
+    const auto volumes = QStorageInfo::mountedVolumes();
+    for (const QStorageInfo &volume : volumes) {
+        if (QDir::cleanPath(volume.rootPath()) == point && volume.isValid() && volume.isReady() && !volume.isReadOnly())
+            return true;
+    }
+    return false;
 }
 
 QString Platform::bootId()
@@ -123,6 +158,7 @@ Platform::Result Platform::run(const QString &program, const QStringList &argume
         Result result = host().simulated.value(program, Result{true, true, 0, {}, {}});
         result.started = true;
         result.simulated = true;
+        simulateMount(program, arguments, &result);
         return result;
     }
     Result result;

@@ -56,6 +56,13 @@ public:
     // Host profile: the answer a simulated program gives (default: exit 0, no output).
     static void setSimulatedResult(const QString &program, const Result &result);
 
+    // A volume is mounted at mountPoint, valid, ready and writable. On the
+    // target the system's mount table is read; on a host the mounts it
+    // simulated: a simulated `mount DEVICE POINT` that answers 0 mounts the
+    // folder POINT (and makes it writable, as the stick's own root is), a
+    // simulated `umount POINT` takes it off or answers "not mounted".
+    static bool isWritableMount(const QString &mountPoint);
+
     // The kernel's id of the current boot (read in both profiles: reading it
     // changes nothing). Empty when it can't be read.
     static QString bootId();

@@ -1,7 +1,7 @@
 # Tests of the run controller that use the virtual instrument's chemistry,
 # and those that start the console runner or the instrument, link their
 # libraries and need the programs built first.
-foreach(t integration_titrationrun unit_titrationcontroller unit_discoveryreply)
+foreach(t integration_titrationrun unit_titrationcontroller unit_discoveryreply integration_transfercommand)
   if(TARGET ${t})
     target_link_libraries(${t} PRIVATE vantorcli)
     add_dependencies(${t} vantor-cli virtual-instrument)
@@ -21,8 +21,9 @@ if(NOT KESTRUM_ASAN)
     ${asan_dir}/controller/algorithms/*.cpp
     ${asan_dir}/controller/algorithms/maths/*.cpp
     ${asan_dir}/interfaces/*.cpp)
-  # The meter controller leans on the data layer, which the copy leaves out.
-  list(FILTER ASAN_ENGINE_SOURCES EXCLUDE REGEX "/metercontroller\\.cpp$")
+  # The meter controller leans on the data layer, and the report controller
+  # on the screens and the USB disk, which the copy leaves out.
+  list(FILTER ASAN_ENGINE_SOURCES EXCLUDE REGEX "/(metercontroller|reportcontroller)\\.cpp$")
   add_executable(asan_titrationcontroller
     ${ASAN_ENGINE_SOURCES}
     ${asan_dir}/titrationcontrollerbase.cpp

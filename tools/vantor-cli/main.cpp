@@ -7,6 +7,7 @@
 #include "remoteportcommand.h"
 #include "titrateoptions.h"
 #include "titraterunner.h"
+#include "transfercommand.h"
 #include "uiscript.h"
 
 #include <QCoreApplication>
@@ -34,12 +35,14 @@ QString mainUsage()
                           "  titrate   run one titration against the virtual instrument, or replay a curve\n"
                           "  measure   read the electrode of a scenario until the reading is stable\n"
                           "  calibrate calibrate the electrode of a scenario with buffers or standards\n"
-                          "  method    install a method file, or list the stored methods\n"
+                          "  method    install a method file, list, export or import the stored methods\n"
+                          "  backup    copy the database file\n"
                           "  ui        run a UI driver script against the running application\n"
                           "  discover  list the instruments that answer on the network\n"
                           "  remote    send commands to an instrument's remote port\n\n")
-           + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n") + UiScript::usage()
-           + QStringLiteral("\n") + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage();
+           + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n")
+           + TransferCommand::usage() + QStringLiteral("\n") + UiScript::usage() + QStringLiteral("\n")
+           + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage();
 }
 
 } // namespace
@@ -74,6 +77,13 @@ int main(int argc, char *argv[])
         }
         g_verbose = meter.verbose();
         return meter.run(out, err);
+    }
+    if (TransferCommand::handles(command, args)) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << TransferCommand::usage();
+            return 0;
+        }
+        return TransferCommand::run(command, args, out, err);
     }
     if (command == QLatin1String("method")) {
         if (args.contains(QStringLiteral("--help"))) {

@@ -25,7 +25,7 @@ constexpr int AnswerMarginMs = 15000;
 
 int waitLimitMs(const QString &command, const QString &argument)
 {
-    if (command == QLatin1String("tap"))
+    if (command == QLatin1String("tap") || command == QLatin1String("usb"))
         return 5000;
     if (command == QLatin1String("hold") || command == QLatin1String("swipe")) {
         // The item may take 5 s to show; then the seconds held, or the drags.
@@ -61,6 +61,8 @@ QString UiScript::usage()
         "    texts                   every visible text, top to bottom, left to right\n"
         "    shot FILE               a PNG of the window\n"
         "    beaker JSON             to the virtual instrument\n"
+        "    usb in [FOLDER] | usb out  the files of FOLDER onto the USB disk, and the disk in;\n"
+        "                            the disk out (each waits until the application sees it)\n"
         "    nowarnings              fails on any warning of the QML engine since start\n"
         "    sleep SECONDS\n");
 }
@@ -208,6 +210,8 @@ int UiScript::run(QTextStream &out, QTextStream &err)
             QString toSend = line;
             if (command == QLatin1String("shot") && !argument.isEmpty())
                 toSend = QStringLiteral("shot ") + QFileInfo(argument).absoluteFilePath();
+            if (command == QLatin1String("usb") && argument.startsWith(QLatin1String("in ")))
+                toSend = QStringLiteral("usb in ") + QFileInfo(argument.mid(3).trimmed()).absoluteFilePath();
             ok = remote(&socket, toSend, waitLimitMs(command, argument), &seen);
             if (ok && command == QLatin1String("texts") && !seen.isEmpty())
                 out << seen << "\n";

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+class MethodModel;
+class USB;
+class USBDisk;
+class USBHost;
+
+// The system services the screens reach as "rm": the USB disk and the
+// host port, the method files and backups, the database copy, restart and
+// factory reset, the network address. Nothing here changes the machine
+// except through the platform layer.
+class ResourceManager : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool usbIsReady READ usbIsReady NOTIFY usbIsReadyChanged)
+    Q_PROPERTY(bool usbNoError READ usbNoError NOTIFY usbIsReadyChanged)
+    Q_PROPERTY(QString ipAddress READ ipAddress NOTIFY ipAddressChanged)
+    Q_PROPERTY(QString versionStatusQml READ versionStatusQml WRITE setVersionStatusQml NOTIFY versionStatusQmlChanged)
+    Q_PROPERTY(int versionProgressQml READ versionProgressQml NOTIFY versionProgressQmlChanged)
+public:
+    static ResourceManager *rmPtr();
+    explicit ResourceManager(QObject *parent = nullptr);
+
+    USB *usb;
+    USBDisk *usbDisk;
+
+    // The list that imports fill (the method list the screens show); not owned.
+    void setMethodList(MethodModel *list) { m_methodList = list; }
+
+    // The stick is there, has passed its arrival test and shows no error.
+    bool usbIsReady() const;
+    bool usbNoError() const;
+    QString ipAddress() const { return m_ipAddress; }
+    QString versionStatusQml() const { return m_versionStatus; }
+    void setVersionStatusQml(const QString &text);
+    int versionProgressQml() const { return 0; }
+
+    // Installs the methods kept over a factory reset, and empties their folder.
+    int restoreMethods();
+    // The folders of the method files, as this profile names them.
+    static QString methodsBackupFolder();
+    static QString usbMethodsFolder() { return QStringLiteral("/VantorPro/methods_backup/"); }
+
+    Q_INVOKABLE void restartApp();
+    // The factory reset: the database to JSON, the stored images removed,
+    // the database emptied. With keepMethods the methods are written to the
+    // backup folder first. Nothing is wiped when that fails, nor after a
+    // backupMethods() that failed (the screens may call the two in turn).
+    // True when the database was emptied.
+    Q_INVOKABLE bool wipeDatabase(bool keepMethods = false);
+
+public slots:
+    void refreshIpAddress();
+    void playNotify() {}
+    void playWarning() {}
+    // The beeper: a duration of 0 sounds until stopBeep().
+    void beep(int freq_hz, int duration_ms);
+    void stopBeep();
+    void updateSystem();
+    // The database file to /VantorPro/database_backup/ on the stick.
+    bool copyDatabaseToUsb();
+    // Every stored method to the stick: the number of files, 0 on failure.
+    int methodExport();
+    // The stick's method files into the staging tables and the list.
+    bool methodImport();
+    // Every stored method to the backup folder of a factory reset.
+    bool backupMethods();
+
+signals:
+    void usbIsReadyChanged();
+    void ipAddressChanged();
+    void versionStatusQmlChanged();
+    void versionProgressQmlChanged();
+    // What went wrong with a USB or backup job, for the screens' message box.
+    void usbMessage(const QVariant &title, const QVariant &text);
+    // restoreMethods installed methods: the method list is to be read anew.
+    void methodsRestored();
+
+private:
+    void report(const QString &title, const QStringList &lines);
+
+    USBHost *m_usbHost;
+    MethodModel *m_methodList = nullptr;
+    bool m_methodsBackupFailed = false;
+    QString m_ipAddress;
+    QString m_versionStatus;
+};
