@@ -89,3 +89,4 @@ private:
     int m_sizeWait = 0;
     int m_sizeAsked = -1; // the size the tries were for
 
+};
