@@ -68,15 +68,17 @@ bool DataMigrator::passesQuickCheck()
 
 bool DataMigrator::takesWrites()
 {
+    // A whole transaction rolled back: the file is not touched (a savepoint
+    // released after its rollback would still count as a write).
     m_writeError.clear();
     QSqlQuery probe;
-    bool ok = probe.exec(QStringLiteral("SAVEPOINT write_test"));
+    bool ok = probe.exec(QStringLiteral("BEGIN"));
     if (ok) {
         ok = probe.exec(QStringLiteral("CREATE TABLE write_test_kestrum (id integer)"));
         if (!ok)
             m_writeError = probe.lastError().text();
-        QSqlQuery(QStringLiteral("ROLLBACK TO write_test"));
-        QSqlQuery(QStringLiteral("RELEASE write_test"));
+        probe.finish();
+        QSqlQuery(QStringLiteral("ROLLBACK"));
     } else {
         m_writeError = probe.lastError().text();
     }
