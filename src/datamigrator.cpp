@@ -76,7 +76,7 @@ bool DataMigrator::takesWrites()
     if (ok) {
         ok = probe.exec(QStringLiteral("CREATE TABLE write_test_kestrum (id integer)"));
         if (!ok)
-            m_writeError = probe.lastError().text();
+            m_writeError = probe.lastError().databaseText().isEmpty() ? probe.lastError().text() : probe.lastError().databaseText();
         probe.finish();
         QSqlQuery(QStringLiteral("ROLLBACK"));
     } else {
