@@ -218,6 +218,17 @@ TEST_F(Startup, AReadOnlyFileIsReadAndNeverWritten)
     EXPECT_EQ(bytesOf(file()), before);
 }
 
+// The staging tables of an install killed in the middle go at the next start.
+TEST_F(Startup, AnInstallCutShortLeavesNoStagingTablesAfterTheNextStart)
+{
+    ASSERT_TRUE(makeGoodFile(file()));
+    ASSERT_TRUE(makeDatabase(file(), {QStringLiteral("CREATE TABLE methodSetupTable_temp AS SELECT * FROM methodSetupTable"),
+                                      QStringLiteral("CREATE TABLE titrationSetupTable_temp (id integer)")}));
+    EXPECT_EQ(DatabaseStartup::open(file()), DatabaseStartup::State::Ready);
+    EXPECT_EQ(DbUtil::scalar(QStringLiteral("SELECT count(*) FROM sqlite_master WHERE name LIKE '%_temp'")).toInt(), 0);
+    EXPECT_EQ(DbUtil::scalar(QStringLiteral("SELECT methodName FROM methodSetupTable WHERE id = 7")).toString(), QStringLiteral("Acidity"));
+}
+
 TEST_F(Startup, AFileThatCannotBeSavedIsLeftAsFound)
 {
     ASSERT_TRUE(makeDatabase(file(), {QStringLiteral("CREATE TABLE systemInfo (dbVersion text, timestamp DATETIME)"),
