@@ -152,10 +152,11 @@ void BuretteController::sizeHandshake()
         --m_sizeWait;
         return;
     }
-    if (m_sizeTries > kSizeTries)
-        return; // said once; quiet until something changes
     if (m_sizeTries == kSizeTries) {
+        // Said once; from now on a try now and then, for a slave that
+        // comes back, never a stream of them.
         ++m_sizeTries;
+        m_sizeWait = kQuietTicks;
         const QString text = QStringLiteral("The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.")
                                  .arg(configured)
                                  .arg(kSizeTries);
@@ -165,6 +166,10 @@ void BuretteController::sizeHandshake()
     }
     m_msp->setBuretteSize(configured);
     m_msp->getBuretteSize();
+    if (m_sizeTries > kSizeTries) {
+        m_sizeWait = kQuietTicks;
+        return;
+    }
     m_sizeWait = 1 << m_sizeTries; // 1, 2, 4, ... ticks before the next try
     ++m_sizeTries;
 }

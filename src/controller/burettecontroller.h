@@ -81,10 +81,12 @@ private:
     int m_tickCount = 0;
 
     // The burette-size handshake backs off: after each unanswered try it
-    // waits twice as many ticks (1, 2, 4, ...), and after `kSizeTries` it
-    // stops and says the slave does not answer. A new configured size, or
-    // the slave at last holding it, starts it afresh.
+    // waits twice as many ticks (1, 2, 4, ...); after `kSizeTries` it says
+    // once that the slave does not answer, and then tries only every
+    // `kQuietTicks` (a minute at 250 ms). A new configured size, or the
+    // slave at last holding it, starts it afresh.
     static constexpr int kSizeTries = 6;
+    static constexpr int kQuietTicks = 240;
     int m_sizeTries = 0;
     int m_sizeWait = 0;
     int m_sizeAsked = -1; // the size the tries were for

@@ -201,7 +201,7 @@ TEST(SerialTransport, BuretteSizeHandshakeBacksOffAndSaysTheSlaveDoesNotAnswer)
         const QByteArray size = "BSS " + QByteArray::number(configured) + "\r\n";
         QSignalSpy replies(&msp, &mspController::mirrorFromMSP);
         QList<int> triedAt;
-        for (int tick = 0; tick < 300; ++tick) {
+        for (int tick = 0; tick < 400; ++tick) {
             msp.msp->sendCommand(QStringLiteral("VG")); // marks the tick: a try ends with "BSG"
             bc.execute();
             QString last;
@@ -216,8 +216,10 @@ TEST(SerialTransport, BuretteSizeHandshakeBacksOffAndSaysTheSlaveDoesNotAnswer)
                 ASSERT_TRUE(waitUntil([&] { return replies.count() > before; }));
             }
         }
-        EXPECT_EQ(triedAt, (QList<int>{0, 2, 5, 10, 19, 36})) << "1, 2, 4, 8, 16 ticks between tries, six tries";
-        EXPECT_TRUE(waitUntil([&] { return slave.received.count(size) == 6; }));
+        // 1, 2, 4, 8, 16 ticks between six tries, the message 32 ticks after
+        // the last, then one try a minute (240 ticks).
+        EXPECT_EQ(triedAt, (QList<int>{0, 2, 5, 10, 19, 36, 310}));
+        EXPECT_TRUE(waitUntil([&] { return slave.received.count(size) == 7; }));
         ASSERT_EQ(said.count(), 1);
         EXPECT_TRUE(said.first().at(0).toString().contains(QStringLiteral("The slave does not answer")));
         // A slave that at last holds the size starts the handshake afresh.
