@@ -1,6 +1,7 @@
 #include "databasestartup.h"
 
 #include "datamigrator.h"
+#include "models/sysinfomodel.h"
 #include "system/platform.h"
 
 #include <QDebug>
@@ -14,6 +15,7 @@
 namespace {
 
 QString g_message;
+bool g_stores = true;
 
 const char *kInMemory = ":memory:";
 
@@ -24,6 +26,31 @@ QString DatabaseStartup::message()
     return g_message;
 }
 
+bool DatabaseStartup::stores()
+{
+    return g_stores;
+}
+
+QString DatabaseStartup::reasonFor(const QString &fileName)
+{
+    const DataMigrator *migrator = DataMigrator::dmPtr();
+    const QString version = migrator->foundVersion();
+    switch (migrator->outcome()) {
+    case DataMigrator::Outcome::Unreadable:
+        return QStringLiteral("The database file %1 cannot be read: it is damaged or not a database.").arg(fileName);
+    case DataMigrator::Outcome::LeftAsFound:
+        return QStringLiteral("The database file %1 could not be brought to this version, and its backup could not be written.").arg(fileName);
+    case DataMigrator::Outcome::Newer:
+        if (version == QLatin1String("UNKNOWN"))
+            return QStringLiteral("The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.").arg(fileName);
+        return QStringLiteral("The database file %1 belongs to a newer program (database version %2).").arg(fileName, version.left(30));
+    case DataMigrator::Outcome::ReadOnly:
+        return QStringLiteral("The database file %1 cannot be written (%2).").arg(fileName, migrator->writeError());
+    default:
+        return QString();
+    }
+}
+
 QString DatabaseStartup::restartMarkerPath()
 {
     return Platform::path(QStringLiteral("/var/Kestrum/migration-restart"));
@@ -32,6 +59,7 @@ QString DatabaseStartup::restartMarkerPath()
 DatabaseStartup::State DatabaseStartup::open(const QString &fileName)
 {
     g_message.clear();
+    g_stores = true;
     QSqlDatabase db = QSqlDatabase::contains(QLatin1String(QSqlDatabase::defaultConnection))
         ? QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false)
         : QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
@@ -46,10 +74,16 @@ DatabaseStartup::State DatabaseStartup::open(const QString &fileName)
     if (migrator->migrate())
         return State::Ready;
     switch (migrator->outcome()) {
+    case DataMigrator::Outcome::ReadOnly:
+        // A file of this version that takes no writes is still read: its
+        // methods and logs are on show, nothing new is stored.
+        if (migrator->foundVersion() == SysInfoModel::currentDatabaseVersion)
+            return readFileOnly(reasonFor(fileName));
+        return runReadOnly(reasonFor(fileName));
     case DataMigrator::Outcome::Unreadable:
-        return runReadOnly(QStringLiteral("The database file %1 cannot be read (it is damaged or not a database).").arg(fileName));
     case DataMigrator::Outcome::LeftAsFound:
-        return runReadOnly(QStringLiteral("The database file %1 could not be brought to this version, and its backup could not be written.").arg(fileName));
+    case DataMigrator::Outcome::Newer:
+        return runReadOnly(reasonFor(fileName));
     default:
         break;
     }
@@ -79,8 +113,17 @@ bool DatabaseStartup::restartOncePerBoot()
     return true;
 }
 
+DatabaseStartup::State DatabaseStartup::readFileOnly(const QString &why)
+{
+    g_message = why + QStringLiteral(" Its methods and logs can be read, but nothing done now is stored until it is serviced.");
+    g_stores = false;
+    qDebug().noquote() << "DatabaseStartup:" << g_message;
+    return State::ReadOnly;
+}
+
 DatabaseStartup::State DatabaseStartup::runReadOnly(const QString &why)
 {
+    g_stores = false;
     g_message = why + QStringLiteral(" Nothing is stored until it is serviced; the file and its backup are left untouched.");
     qDebug().noquote() << "DatabaseStartup:" << g_message;
     // The models still need tables to stand on: an empty one in memory.

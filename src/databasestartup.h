@@ -19,6 +19,12 @@ public:
 
     // Empty when the file is in use; otherwise what the screen shows.
     static QString message();
+    // Whether what this session does reaches the file (false on a file that
+    // is read only, or when the session runs in memory).
+    static bool stores();
+    // Why the last `DataMigrator::migrate` could not use `fileName`, in the
+    // words of the screen and the console; empty when it could.
+    static QString reasonFor(const QString &fileName);
 
     // The marker of a restart asked for in this boot.
     static QString restartMarkerPath();
@@ -26,4 +32,5 @@ public:
 private:
     static bool restartOncePerBoot();
     static State runReadOnly(const QString &why);
+    static State readFileOnly(const QString &why);
 };

@@ -397,9 +397,9 @@ void DataManagerBase::initiateCalibrationModelFromMeasure()
     meterRecords()->initiateFromMeasure();
 }
 
-void DataManagerBase::insertCalibrationValue()
+bool DataManagerBase::insertCalibrationValue()
 {
-    meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome());
+    return meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome());
 }
 
 void DataManagerBase::getCalibrationCycles()

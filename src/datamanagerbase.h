@@ -308,7 +308,9 @@ public:
 public slots:
     void initiateCalibrationModelFromTitration();
     void initiateCalibrationModelFromMeasure();
-    void insertCalibrationValue();
+    // Stores the calibration in hand with its points; false when it was
+    // not stored (the screens say so, its figures stay on show).
+    bool insertCalibrationValue();
     void getCalibrationCycles();
     void getCalibrationCyclesFromDb(int calId);
     void loadLastCalibration(const QString &probeType, const QString &iseType) override;

@@ -27,6 +27,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlError>
 #include <QSqlQuery>
 
 #include <algorithm>
@@ -49,18 +50,84 @@ QString DataMigrator::backupFilePath()
     return Platform::path(QStringLiteral("/var/Kestrum/database_backup.json"));
 }
 
+bool DataMigrator::isKnownVersion(const QString &version)
+{
+    return DbUtil::versionRange(QStringLiteral("1.1"), SysInfoModel::currentDatabaseVersion).contains(version);
+}
+
+bool DataMigrator::passesQuickCheck()
+{
+    QSqlQuery check;
+    if (!check.exec(QStringLiteral("PRAGMA quick_check"))) {
+        qDebug() << "DataMigrator: quick_check cannot run:" << check.lastError().text();
+        return false;
+    }
+    QStringList problems;
+    while (check.next() && problems.size() < 5)
+        problems << check.value(0).toString();
+    if (problems == QStringList{QStringLiteral("ok")})
+        return true;
+    qDebug() << "DataMigrator: quick_check found" << problems << check.lastError().text();
+    return false;
+}
+
+bool DataMigrator::takesWrites()
+{
+    // A whole transaction rolled back: the file is not touched (a savepoint
+    // released after its rollback would still count as a write).
+    m_writeError.clear();
+    QSqlQuery probe;
+    bool ok = probe.exec(QStringLiteral("BEGIN"));
+    if (ok) {
+        ok = probe.exec(QStringLiteral("CREATE TABLE write_test_kestrum (id integer)"));
+        if (!ok)
+            m_writeError = probe.lastError().databaseText().isEmpty() ? probe.lastError().text() : probe.lastError().databaseText();
+        probe.finish();
+        QSqlQuery(QStringLiteral("ROLLBACK"));
+    } else {
+        m_writeError = probe.lastError().text();
+    }
+    if (!ok)
+        qDebug() << "DataMigrator: the file takes no writes:" << m_writeError;
+    return ok;
+}
+
 bool DataMigrator::migrate()
 {
-    bool readable = true;
-    const QString version = SysInfoModel::readDbVersion(QString(), &readable);
-    qDebug() << "DataMigrator: database version" << version;
-    if (!readable) {
-        // Nothing is migrated, copied or emptied on the strength of a file
-        // that can't even be read.
+    m_foundVersion = QStringLiteral("UNKNOWN");
+    // Nothing is written, migrated, copied or emptied on the strength of a
+    // file that is damaged or can't even be read.
+    if (!passesQuickCheck()) {
         m_outcome = Outcome::Unreadable;
         return false;
     }
+    bool readable = true;
+    const QString version = SysInfoModel::readDbVersion(QString(), &readable);
+    m_foundVersion = version;
+    qDebug() << "DataMigrator: database version" << version;
+    if (!readable) {
+        m_outcome = Outcome::Unreadable;
+        return false;
+    }
+    // A file with tables but a version this program doesn't know (a newer
+    // program's, or none at all) is not ours to empty. Only a file without
+    // any table of its own is a first start.
+    const QStringList tables = DbUtil::tableNames();
+    const bool fresh = std::none_of(tables.cbegin(), tables.cend(),
+                                    [](const QString &t) { return !t.startsWith(QLatin1String("sqlite_")); });
+    if (!fresh && !isKnownVersion(version)) {
+        m_outcome = Outcome::Newer;
+        return false;
+    }
+    if (!takesWrites()) {
+        m_outcome = Outcome::ReadOnly;
+        return false;
+    }
     m_outcome = Outcome::Current;
+    // The one-file staging tables of an install that was cut short (a kill
+    // or a power loss) go now, not only with the next install.
+    if (!ImportExport().dropTables(QStringLiteral("_temp")))
+        qDebug() << "DataMigrator: staging tables left by an install could not be dropped";
     if (version == SysInfoModel::currentDatabaseVersion)
         return true;
 

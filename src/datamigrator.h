@@ -17,10 +17,18 @@ public:
         Current,     // the file is of this version
         Migrated,    // brought forward, everything kept that the steps keep
         Wiped,       // saved to JSON and emptied: the service restarts
-        Unreadable,  // not a database, or its version can't be read: untouched
+        Unreadable,  // damaged, not a database, or its version can't be read: untouched
         LeftAsFound, // could not be migrated nor saved: untouched
+        Newer,       // of a newer or an unknown version: untouched
+        ReadOnly,    // of this version, but it can't be written: read, never changed
     };
     Outcome outcome() const { return m_outcome; }
+    // The version the last `migrate` found ("UNKNOWN" when there was none).
+    QString foundVersion() const { return m_foundVersion; }
+    // The error of the write test when the outcome is `ReadOnly`.
+    QString writeError() const { return m_writeError; }
+    // Whether this program knows the schema version: 1.1 up to the current one.
+    static bool isKnownVersion(const QString &version);
 
     // True: safe to continue. False: the application must restart.
     bool migrate();
@@ -43,5 +51,13 @@ public slots:
 
 private:
     explicit DataMigrator(QObject *parent = nullptr);
+    // `PRAGMA quick_check` answers "ok": read only, so a damaged file is
+    // never written to.
+    static bool passesQuickCheck();
+    // A change that is rolled back at once: whether the file takes writes.
+    bool takesWrites();
+
     Outcome m_outcome = Outcome::Current;
+    QString m_foundVersion;
+    QString m_writeError;
 };

@@ -216,6 +216,10 @@ int main(int argc, char *argv[])
         connectToRoot(root, measurementLogModel, SIGNAL(logSaved()), "logSaved()");
         connectToRoot(root, rm, SIGNAL(usbIsReadyChanged()), "usbStatusChanged()");
         connectToRoot(root, rm, SIGNAL(usbMessage(QVariant, QVariant)), "showMessage(QVariant,QVariant)");
+        // A slave that does not take the burette's size: said on the screen.
+        QObject::connect(bc, &BuretteController::buretteErrorOccured, root, [root](const QString &text) {
+            QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QStringLiteral("Burette")), Q_ARG(QVariant, text));
+        });
         // A database file that could not be used: the session stores nothing.
         if (!DatabaseStartup::message().isEmpty())
             QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QStringLiteral("Database")),

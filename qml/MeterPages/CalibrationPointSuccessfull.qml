@@ -38,8 +38,8 @@ MainContentBackground {
 
     // Ends the calibration: an average slope out of limits is refused (the
     // shell shows why) and nothing is stored; otherwise the calibration, its
-    // points and its log entry are stored, and a one-point calibration goes
-    // to its slope first.
+    // points and its log entry are stored (or the screen says they were not),
+    // and a one-point calibration goes to its slope first.
     function done() {
         if (mainWindow.currentStack !== measureStack && mainWindow.currentStack !== methodStack && method.isNewTitrationProcessStarted)
             method.isChangeFromHome = true
@@ -52,8 +52,11 @@ MainContentBackground {
             stack.pop(stack.initialItem)
             return
         }
-        dm.insertCalibrationValue()
-        calibrationLogModel.saveLogValues(setup.isDatalogFullNotifOn, dm.calibrationModel)
+        if (dm.insertCalibrationValue())
+            calibrationLogModel.saveLogValues(setup.isDatalogFullNotifOn, dm.calibrationModel)
+        else
+            mainWindow.showMessage(qsTr("Not Saved") + ls.translatedText,
+                                   qsTr("The calibration could not be saved. Its figures are shown, and it is not kept after this session.") + ls.translatedText)
         stack.processRunning = false
         if (dm.calibrationcycles.length === 1 && stack.calibrationType() !== "Redox") {
             calibrationSlope.updateHeader()

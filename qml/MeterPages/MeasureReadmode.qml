@@ -101,7 +101,9 @@ MainContentBackground {
         }
         measurement.sampleIdValue = sampleIdValue
         measurementLogModel.measurementModel = measurement
-        measurementLogModel.saveLogValues(setup.isDatalogFullNotifOn)
+        if (!measurementLogModel.saveLogValues(setup.isDatalogFullNotifOn))
+            mainWindow.showMessage(qsTr("Not Saved") + ls.translatedText,
+                                   qsTr("The reading could not be saved.") + ls.translatedText)
         measurement.setMeasurementValues(measurement)
     }
 

@@ -236,8 +236,11 @@ Rectangle {
         else
             stored = dm.storeStandardisationRun(standardisationLogModel, method.isChangeFromHome, setup.isDatalogFullNotifOn)
         if (!stored) {
+            // A database that takes no writes will not take it later either.
             mainWindow.showMessage(qsTr("Not Saved") + ls.translatedText,
-                                   qsTr("The run could not be saved. Its cycles are kept; press Complete to try again.") + ls.translatedText)
+                                   (dm.databaseMessage.length > 0
+                                    ? qsTr("The run could not be saved: the database cannot be written. Its figures stay on show.")
+                                    : qsTr("The run could not be saved. Its cycles are kept; press Complete to try again.")) + ls.translatedText)
             return
         }
         if (isMka)

@@ -137,10 +137,41 @@ void BuretteController::sizeHandshake()
     mspInfoRecord info;
     m_msp->getInfo(info);
     const int configured = int(EngineData::get()->buretteSize());
-    if (configured != info.buretteSize) {
-        m_msp->setBuretteSize(configured);
-        m_msp->getBuretteSize();
+    if (configured == info.buretteSize) {
+        m_sizeTries = 0;
+        m_sizeWait = 0;
+        m_sizeAsked = -1;
+        return;
     }
+    if (configured != m_sizeAsked) {
+        m_sizeTries = 0;
+        m_sizeWait = 0;
+        m_sizeAsked = configured;
+    }
+    if (m_sizeWait > 0) {
+        --m_sizeWait;
+        return;
+    }
+    if (m_sizeTries == kSizeTries) {
+        // Said once; from now on a try now and then, for a slave that
+        // comes back, never a stream of them.
+        ++m_sizeTries;
+        m_sizeWait = kQuietTicks;
+        const QString text = QStringLiteral("The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.")
+                                 .arg(configured)
+                                 .arg(kSizeTries);
+        qDebug().noquote() << "BuretteController:" << text;
+        emit buretteErrorOccured(text);
+        return;
+    }
+    m_msp->setBuretteSize(configured);
+    m_msp->getBuretteSize();
+    if (m_sizeTries > kSizeTries) {
+        m_sizeWait = kQuietTicks;
+        return;
+    }
+    m_sizeWait = 1 << m_sizeTries; // 1, 2, 4, ... ticks before the next try
+    ++m_sizeTries;
 }
 
 // The first look at the dispense status falls at least one tick after the dose.

@@ -59,6 +59,7 @@ signals:
     void qmlDispenseWait();
     void qmlRinseCompleted();
     void backendDispenseCompleted();
+    // The slave did not take the burette's size after the bounded tries.
     void buretteErrorOccured(const QString &mes);
 
 private:
@@ -78,4 +79,16 @@ private:
     int m_flushState = 0;
     bool m_flushDone = false;
     int m_tickCount = 0;
+
+    // The burette-size handshake backs off: after each unanswered try it
+    // waits twice as many ticks (1, 2, 4, ...); after `kSizeTries` it says
+    // once that the slave does not answer, and then tries only every
+    // `kQuietTicks` (a minute at 250 ms). A new configured size, or the
+    // slave at last holding it, starts it afresh.
+    static constexpr int kSizeTries = 6;
+    static constexpr int kQuietTicks = 240;
+    int m_sizeTries = 0;
+    int m_sizeWait = 0;
+    int m_sizeAsked = -1; // the size the tries were for
+
 };

@@ -220,23 +220,31 @@ void mspDriver::parseProbeData(QStringList &words)
 
 void mspDriver::parseVersion(QStringList &words)
 {
-    QString w;
-    bool shortReply = false;
-    for (int i = 0; i < 3; ++i) {
-        if (takeWord(words, w))
-            copyCut(m_info.version, int(sizeof(m_info.version)), w);
-        else
-            shortReply = true;
+    // All seven words or none: a reply cut short, or words of another
+    // command (a command's token where the version or serial stands), would
+    // give the instrument a version and serial that are not the slave's. The
+    // version stays as it was, unknown until a whole reply comes.
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9._-]+$"));
+    static const char *const kCommands[] = {"MG", "SYSTEM", "BDS", "SSS", "SSG", "BLS", "BLG", "VS", "VG",
+                                            "BSS", "BSG", "BES", "BHS", "BBG", "STP", "SH", "REBOOT", "ERROR"};
+    QString w[7];
+    int got = 0;
+    while (got < 7 && takeWord(words, w[got]))
+        ++got;
+    bool whole = got == 7;
+    for (int i = 0; whole && i < 7; ++i) {
+        for (const char *c : kCommands)
+            whole = whole && w[i] != QLatin1String(c);
     }
-    for (int i = 0; i < 4; ++i) {
-        if (takeWord(words, w))
-            copyCut(m_info.serialNumber, 15, w);
-        else
-            shortReply = true;
-    }
-    m_info.serialNumber[15] = '\0';
-    if (shortReply)
+    whole = whole && plain.match(w[2]).hasMatch() && plain.match(w[6]).hasMatch();
+    if (!whole) {
         setLastError("UND");
+        qDebug() << "mspDriver: a version reply that is cut short or not one was refused:" << QStringList(w, w + got);
+        return;
+    }
+    copyCut(m_info.version, int(sizeof(m_info.version)), w[2]);
+    copyCut(m_info.serialNumber, 15, w[6]);
+    m_info.serialNumber[15] = '\0';
     m_info.newVersion = true;
     m_info.versionValid = true;
     m_connected = true;

@@ -55,30 +55,21 @@ int PhCalRecord::addPoint(float value, float mv, float celsius)
         working.temperature[0] = celsius;
         workingCount = 1;
     } else {
-        int same = -1;
-        for (int j = 0; j < workingCount && same < 0; ++j) {
-            if (std::fabs(value - working.value[j]) < kSameValue)
-                same = j;
+        // A buffer recognised a second time (the same value) is refused like
+        // any point too close to another: it never replaces the first
+        // reading under that buffer's label.
+        for (int j = 0; j < workingCount; ++j) {
+            if (std::fabs(mv - working.mv[j]) <= kMinSpacingMv || std::fabs(value - working.value[j]) <= kMinSpacingPh)
+                return PointTooClose;
         }
-        if (same >= 0) {
-            working.mv[same] = mv;
-            working.temperature[same] = celsius;
-            working.value[same] = value;
-        } else {
-            for (int j = 0; j < workingCount; ++j) {
-                if (std::fabs(mv - working.mv[j]) <= kMinSpacingMv
-                    || std::fabs(value - working.value[j]) <= kMinSpacingPh)
-                    return PointTooClose;
-            }
-            // The screens stop offering points at five; a sixth has no slot
-            // and is dropped, the five stay.
-            if (workingCount >= kMaxPoints)
-                return InProgress;
-            working.mv[workingCount] = mv;
-            working.value[workingCount] = value;
-            working.temperature[workingCount] = celsius;
-            ++workingCount;
-        }
+        // The screens stop offering points at five; a sixth has no slot
+        // and is dropped, the five stay.
+        if (workingCount >= kMaxPoints)
+            return InProgress;
+        working.mv[workingCount] = mv;
+        working.value[workingCount] = value;
+        working.temperature[workingCount] = celsius;
+        ++workingCount;
     }
     sortWorking();
     return InProgress;

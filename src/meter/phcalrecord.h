@@ -18,7 +18,6 @@ struct PhCalRecord
     static constexpr float kIdealSlope = -59.16f;        // mV per pH at 25 degrees
     static constexpr float kMinAverage = 80.0f;          // percent of the ideal slope
     static constexpr float kMaxAverage = 120.0f;
-    static constexpr float kSameValue = 0.0001f;         // a point that repeats a value replaces it
     static constexpr float kMinSpacingMv = 5.0f;         // closer points are refused
     static constexpr float kMinSpacingPh = 0.2f;
     static constexpr float kFlatSegment = 1e20f;         // slope of two points at one value

@@ -36,10 +36,16 @@ void DbTransaction::rollback()
 {
     if (!m_open)
         return;
-    // ROLLBACK TO keeps the savepoint on the stack; RELEASE then removes it,
-    // which for the outermost one ends the (now empty) transaction.
-    DbUtil::execText(QStringLiteral("ROLLBACK TO SAVEPOINT %1").arg(m_name));
-    DbUtil::execText(QStringLiteral("RELEASE SAVEPOINT %1").arg(m_name));
+    if (g_depth == 1) {
+        // The outermost unit ends the transaction with a plain ROLLBACK: a
+        // RELEASE after ROLLBACK TO would commit the pages it restored, and
+        // a file that nothing changed would still be written.
+        DbUtil::execText(QStringLiteral("ROLLBACK"));
+    } else {
+        // ROLLBACK TO keeps the savepoint on the stack; RELEASE removes it.
+        DbUtil::execText(QStringLiteral("ROLLBACK TO SAVEPOINT %1").arg(m_name));
+        DbUtil::execText(QStringLiteral("RELEASE SAVEPOINT %1").arg(m_name));
+    }
     m_open = false;
     --g_depth;
 }

@@ -54,12 +54,12 @@ void MeasurementLogModel::setId(int id)
     emit valueChanged();
 }
 
-void MeasurementLogModel::saveLogValues()
+bool MeasurementLogModel::saveLogValues()
 {
-    saveLogValues(DataLogSetting::isDatalogFullNotifOn());
+    return saveLogValues(DataLogSetting::isDatalogFullNotifOn());
 }
 
-void MeasurementLogModel::saveLogValues(bool isDataLogNotifOn)
+bool MeasurementLogModel::saveLogValues(bool isDataLogNotifOn)
 {
     createTable();
     const QVariantMap &m = measurementValues();
@@ -75,8 +75,9 @@ void MeasurementLogModel::saveLogValues(bool isDataLogNotifOn)
                                 {QStringLiteral("logCreatedAt"), now},
                                 {QStringLiteral("logUpdatedAt"), now}});
     const int id = LogSnapshot::insert(layout(), tableName, rows, "measurementLog Save err");
-    if (id > 0)
-        setId(id);
+    if (id <= 0)
+        return false; // not stored: never reported as saved
+    setId(id);
 
     const LogCapacityRule &rule = LogCapacity::measurement;
     const int n = LogCapacity::count(rule.table);
@@ -86,6 +87,7 @@ void MeasurementLogModel::saveLogValues(bool isDataLogNotifOn)
     LogCapacity::trim(rule, n, &MeasurementLogModel::pruneOldest);
     if (!warn)
         emit logSaved();
+    return true;
 }
 
 bool MeasurementLogModel::pruneOldest()

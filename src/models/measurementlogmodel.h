@@ -52,9 +52,9 @@ public:
     static QList<MeasurementLogModel *> newestFirst(QObject *parent);
 
 public slots:
-    void saveLogValues(bool isDataLogNotifOn);
+    bool saveLogValues(bool isDataLogNotifOn);
     // With the log-full warning switch as the settings serve it.
-    void saveLogValues();
+    bool saveLogValues();
     bool deleteRow(int id);
 
 signals:

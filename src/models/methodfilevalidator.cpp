@@ -303,6 +303,12 @@ QString crossProblem(const QVariantMap rows[PartCount], double buretteMl)
     } doses[] = {{TitrantPart, "preDoseTitrantVolume", "maxTotalVolume"},
                  {TitrationPart, "preDoseTitrantVolume", "maxTotalTitrantVolume"}};
     for (const auto &d : doses) {
+        // A run stops at its maximum volume: none at all, or more than the
+        // burette can give, leaves nothing a run can do.
+        const double max = num(d.part, d.max);
+        if (!(max > 0.0) || max > buretteMl)
+            return field(d.part, d.max) + QStringLiteral(": %1 mL is not above 0 and at most %2 mL (the burette's size)")
+                                              .arg(number(max), number(buretteMl));
         const double preDose = num(d.part, d.preDose);
         if (preDose > buretteMl)
             return field(d.part, d.preDose) + QStringLiteral(": %1 mL is more than the burette holds (%2 mL)")
@@ -318,8 +324,24 @@ QString crossProblem(const QVariantMap rows[PartCount], double buretteMl)
         return field(TitrationPart, "noOfEndPoints") + QStringLiteral(": 3 end points need \"Preset End Pt.\"");
     if (num(TitrantPart, "noOfEndPoints") > 1 && text(TitrantPart, "standTechnique") == QLatin1String("Preset End Pt."))
         return field(TitrantPart, "noOfEndPoints") + QStringLiteral(": \"Preset End Pt.\" standardises at one end point");
-    if (text(TitrationPart, "sampleAmount").startsWith(QLatin1String("Fixed")) && !(num(TitrationPart, "sampleAmountValue") > 0.0))
-        return field(TitrationPart, "sampleAmountValue") + QStringLiteral(": a fixed sample amount must be above 0");
+    // The result divides by the sample amount; a variable one is asked for
+    // at each run, and what is stored is its first value.
+    if (!(num(TitrationPart, "sampleAmountValue") > 0.0))
+        return field(TitrationPart, "sampleAmountValue")
+            + QStringLiteral(": %1 is not above 0 and at most 1000 (the sample amount of \"%2\")")
+                  .arg(number(num(TitrationPart, "sampleAmountValue")), text(TitrationPart, "sampleAmount"));
+    // Each minimum at most its maximum, in both process controls.
+    const struct {
+        const char *min;
+        const char *max;
+    } pairs[] = {{"deltaVmin", "deltaVmax"}, {"tMin", "tMax"}};
+    for (Part p : {TitrantPart, TitrationPart}) {
+        for (const auto &pair : pairs) {
+            if (num(p, pair.min) > num(p, pair.max))
+                return field(p, pair.min) + QStringLiteral(": %1 is not at most %2 (%3)")
+                                                .arg(number(num(p, pair.min)), number(num(p, pair.max)), QLatin1String(pair.max));
+        }
+    }
     return QString();
 }
 
@@ -439,11 +461,16 @@ QString MethodFileValidator::checkFile(const QString &fileName) const
         return QStringLiteral("is not a method file: it holds no JSON object");
 
     const QJsonObject root = doc.object();
-    // Keys name tables and columns: never anything but plain names. A column
-    // that this version doesn't have (a newer file) is left out on import.
+    // Keys name the tables of a method file and nothing else: a key that is
+    // not one of them is named, never ignored. A column that this version
+    // doesn't have (a newer file) is left out on import.
+    static const QStringList kFileTables{QLatin1String(kTables[MethodPart]), QLatin1String(kTables[ElectrodePart]),
+                                         QLatin1String(kTables[TitrantPart]), QLatin1String(kTables[TitrationPart]),
+                                         QStringLiteral("systemInfo")};
     for (const QString &key : root.keys()) {
-        if (!DbUtil::isPlainIdentifier(key))
-            return QStringLiteral("is not a method file: \"%1\" is not a table name").arg(key.left(40));
+        if (!kFileTables.contains(key))
+            return QStringLiteral("is not a method file: \"%1\" is not one of its tables (%2)")
+                .arg(key.left(40), kFileTables.join(QStringLiteral(", ")));
     }
     QVariantMap rows[PartCount];
     int methodId = 0;

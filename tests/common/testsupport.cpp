@@ -52,14 +52,38 @@ bool writeTextFile(const QString &path, const QString &text)
     return f.write(text.toUtf8()) >= 0;
 }
 
-QString runVantorCli(const QStringList &args, int *exitCode, const QString &dir)
+namespace {
+
+QString runProgram(const QString &program, const QStringList &args, int *exitCode, const QString &dir)
 {
     QProcess p;
     if (!dir.isEmpty())
         p.setWorkingDirectory(dir);
-    p.start(QStringLiteral(KESTRUM_BIN_DIR "/vantor-cli"), args);
+    p.start(program, args);
+    if (!p.waitForStarted(10000)) {
+        *exitCode = -1;
+        return QStringLiteral("%1: cannot be started").arg(program);
+    }
     if (!p.waitForFinished(300000))
         p.kill();
     *exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
     return QString::fromLocal8Bit(p.readAllStandardOutput() + p.readAllStandardError());
+}
+
+} // namespace
+
+QString runVantorCli(const QStringList &args, int *exitCode, const QString &dir)
+{
+    return runProgram(QStringLiteral(KESTRUM_BIN_DIR "/vantor-cli"), args, exitCode, dir);
+}
+
+QString runVantorCliReadOnly(const QString &file, const QStringList &args, int *exitCode)
+{
+    const QString mountReadOnly = QStringLiteral(
+        "mount --bind \"$1\" \"$1\" && mount -o remount,bind,ro \"$1\" || { echo 'unshare: no read-only mount'; exit 99; }; "
+        "shift; exec \"$@\"");
+    return runProgram(QStringLiteral("unshare"),
+                      QStringList{QStringLiteral("-rm"), QStringLiteral("sh"), QStringLiteral("-c"), mountReadOnly,
+                                  QStringLiteral("sh"), file, QStringLiteral(KESTRUM_BIN_DIR "/vantor-cli")} + args,
+                      exitCode, QString());
 }

@@ -31,6 +31,9 @@ bool waitUntil(const std::function<bool()> &pred, int timeoutMs = 5000);
 // Runs build/bin/vantor-cli with `args` (from `dir` if given) and answers
 // its standard output and error; *exitCode is -1 if it crashed or hung.
 QString runVantorCli(const QStringList &args, int *exitCode, const QString &dir = QString());
+// The same with `file` mounted read only (a mount namespace of its own, as
+// root too); the answer starts "unshare:" where no namespace can be made.
+QString runVantorCliReadOnly(const QString &file, const QStringList &args, int *exitCode);
 
 // Reads a whole text file ("" when missing).
 QString readTextFile(const QString &path);

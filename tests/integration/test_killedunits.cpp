@@ -131,10 +131,11 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         // An older version: migrated in place.
         "",
-        // A version this software doesn't know: copied to JSON and emptied.
-        "UPDATE systemInfo SET dbVersion='2.0';"),
+        // An older version whose step fails (its meter columns are there
+        // already): copied to JSON and emptied.
+        "ALTER TABLE MeasurementTable ADD COLUMN calLogId integer;"),
     [](const ::testing::TestParamInfo<const char *> &info) {
-        return std::string(info.index == 0 ? "OlderVersion" : "UnknownVersion");
+        return std::string(info.index == 0 ? "OlderVersion" : "FailedStep");
     });
 
 // A full log with its runs, cycles, calibrations, points and reports.

@@ -11,9 +11,11 @@
 #include "models/measurementmodel.h"
 #include "testdatabase.h"
 #include "testdatalayer.h"
+#include "logrecords.h"
 #include "testsupport.h"
 #include "virtualinstrumentprocess.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QTemporaryDir>
@@ -300,6 +302,50 @@ TEST(MeterCommands, CalibrateThreeBuffersThenMeasureBufferSeven)
         }
     }
     QSqlDatabase::removeDatabase(QStringLiteral("meter"));
+    const QString database = sandbox + QStringLiteral("/var/KestrumDB");
+    const QString calibrations = QStringLiteral("SELECT count(*) FROM calibrationTable");
+
+    // A buffer recognised twice is refused as the screens refuse it, and
+    // nothing of that calibration is stored.
+    for (const char *buffers : {"4.01,4.01", "4.01,4.05"}) {
+        out = runVantorCli({QStringLiteral("calibrate"), QStringLiteral("--scenario"), file, QStringLiteral("--buffers"),
+                            QLatin1String(buffers), QStringLiteral("--sandbox"), sandbox},
+                           &code);
+        EXPECT_EQ(code, 1) << out.toStdString();
+        EXPECT_TRUE(out.contains(QStringLiteral("Point 2 refused: the same buffer as another point"))) << out.toStdString();
+        EXPECT_EQ(LogRecords::sqlite(database, calibrations), QStringLiteral("1")) << buffers;
+    }
+
+    // On a file that takes no writes: the figures, the reason, status 2,
+    // and the file byte for byte as it was.
+    auto bytesOf = [&] {
+        QFile f(database);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    };
+    const QByteArray bytesBefore = bytesOf();
+    const QString before = LogRecords::sqlite(database, QStringLiteral("SELECT group_concat(id) FROM calibrationTable"));
+    const struct {
+        QStringList args;
+        const char *figure;
+        const char *notStored;
+    } readOnly[] = {
+        {{QStringLiteral("calibrate"), QStringLiteral("--scenario"), file, QStringLiteral("--buffers"), QStringLiteral("4.01,7.00")},
+         "\nSlope: ", "the calibration was not stored"},
+        {{QStringLiteral("measure"), QStringLiteral("--scenario"), file}, "Value: ", "the reading was not stored"},
+        {{QStringLiteral("titrate"), QStringLiteral("--scenario"), QStringLiteral(KESTRUM_SOURCE_DIR "/tools/virtual-instrument/scenarios/acetic-acid-10ml.json")},
+         "\nResult: ", "the run was not stored"},
+    };
+    for (const auto &c : readOnly) {
+        out = runVantorCliReadOnly(database, c.args + QStringList{QStringLiteral("--sandbox"), sandbox}, &code);
+        if (out.startsWith(QLatin1String("unshare:")))
+            GTEST_SKIP() << "no mount namespace here: " << out.toStdString();
+        EXPECT_EQ(code, 2) << out.toStdString();
+        EXPECT_TRUE(out.contains(QStringLiteral("cannot be written"))) << out.toStdString();
+        EXPECT_TRUE(out.contains(QLatin1String(c.figure))) << out.toStdString();
+        EXPECT_TRUE(out.contains(QLatin1String(c.notStored))) << out.toStdString();
+    }
+    EXPECT_EQ(bytesOf(), bytesBefore);
+    EXPECT_EQ(LogRecords::sqlite(database, QStringLiteral("SELECT group_concat(id) FROM calibrationTable")), before);
 
     const QString flat = box.filePath(QStringLiteral("flat.json"));
     writeTextFile(flat, scenario(25.0, 7.00).replace(QStringLiteral("\"slope_pct\":97"), QStringLiteral("\"slope_pct\":75")));

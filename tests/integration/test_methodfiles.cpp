@@ -266,7 +266,26 @@ INSTANTIATE_TEST_SUITE_P(
                                  both(set("titrantSetupTable", "methodId", 99999), set("titrationSetupTable", "methodId", 99999))))),
                 "method part, id: 99999 is the id of the working method"},
         BadFile{"IdZero", edited(set("methodSetupTable", "id", 0)), "method part, id: 0 is not a method id"},
-        BadFile{"LibraryFull", edited([](QJsonObject &) {}), "could not be installed: Method log is full", true}),
+        BadFile{"LibraryFull", edited([](QJsonObject &) {}), "could not be installed: Method log is full", true},
+        // Values no run can use, with the field, the value and what is allowed.
+        BadFile{"MaxVolumeZero", edited(set("titrationSetupTable", "maxTotalTitrantVolume", "0")),
+                "titration part, maxTotalTitrantVolume: 0 mL is not above 0 and at most 20 mL (the burette's size)"},
+        BadFile{"MaxVolumeAboveTheBurette", edited(set("titrationSetupTable", "maxTotalTitrantVolume", "25")),
+                "titration part, maxTotalTitrantVolume: 25 mL is not above 0 and at most 20 mL"},
+        BadFile{"StandardisationMaxVolumeZero", edited(set("titrantSetupTable", "maxTotalVolume", 0)),
+                "titrant part, maxTotalVolume: 0 mL is not above 0 and at most 20 mL"},
+        BadFile{"VariableSampleAmountZero",
+                edited(both(set("titrationSetupTable", "sampleAmount", "Variable Volume"), set("titrationSetupTable", "sampleAmountValue", "0"))),
+                "titration part, sampleAmountValue: 0 is not above 0 and at most 1000 (the sample amount of \"Variable Volume\")"},
+        BadFile{"MinimumDoseAboveTheMaximum",
+                edited(both(set("titrationSetupTable", "deltaVmin", "0.5"), set("titrationSetupTable", "deltaVmax", "0.1"))),
+                "titration part, deltaVmin: 0.5 is not at most 0.1 (deltaVmax)"},
+        BadFile{"MinimumWaitAboveTheMaximum", edited(both(set("titrantSetupTable", "tMin", 10), set("titrantSetupTable", "tMax", 5))),
+                "titrant part, tMin: 10 is not at most 5 (tMax)"},
+        BadFile{"UnknownTopLevelKey", edited([](QJsonObject &doc) { doc.insert(QStringLiteral("reportSetupTable"), QJsonObject()); }),
+                "\"reportSetupTable\" is not one of its tables (methodSetupTable, electrodeSetupTable"},
+        BadFile{"TheConsolesScratchName", edited(set("methodSetupTable", "methodName", "(vantor-cli)")),
+                "method part, methodName: \"(vantor-cli)\" is not a name"}),
     [](const ::testing::TestParamInfo<BadFile> &info) { return std::string(info.param.name); });
 
 } // namespace

@@ -1,6 +1,7 @@
 // The serial transport and the slave controller on a real pseudo-terminal,
 // with the test playing the slave byte by byte.
 
+#include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
 #include "controller/serialport.h"
 #include "pseudoterminal.h"
@@ -37,6 +38,13 @@ TEST(SerialTransport, AsksForTheVersionAndStoresIt)
     msp.setReadInterval(5);
     ASSERT_TRUE(msp.portIsOpen());
     ASSERT_TRUE(waitUntil([&] { return slave.received.count("SYSTEM\r\n") == 2; }));
+    // A reply cut short leaves the version unknown; the whole one is taken.
+    const QString before = link.dm.engine()->getMspVersion();
+    QSignalSpy mirror(&msp, &mspController::mirrorFromMSP);
+    slave.pty.write("SYSTEM VANTOR MSP430\r\n");
+    ASSERT_TRUE(waitUntil([&] { return mirror.count() == 1; }));
+    EXPECT_EQ(link.dm.engine()->getMspVersion(), before);
+    EXPECT_NE(link.dm.getMfgSerialNum(), QStringLiteral("0"));
     slave.pty.write("SYSTEM VANTOR MSP430 1.09 BUILD 0 SN VP400-7\r\n");
     ASSERT_TRUE(waitUntil([&] { return link.dm.engine()->getMspVersion() == QLatin1String("1.09"); }));
     EXPECT_EQ(link.dm.getMfgSerialNum(), QStringLiteral("VP400-7"));
@@ -171,4 +179,57 @@ TEST(SerialTransport, SurvivesTheDeviceGoingAndComingBack)
     slave->pty.write("SYSTEM a b 3.00 c d e SN9\r");
     ASSERT_TRUE(waitUntil([&] { return link.dm.engine()->getMspVersion() == QLatin1String("3.00"); }));
     ASSERT_TRUE(waitUntil([&] { return slave->got("MG\r\n"); }));
+}
+
+// The burette-size handshake with a slave that stays silent, or answers BSG
+// with garbage: a bounded number of tries, each wait twice the one before,
+// then one message that the slave does not answer. Ticks are the test's.
+TEST(SerialTransport, BuretteSizeHandshakeBacksOffAndSaysTheSlaveDoesNotAnswer)
+{
+    for (const char *answer : {"", "BSG\r", "BSG twenty\r", "BSG 99999999999999\r", "BSG ERROR OOR\r"}) {
+        SCOPED_TRACE(answer);
+        Link link;
+        FakeSlave slave;
+        ASSERT_TRUE(slave.open());
+        mspController msp(Platform::path(QStringLiteral("/dev/ttymxc2")));
+        msp.setReadInterval(2);
+        msp.mspStopDAQ(); // no poll in the way
+        BuretteController bc(&msp);
+        bc.setTickInterval(24 * 3600 * 1000);
+        QSignalSpy said(&bc, &BuretteController::buretteErrorOccured);
+        const int configured = int(link.dm.engine()->buretteSize());
+        const QByteArray size = "BSS " + QByteArray::number(configured) + "\r\n";
+        QSignalSpy replies(&msp, &mspController::mirrorFromMSP);
+        QList<int> triedAt;
+        for (int tick = 0; tick < 400; ++tick) {
+            msp.msp->sendCommand(QStringLiteral("VG")); // marks the tick: a try ends with "BSG"
+            bc.execute();
+            QString last;
+            msp.msp->getLastCommand(last);
+            if (last != QLatin1String("BSG"))
+                continue;
+            triedAt << tick;
+            if (*answer) {
+                ASSERT_TRUE(waitUntil([&] { return slave.received.count(size) == triedAt.size(); }));
+                const int before = replies.count();
+                slave.pty.write(answer);
+                ASSERT_TRUE(waitUntil([&] { return replies.count() > before; }));
+            }
+        }
+        // 1, 2, 4, 8, 16 ticks between six tries, the message 32 ticks after
+        // the last, then one try a minute (240 ticks).
+        EXPECT_EQ(triedAt, (QList<int>{0, 2, 5, 10, 19, 36, 310}));
+        EXPECT_TRUE(waitUntil([&] { return slave.received.count(size) == 7; }));
+        ASSERT_EQ(said.count(), 1);
+        EXPECT_TRUE(said.first().at(0).toString().contains(QStringLiteral("The slave does not answer")));
+        // A slave that at last holds the size starts the handshake afresh.
+        slave.pty.write("BSG " + QByteArray::number(configured) + "\r");
+        ASSERT_TRUE(waitUntil([&] {
+            mspInfoRecord info;
+            msp.msp->getInfo(info);
+            return info.buretteSize == configured;
+        }));
+        bc.execute();
+        EXPECT_EQ(said.count(), 1);
+    }
 }

@@ -371,7 +371,7 @@ TEST(VantorCli, ReusesItsOwnMethodAndTakesARelativeSandbox)
         ASSERT_TRUE(q.exec(QStringLiteral("SELECT m.methodName, t.sampleAmountValue FROM methodSetupTable m "
                                           "JOIN titrationSetupTable t ON t.methodId = m.id WHERE m.id != 99999")));
         ASSERT_TRUE(q.next());
-        EXPECT_EQ(q.value(0).toString(), QStringLiteral("vantor-cli"));
+        EXPECT_EQ(q.value(0).toString(), QStringLiteral("(vantor-cli)"));
         EXPECT_FLOAT_EQ(q.value(1).toFloat(), 11.f) << "the last run's options";
         EXPECT_FALSE(q.next()) << "one method for all the runs";
     }
@@ -499,7 +499,13 @@ TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)
     writeTextFile(empty, QString());
     writeTextFile(junk, QStringLiteral("volume, mV\nfifty, 3\n1, nan\n2, 5\n"));
     writeTextFile(negative, QStringLiteral(R"({"beaker":{"analyte":{"conc_mol_L":-0.1}}})"));
+    const QString halfSeed = files.filePath(QStringLiteral("seed.json"));
+    writeTextFile(halfSeed, QStringLiteral(R"({"seed":2.5})"));
     const QList<QStringList> bad = {
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), halfSeed},
+        {QStringLiteral("titrate"), QStringLiteral("--scenario"), scenario, QStringLiteral("--sandbox"), QString()},
+        {QStringLiteral("measure"), QStringLiteral("--scenario"), scenario, QStringLiteral("--sandbox"), QString()},
+        {QStringLiteral("method"), QStringLiteral("list"), QStringLiteral("--sandbox"), QString()},
         {},
         {QStringLiteral("dance")},
         {QStringLiteral("titrate")},

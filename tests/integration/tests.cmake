@@ -3,7 +3,7 @@
 find_package(SQLite3 REQUIRED)
 target_link_libraries(kestrum_testsupport PUBLIC SQLite::SQLite3)
 # Tests that start the console runner need it built first.
-foreach(t integration_methodfiles integration_netns_discovery integration_remoteport)
+foreach(t integration_methodfiles integration_netns_discovery integration_remoteport unit_databasestartup)
   if(TARGET ${t})
     add_dependencies(${t} vantor-cli)
   endif()

@@ -159,6 +159,7 @@ TEST(ScenarioFile, BadFilesAreRefusedWithAReason)
         "{\"beaker\":{\"kind\":\"redox\",\"titrant\":{\"conc_mol_L\":-1}}}",
         "{\"beaker\":{\"kind\":\"ise\",\"ion\":{\"conc_mol_L\":0}}}", "{\"beaker\":{\"kind\":\"buffer\",\"pH\":\"7\"}}",
         "{\"beaker\":5}", "{\"electrode\":[1]}", "{\"temperature_probe\":\"yes\"}", "{\"burette_mL\":20.5}",
+        "{\"seed\":1.5}", "{\"seed\":-1}", "{\"seed\":4294967296}",
     };
     for (const char *json : bad) {
         Scenario s;

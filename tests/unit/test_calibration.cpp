@@ -177,7 +177,7 @@ TEST_F(Calibration, OnePointShiftsTheIdealElectrode)
     EXPECT_NEAR(read(30.0, 40.0), 6.5, 1e-3);
 }
 
-TEST_F(Calibration, PhPointsTooCloseAreRefusedAndARepeatReplaces)
+TEST_F(Calibration, PhPointsTooCloseOrRepeatedAreRefused)
 {
     startPh(0.001f);
     takePoint(177.0, 25.0, 4.01);
@@ -192,11 +192,11 @@ TEST_F(Calibration, PhPointsTooCloseAreRefusedAndARepeatReplaces)
     // within 5 mV of 165 although 1 pH away
     takePoint(161.0, 25.0, 5.22);
     EXPECT_EQ(context.GetStatus(), CMeasurementContext::StatusPhPointTooClose);
-    // the same value again replaces its point
+    // the same buffer again is refused, and its first reading stays
     takePoint(178.5, 25.0, 4.01);
-    EXPECT_EQ(context.GetStatus(), CMeasurementContext::StatusBusy);
+    EXPECT_EQ(context.GetStatus(), CMeasurementContext::StatusPhPointTooClose);
     EXPECT_EQ(context.GetCalPointCount(), 2);
-    EXPECT_FLOAT_EQ(context.GetPointMv(0), 178.5f);
+    EXPECT_FLOAT_EQ(context.GetPointMv(0), 177.0f);
     EXPECT_FLOAT_EQ(context.GetPointValue(1), 4.22f);
 }
 

@@ -188,12 +188,24 @@ INSTANTIATE_TEST_SUITE_P(Versions, MigrationOfVersion,
                              return std::string("v") + QString::fromLatin1(info.param.version).remove(QLatin1Char('.')).toStdString();
                          });
 
-TEST_F(Migration, UnknownVersionIsSavedToJsonThenEmptiedAndTheServiceRestarted)
+TEST_F(Migration, ANewerVersionIsLeftAsItIsAndAFailedOneIsSavedToJsonThenEmptied)
 {
     ASSERT_TRUE(db.runScript(fixture("schema_1_1.sql") + QStringLiteral("INSERT INTO systemInfo (dbVersion, timestamp) VALUES ('2.0', '2021-01-01T08:00:00.000');")
                              + QStringLiteral("INSERT INTO reportSetupTable (reportType, image1) VALUES ('Calibration', X'89504E470D0A1A0A00FF');")));
     QFile::remove(DataMigrator::backupFilePath());
+    // A newer program's file: nothing copied, nothing emptied.
+    const QString asFound = db.dump();
     EXPECT_FALSE(DataMigrator::dmPtr()->migrate());
+    EXPECT_EQ(DataMigrator::dmPtr()->outcome(), DataMigrator::Outcome::Newer);
+    EXPECT_EQ(db.dump(), asFound);
+    EXPECT_FALSE(QFile::exists(DataMigrator::backupFilePath()));
+
+    // The same file as a 1.1 file whose step fails (its meter columns are
+    // there already) is copied and emptied.
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("DELETE FROM systemInfo WHERE dbVersion = '2.0'")));
+    ASSERT_TRUE(TestDatabase::exec(QStringLiteral("ALTER TABLE MeasurementTable ADD COLUMN calLogId integer")));
+    EXPECT_FALSE(DataMigrator::dmPtr()->migrate());
+    EXPECT_EQ(DataMigrator::dmPtr()->outcome(), DataMigrator::Outcome::Wiped);
     DataMigrator::dmPtr()->restartApp();
     EXPECT_EQ(Platform::recordedCommands(), QStringList({QStringLiteral("systemctl restart b2qt")}));
 

@@ -151,14 +151,20 @@ TEST(MspDriverReplies, VersionAndSerial)
     EXPECT_FALSE(d.info().newVersion);
 }
 
-TEST(MspDriverReplies, ShortVersionReplyStillCountsAsAVersion)
+// A version reply cut short, or holding another command's words, leaves
+// the version unknown: never "MSP430" or "SSS" with serial "0".
+TEST(MspDriverReplies, CutShortOrForeignVersionRepliesAreRefused)
 {
-    Driver d;
-    d.msp.parsePacket("SYSTEM A B 2.00 C\r");
-    const mspInfoRecord i = d.info();
-    EXPECT_TRUE(i.versionValid);
-    EXPECT_EQ(i.versionText(), "2.00");
-    EXPECT_EQ(i.lastErrorText(), "UND");
+    for (const char *reply : {"SYSTEM A B 2.00 C\r", "SYSTEM VANTOR MSP430\r", "SYSTEM\rMG 1 25 0.1 5 1 0.1 7 0 0\r",
+                              "SYSTEM VANTOR SSS 3 BUILD 0 SN 0\r", "SYSTEM VANTOR MSP430 1.07 BUILD 0 SN\rBSG 20\r",
+                              "SYSTEM VANTOR MSP430 1.07 BUILD 0 SN ERROR\r", "SYSTEM a b 1.0$ c d e 7\r"}) {
+        Driver d;
+        d.msp.parsePacket(reply);
+        const mspInfoRecord i = d.info();
+        EXPECT_FALSE(i.versionValid) << reply;
+        EXPECT_FALSE(i.newVersion) << reply;
+        EXPECT_EQ(i.versionText(), QString(32, QLatin1Char('x'))) << reply;
+    }
 }
 
 TEST(MspDriverReplies, OverlongWordsAreCutToTheirFields)

@@ -160,6 +160,10 @@ bool MeterRunner::parse(const QStringList &arguments, QString *error)
         }
     }
     m_sandbox = p.value(sandboxOpt);
+    if (p.isSet(sandboxOpt) && m_sandbox.trimmed().isEmpty()) {
+        *error = QStringLiteral("--sandbox needs a folder");
+        return false;
+    }
     m_verbose = p.isSet(verboseOpt);
     if (m_command == Measure)
         return true;
@@ -257,6 +261,11 @@ int MeterRunner::run(QTextStream &out, QTextStream &err)
     }
     Clock::setSource(nullptr);
     out.flush();
+    if (status == 0 && !sandbox.stores()) {
+        err << "vantor-cli: the " << (m_command == Measure ? "reading" : "calibration")
+            << " was not stored: the database cannot be written\n";
+        return 2;
+    }
     return status;
 }
 
@@ -348,7 +357,7 @@ int MeterRunner::calibrate(DataManagerBase &dm, MeterController &mc, VirtualSlav
         mc.accptCalibration(!ph);
         if (mc.isSlopeErrorOnAccept()) {
             out << "Point " << i + 1 << " refused: "
-                << (ph ? "within 5 mV or 0.2 pH of another point" : redox ? "offset out of range" : "within 5 mV or 20 % of another standard")
+                << (ph ? "the same buffer as another point, or within 5 mV or 0.2 pH of one" : redox ? "offset out of range" : "within 5 mV or 20 % of another standard")
                 << "\n";
             return 1;
         }

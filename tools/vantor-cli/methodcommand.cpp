@@ -54,7 +54,7 @@ int MethodCommand::run(const QStringList &args, QTextStream &out, QTextStream &e
     QString sandbox;
     const int at = rest.indexOf(QStringLiteral("--sandbox"));
     if (at >= 0) {
-        if (at + 1 >= rest.size()) {
+        if (at + 1 >= rest.size() || rest.at(at + 1).trimmed().isEmpty()) {
             err << "vantor-cli method: --sandbox needs a folder\n" << usage();
             return 2;
         }
@@ -72,6 +72,10 @@ int MethodCommand::run(const QStringList &args, QTextStream &out, QTextStream &e
     SandboxSession session(sandbox);
     if (!session.open(err))
         return 2;
+    if (install && !session.stores()) {
+        err << "vantor-cli method: " << rest.at(1) << ": not installed: the database cannot be written\n";
+        return 2;
+    }
     // The method tables and the working method, as the application's start makes them.
     const MethodModel working;
     return install ? MethodCommand::install(rest.at(1), out, err) : list(out);

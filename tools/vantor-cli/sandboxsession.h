@@ -19,10 +19,14 @@ public:
 
     // False after a message on `err`.
     bool open(QTextStream &err);
+    // False when the database takes no writes: what the command does is
+    // shown, and reported as not stored.
+    bool stores() const { return m_stores; }
 
 private:
     QTemporaryDir m_temporary;
     QString m_previousRoot;
     bool m_rooted = false;
     bool m_databaseOpen = false;
+    bool m_stores = true;
 };

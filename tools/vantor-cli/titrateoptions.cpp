@@ -197,6 +197,10 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
         runs = int(v);
     }
     sandbox = p.value(sandboxOpt);
+    if (p.isSet(sandboxOpt) && sandbox.trimmed().isEmpty()) {
+        *error = QStringLiteral("--sandbox needs a folder");
+        return false;
+    }
     verbose = p.isSet(verboseOpt);
     if (p.isSet(methodOpt)) {
         const QString value = p.value(methodOpt).trimmed();

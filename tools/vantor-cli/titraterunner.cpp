@@ -43,7 +43,9 @@ namespace {
 constexpr qint64 kMaxReplayBytes = 16 * 1024 * 1024;
 constexpr int kMinReplayPoints = 4; // the first slope needs three, the peak search four
 constexpr int kKnownAddition = 3;
-const char *const kOwnMethod = "vantor-cli";
+// The runner's own method: a name that neither the name page nor a method
+// file can give (brackets), so a plain run never writes over a user's method.
+const char *const kOwnMethod = "(vantor-cli)";
 const char *const kTechniqueNames[] = {"Preset End Pt.", "Equivalence Pt.", "Engineering Basic pH",
                                        "Multiple Known Addition"};
 const char *const kControlNames[] = {"Routine", "Quick", "Careful", "User Defined"};
@@ -92,9 +94,11 @@ int TitrateRunner::run(QTextStream &out, QTextStream &err)
 {
     int status = 2;
     bool allCompleted = true;
+    bool stored = true;
     {
         SandboxSession sandbox(m_options.sandbox);
         if (sandbox.open(err)) {
+            stored = sandbox.stores();
             for (int run = 1; run <= m_options.runs; ++run) {
                 m_outcome = Outcome();
                 status = runInSandbox(err);
@@ -114,6 +118,10 @@ int TitrateRunner::run(QTextStream &out, QTextStream &err)
     }
     if (status == 2)
         return status;
+    if (!stored) {
+        err << "vantor-cli: the run was not stored: the database cannot be written\n";
+        return 2;
+    }
     return allCompleted ? 0 : 1;
 }
 

@@ -34,15 +34,23 @@ JsonFields &JsonFields::number(const char *key, double lo, double hi, double *va
 
 JsonFields &JsonFields::integer(const char *key, int lo, int hi, int *value)
 {
+    double x = *value;
+    whole(key, lo, hi, &x);
+    *value = int(x);
+    return *this;
+}
+
+JsonFields &JsonFields::whole(const char *key, double lo, double hi, double *value)
+{
     const QJsonValue v = m_object.value(QLatin1String(key));
     if (v.isUndefined())
         return *this;
     const double x = v.toDouble();
-    if (!v.isDouble() || x != std::floor(x) || x < lo || x > hi) {
-        fail(QStringLiteral("\"%1\" must be a whole number from %2 to %3").arg(name(key)).arg(lo).arg(hi));
+    if (!v.isDouble() || !std::isfinite(x) || x != std::floor(x) || x < lo || x > hi) {
+        fail(QStringLiteral("\"%1\" must be a whole number from %2 to %3").arg(name(key)).arg(lo, 0, 'f', 0).arg(hi, 0, 'f', 0));
         return *this;
     }
-    *value = int(x);
+    *value = x;
     return *this;
 }
 

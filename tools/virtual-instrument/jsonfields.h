@@ -16,6 +16,8 @@ public:
     JsonFields &number(const char *key, double lo, double hi, double *value, bool aboveLo = false);
     // A whole number in [lo, hi].
     JsonFields &integer(const char *key, int lo, int hi, int *value);
+    // A whole number in [lo, hi] beyond the range of int (a 32-bit seed).
+    JsonFields &whole(const char *key, double lo, double hi, double *value);
     JsonFields &text(const char *key, QString *value);
     JsonFields &boolean(const char *key, bool *value);
     // A nested object (empty when absent).

@@ -26,7 +26,7 @@ bool Scenario::parse(const QByteArray &json, Scenario *out, QString *error)
         .object("beaker", &beaker)
         .number("temperature_C", -10, 150, &c.temperatureC)
         .integer("burette_mL", 1, 100, &c.buretteMl)
-        .number("seed", 0, 4294967295.0, &seed)
+        .whole("seed", 0, 4294967295.0, &seed)
         .boolean("temperature_probe", &c.temperatureProbe);
     if (!top.ok()
         || !JsonFields(electrode, QStringLiteral("electrode"), error)
