@@ -102,6 +102,7 @@ MainContentBackground {
         measurement.sampleIdValue = sampleIdValue
         measurementLogModel.measurementModel = measurement
         measurementLogModel.saveLogValues(setup.isDatalogFullNotifOn)
+        dm.storeMeterReport("Measurement", measurementLogModel.id)
         measurement.setMeasurementValues(measurement)
     }
 
