@@ -85,7 +85,7 @@ QVector<RunReportRow> StandardisationReport::summaryRows() const
     const QString average = RunReportSource::part(s.avgConc, 0);
     return {
         {"Average Titrant Concentration", "Average Titrant Conc.", average, s.text(t, "resultUnits"), 1, 1},
-        {"RSD", "RSD", RunReportSource::part(s.rsd, 0), "%", 2, 2},
+        {"RSD", "RSD", RunReportSource::part(s.rsd, 0), "", 2, 2},
         {"Average Temperature", "Temperature", TitrationReport::meanTemperature(s), TitrationReport::temperatureUnit(s), 3, 0},
         {"Standardization Duration (Minutes)", "Duration (Min)", TitrationReport::meanDuration(s), "", 4, 0},
         {"Titer Ratio", "Titer Ratio",

@@ -351,7 +351,7 @@ QVector<RunReportRow> TitrationReport::summaryRows() const
     if (s.isMka())
         return {
             {"Average Sample Concentration", "Average Conc.", RunReportSource::part(s.avgConc, 0), units, 1, 1},
-            {"RSD", "RSD", RunReportSource::part(s.rsd, 0), "%", 2, 2},
+            {"RSD", "RSD", RunReportSource::part(s.rsd, 0), "", 2, 2},
             {"Temperature", "Temperature", temperature, unit, 3, 0},
             {"Titration Duration (Minutes)", "Duration (Min)", duration, "", 4, 0},
         };
@@ -361,7 +361,7 @@ QVector<RunReportRow> TitrationReport::summaryRows() const
         return {
             {"Average Blank Value", "Average Blank", when(direct, average), "mmol", 1, 1},
             {"Average Blank Value", "Average Reagent", when(!direct, average), "mmol", 2, 2},
-            {"RSD", "RSD", RunReportSource::part(s.rsd, 0), "%", 3, 3},
+            {"RSD", "RSD", RunReportSource::part(s.rsd, 0), "", 3, 3},
             {"Temperature", "Temperature", temperature, unit, 4, 0},
             {"Titration Duration (Minutes)", "Duration (Min)", duration, "", 5, 0},
         };
@@ -373,7 +373,7 @@ QVector<RunReportRow> TitrationReport::summaryRows() const
                      when(i < n, RunReportSource::part(s.avgConc, i)), units, i + 1, i + 1});
     for (int i = 0; i < 3; ++i)
         rows.append({QStringLiteral("RSD (%1)").arg(i + 1), QStringLiteral("RSD (%1)").arg(i + 1),
-                     when(i < n, RunReportSource::part(s.rsd, i)), "%", i + 4, i + 4});
+                     when(i < n, RunReportSource::part(s.rsd, i)), "", i + 4, i + 4});
     rows.append({"Temperature", "Temperature", temperature, unit, 7, 0});
     rows.append({"Titration Duration (Minutes)", "Duration (Min)", duration, "", 8, 0});
     return rows;
