@@ -235,7 +235,7 @@ bool ReportWriter::storeCalibration(int calibrationId)
     auto *calibration = new CalibrationModel(&owner);
     calibration->load(row);
     const QList<const QObject *> points = childRows<CalibrationCycleModel>(
-        CalibrationCycleModel::tableName, QStringLiteral("calibrationID"), calibrationId, QStringLiteral("cycleNo"), &owner);
+        CalibrationCycleModel::tableName, QStringLiteral("calibrationID"), calibrationId, QStringLiteral("id"), &owner);
     const Settings s = m_settings ? m_settings() : Settings();
     const MeterReport::Settings page{s.buildNumber, s.dateFormat, s.timeFormat, s.temperatureFormat};
     m_model->setReportString(ReportRows::meterText(MeterReport::calibration(calibration, points, page)));

@@ -111,8 +111,11 @@ QVector<MeterReportRow> MeterReport::calibration(const QObject *c, const QList<c
     page.down(25, "Calibration Time",
               ReportValues::dateTime(c->property("mcreatedAt").toDateTime(), settings.dateFormat, settings.timeFormat), 1);
     const QString unit = text(c, "directMeasureUnit");
-    for (const QObject *p : points) {
-        page.down(50, "Point", text(p, "cycleNo"));
+    for (int i = 0; i < points.size(); ++i) {
+        const QObject *p = points.at(i);
+        // Points are stored without their number; their order gives it.
+        const int pointNo = p->property("cycleNo").toInt();
+        page.down(50, "Point", QString::number(pointNo > 0 ? pointNo : i + 1));
         const double value = number(p, "calValue");
         if (type == QLatin1String("pH"))
             page.down(25, "pH value", ReportValues::fixed(value, ReportValues::resolutionDecimals(number(c, "resolution"))) + " " + unit);
