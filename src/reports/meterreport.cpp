@@ -157,7 +157,9 @@ QVector<MeterReportRow> MeterReport::atcCalibration(const QObject *c, const QLis
         {"Calibration Time", 235, ReportValues::dateTime(c->property("mcreatedAt").toDateTime(), settings.dateFormat, settings.timeFormat), 0},
         {"ATC Value", 285, probe("calValue"), 0},
         {"Temperature", 310, probe("temperature"), 0},
-        {"Offset", 335, probe("offset"), 0},
+        // An offset is a difference of temperatures: scaled, not shifted.
+        {"Offset", 335, ReportValues::fixed(number(p, "offset") * (settings.temperatureFormat == 0 ? 1.0 : 1.8), 1) + " "
+                            + ReportValues::temperatureUnit(settings.temperatureFormat), 0},
         {"Cal Log #", 360, text(c, "id"), 0},
         {"Operator", 410, line, 0},
         {"Signature", 435, line, 0},

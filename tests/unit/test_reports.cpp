@@ -226,6 +226,12 @@ TEST(MeterRows, EachRowStandsWhereThePageWantsIt)
     for (const MeterReportRow &r : MeterReport::calibration(calibration.get(), points, {"B17", 0, 1, 0}))
         if (r.y > 560)
             tail << QStringLiteral("%1@%2=%3").arg(r.heading).arg(r.y).arg(r.value);
+    calibration->setProperty("electrodeType", "ATC");
+    QStringList atc;
+    for (const MeterReportRow &r : MeterReport::calibration(calibration.get(), points, {"B17", 0, 1, 1}))
+        atc << QStringLiteral("%1@%2=%3").arg(r.heading).arg(r.y).arg(r.value);
+    EXPECT_EQ(atc.mid(3, 4), (QStringList{"ATC Value@285=41.0 °F", "Temperature@310=77.0 °F", "Offset@335=2.7 °F", "Cal Log #@360=9"}));
+    calibration->setProperty("electrodeType", "pH");
     EXPECT_EQ(tail, (QStringList{"pH value@585=11.00 pH", "mV@610=-80.0 mV", "Temperature@635=25.0 °C (MAN)",
                                  "Slope 1@685=98.0 %", "Eo 1@710=1.5 mV", "Slope 2@735=99.0 %", "Eo 2@760=1.5 mV",
                                  "Average Slope@810=98.8 %", "Cal Log #@835=9", "Operator@885=_______________",
