@@ -1,8 +1,11 @@
 #include "datamanagerbase.h"
 
+#include "reportwriter.h"
+
 #include "databasestartup.h"
 
 #include "meterrecords.h"
+#include "reportwriter.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationmodel.h"
 #include "models/measurementmodel.h"
@@ -53,6 +56,19 @@ DataManagerBase::DataManagerBase(QObject *parent)
     m_standardisation = new StandardisationRecords(this);
     connect(m_standardisation, &StandardisationRecords::changed, this, &DataManagerBase::valueChanged);
     m_homeCalibration = new HomeCalibrationState(this);
+    m_reports = new ReportWriter(
+        [this] {
+            ReportWriter::Settings s;
+            s.buildNumber = m_identity->buildNumber();
+            if (const SetupModel *setup = setupModel()) {
+                s.instrumentName = setup->instrumentName();
+                s.dateFormat = setup->dateFormat_Index();
+                s.timeFormat = setup->timeFormat_Index();
+                s.temperatureFormat = setup->temperatureFormat_Index();
+            }
+            return s;
+        },
+        [this](int methodId) { return m_standardisation->fetch(methodId); }, this);
     connect(m_homeCalibration, &HomeCalibrationState::changed, this, &DataManagerBase::lastCalibrationChanged);
 
     m_engine = new EngineDataPort(m_identity, m_runCycles, this);
@@ -322,6 +338,16 @@ bool DataManagerBase::storeStandardisationRun(QObject *log, bool isChangeFromHom
     auto *entry = qobject_cast<StandardisationLogModel *>(log);
     return entry && titrationModel()
            && RunWithLog::storeStandardisation(titrationModel(), entry, isChangeFromHome, isDataLogNotifOn);
+}
+
+bool DataManagerBase::storeRunReport(QObject *log, const QString &sampleId)
+{
+    return m_reports->storeRunReport(log, sampleId);
+}
+
+bool DataManagerBase::storeMeterReport(const QString &reportType, int id)
+{
+    return m_reports->storeMeterReport(reportType, id);
 }
 
 void DataManagerBase::getMeasureFromDB()

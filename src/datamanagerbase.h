@@ -38,6 +38,7 @@ class CalibrationModel;
 class MeasurementLogModel;
 class MeasurementModel;
 class MeterRecords;
+class ReportWriter;
 class ElectrodeSetupModel;
 class LogManager;
 class SysInfoModel;
@@ -121,6 +122,7 @@ public:
     TitrationSetupModel *titrationSetupModel() const;
     SysInfoModel *sysInfoModel() const { return m_identity->sysInfo(); }
     ProductIdentity *identity() const { return m_identity; }
+    ReportWriter *reports() const { return m_reports; }
     // The run in progress of the current method, with its cycles.
     TitrationModel *titrationModel() const;
     SetupModel *setupModel() const { return m_setupModel; }
@@ -243,6 +245,12 @@ public slots:
     // `log` is the screens' titration (or standardisation) log model.
     bool storeTitrationRun(QObject *log, bool isChangeFromHome, bool isDataLogNotifOn);
     bool storeStandardisationRun(QObject *log, bool isChangeFromHome, bool isDataLogNotifOn);
+    // The report row of a stored run (its titration or standardisation log
+    // model, with the summary's figures; the sample id the run was made
+    // with), written again on each recalculation; and of a stored
+    // calibration ("Calibration", its id) or reading ("Measurement", its log id).
+    bool storeRunReport(QObject *log, const QString &sampleId);
+    bool storeMeterReport(const QString &reportType, int id);
     // The meter's last stored row, as a new `measure`.
     void getMeasureFromDB();
 
@@ -277,6 +285,7 @@ private:
     LogLists *m_logLists = nullptr;
     RunCycleLists *m_runCycles = nullptr;
     StandardisationRecords *m_standardisation = nullptr;
+    ReportWriter *m_reports = nullptr;
     bool m_isCalibrationFromMeasurement = false;
     int m_methodCount = 0;
 

@@ -10,6 +10,7 @@
 #include "controller/mspcontroller.h"
 #include "controller/reportcontroller.h"
 #include "datamanagerbase.h"
+#include "reportwriter.h"
 #include "databasestartup.h"
 #include "models/calibrationcyclemodel.h"
 #include "models/calibrationlogmodel.h"
@@ -174,10 +175,9 @@ int main(int argc, char *argv[])
     engine.rootContext()->setContextProperty(QStringLiteral("titrationLogModel"), titrationLogModel);
     auto *ls = new LanguageSelector();
     auto *reportController = new ReportController();
-    auto *reportModel = new ReportModel();
     engine.rootContext()->setContextProperty(QStringLiteral("ls"), ls);
     engine.rootContext()->setContextProperty(QStringLiteral("reportController"), reportController);
-    engine.rootContext()->setContextProperty(QStringLiteral("reportModel"), reportModel);
+    engine.rootContext()->setContextProperty(QStringLiteral("reportModel"), dm->reports()->model());
 
     // Close the splash once every context property is set, then load the UI.
     if (!engine_startup.rootObjects().isEmpty()) {

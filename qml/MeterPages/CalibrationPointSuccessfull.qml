@@ -33,6 +33,7 @@ MainContentBackground {
         calibrationSummary.electrodeName = dm.calibrationModel ? dm.calibrationModel.electrodeName : ""
         calibrationSummary.electrodeType = stack.calibrationType()
         calibrationSummary.injectSummaryModel()
+        dm.storeMeterReport("Calibration", calibrationSummary.cid)
         stack.push(calibrationSummary)
     }
 

@@ -104,6 +104,8 @@ MainContentBackground {
         if (!measurementLogModel.saveLogValues(setup.isDatalogFullNotifOn))
             mainWindow.showMessage(qsTr("Not Saved") + ls.translatedText,
                                    qsTr("The reading could not be saved.") + ls.translatedText)
+        else
+            dm.storeMeterReport("Measurement", measurementLogModel.id)
         measurement.setMeasurementValues(measurement)
     }
 

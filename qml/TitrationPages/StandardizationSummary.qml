@@ -77,6 +77,7 @@ MainContentBackground {
                 return
             standardisationLogModel.AvgConc = averageText
             standardisationLogModel.RSD = rsdStored
+            dm.storeRunReport(standardisationLogModel, "")
         }
     }
 

@@ -121,6 +121,7 @@ MainContentBackground {
                 titrationLogModel.saveBlankConc(summary.average)
                 dm.reInitializeMethodModel(method.id)
             }
+            dm.storeRunReport(titrationLogModel, page.sampleId)
         }
     }
 

@@ -295,7 +295,10 @@ TEST(MeterCommands, CalibrateThreeBuffersThenMeasureBufferSeven)
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("meter"));
         db.setDatabaseName(sandbox + QStringLiteral("/var/KestrumDB"));
         ASSERT_TRUE(db.open());
-        for (const char *table : {"calibrationTable", "calibrationLogTable", "measurementLogTable"}) {
+        // Each with its report row, as the meter screens store it.
+        for (const char *table : {"calibrationTable", "calibrationLogTable", "measurementLogTable",
+                                  "reportSetupTable WHERE reportType = 'Calibration' AND calibrationId = (SELECT id FROM calibrationTable)",
+                                  "reportSetupTable WHERE reportType = 'Measurement' AND measurementId = (SELECT id FROM measurementLogTable)"}) {
             QSqlQuery q(db);
             ASSERT_TRUE(q.exec(QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(table))) && q.next()) << table;
             EXPECT_EQ(q.value(0).toInt(), 1) << table;

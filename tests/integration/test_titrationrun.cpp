@@ -419,6 +419,10 @@ TEST(VantorCli, RunsAStoredMethodByNameAndStoresItsRun)
     EXPECT_NEAR(run.value(0).toDouble(), r.captured(1).toDouble(), 1e-6);
     EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("titrationLogTable"),
                                      QStringLiteral("methodName = 'Acetic 20 mL'")), 1);
+    EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("reportSetupTable"),
+                                     QStringLiteral("reportType = 'Titration' AND titrationId = (SELECT id FROM titrationLogTable) "
+                                                    "AND reportString LIKE '%\"Method Name\",\"Acetic 20 mL\"%'")), 1)
+        << "the run's report row, as the summary stores it";
     EXPECT_EQ(TestDatabase::rowCount(QStringLiteral("methodSetupTable"), QStringLiteral("id != 99999")), 1)
         << "no method of the options was added";
 }

@@ -303,6 +303,7 @@ int MeterRunner::measure(DataManagerBase &dm, MeterController &mc, QTextStream &
         err << "vantor-cli: the reading could not be stored in the measurement log\n";
         return 2;
     }
+    dm.storeMeterReport(QStringLiteral("Measurement"), log.id());
     mc.qmlStopMeasure();
     return 0;
 }
@@ -401,6 +402,7 @@ int MeterRunner::calibrate(DataManagerBase &dm, MeterController &mc, VirtualSlav
     }
     CalibrationLogModel log;
     log.saveLogValues(false, LogLayout::rowOf(cal, CalibrationModel::columnTable()));
+    dm.storeMeterReport(QStringLiteral("Calibration"), cal->id());
     if (!redox)
         out << "Slope: " << QString::number(cal->avgSlope(), 'f', 2) << (ph ? " %" : " mV/decade") << "\n";
     out << "Offset: " << QString::number(redox ? cal->avgSlope() : offset, 'f', 1) << " mV\n";

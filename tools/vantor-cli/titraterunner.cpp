@@ -399,6 +399,7 @@ void TitrateRunner::storeRun(DataManagerBase &dm)
     entry.setAvgConc(m_outcome.storedResults.value(0, QStringLiteral("0")));
     entry.setRsd(QStringLiteral("0.00%"));
     entry.updateLog();
+    dm.storeRunReport(&entry, QString());
     dm.initializeTitration();
 }
 
