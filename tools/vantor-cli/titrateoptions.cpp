@@ -47,7 +47,10 @@ QString TitrateOptions::usage()
     return QStringLiteral(
         "usage: vantor-cli titrate (--scenario FILE | --replay FILE) [options]\n"
         "  --scenario FILE          titrate the beaker of a virtual-instrument scenario (JSON)\n"
-        "  --replay FILE            replay a curve file (lines \"volume uL, mV\")\n"
+        "  --replay FILE            replay a curve file: volume and signal columns separated by\n"
+        "                           commas, semicolons, tabs or blanks; a header may name the units\n"
+        "                           (mL or uL, mV or pH); without one uL and mV\n"
+        "  --temperature C          of a replayed curve in pH, for the Nernst slope (default 25)\n"
         "  --technique NAME         \"Preset End Pt.\", \"Equivalence Pt.\" (default), \"Multiple Known Addition\"\n"
         "  --endpoints N            end points wanted, 1 to 3 (default 1)\n"
         "  --endpoint-mv A[,B[,C]]  end-point potentials of \"Preset End Pt.\"\n"
@@ -88,9 +91,10 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
     const QCommandLineOption sandboxOpt(QStringLiteral("sandbox"), QString(), QStringLiteral("DIR"));
     const QCommandLineOption verboseOpt(QStringLiteral("verbose"));
     const QCommandLineOption runsOpt(QStringLiteral("runs"), QString(), QStringLiteral("N"));
+    const QCommandLineOption temperatureOpt(QStringLiteral("temperature"), QString(), QStringLiteral("C"));
     p.addOptions({scenarioOpt, replayOpt, techniqueOpt, endpointsOpt, endpointMvOpt, controlOpt, maxOpt,
                   preDoseOpt, preStirOpt, sampleOpt, methodOpt, speedOpt, timeoutOpt, sandboxOpt, verboseOpt,
-                  runsOpt});
+                  runsOpt, temperatureOpt});
 
     if (!p.parse(QStringList{QStringLiteral("titrate")} + arguments)) {
         *error = p.errorText();
@@ -195,6 +199,13 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
             return false;
         }
         runs = int(v);
+    }
+    if (p.isSet(temperatureOpt)) {
+        if (!number(p.value(temperatureOpt), -10, 110, &v)) {
+            *error = QStringLiteral("--temperature must be between -10 and 110 °C");
+            return false;
+        }
+        temperatureC = v;
     }
     sandbox = p.value(sandboxOpt);
     verbose = p.isSet(verboseOpt);

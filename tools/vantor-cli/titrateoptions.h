@@ -24,6 +24,7 @@ struct TitrateOptions
     QString sandbox;           // where logs go; a temporary folder if empty
     bool verbose = false;
     int runs = 1;              // titrations back to back in one process
+    double temperatureC = 25.0; // of a replayed curve in pH, for its Nernst slope
 
     bool parse(const QStringList &arguments, QString *error);
     static QString usage();

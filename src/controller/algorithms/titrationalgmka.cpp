@@ -16,6 +16,13 @@ const double kLowestConcentration = 1e-9; // mol/L
 const double kHighestConcentration = 2.0; // mol/L
 const double kE0Limit = 1024.0;           // mV
 const int kLogFilesKept = 100;
+// The readings of an addition: those of the later half of its wait, at
+// least three, at most two minutes of them; a spread never taken as below
+// the meter's resolution of 0.1 mV.
+const double kSettledPart = 0.5;
+const int kLeastSettledReadings = 3;
+const int kMostSettledReadings = 480;
+const double kLeastVariance = 0.1 * 0.1 / 12.0; // mV²
 
 // Equal within 1e-12 of the smaller magnitude.
 bool nearlyEqual(double a, double b)
@@ -91,11 +98,35 @@ void TitrationAlgMKA::setLimits()
 
 void TitrationAlgMKA::addData()
 {
-    double reading = 0.0;
-    m_temporal->lastFiltered(reading);
-    m_volumetric->addPoint(double(m_dispensed), reading);
+    // The potential of an addition is the mean of the readings of the later
+    // half of its wait, when the electrode has settled; its weight in the fit
+    // is how well that mean is known.
+    double sum = 0.0, squares = 0.0;
+    int count = 0;
+    const int n = m_temporal->size();
+    const double window = double(stabilityElapsed()) * kSettledPart;
+    long stamp = 0, last = 0;
+    double volume = 0.0, reading = 0.0;
+    m_temporal->getLastPoint(last, volume, reading);
+    for (int k = n - 1; k >= 0 && count < kMostSettledReadings; --k) {
+        if (!m_temporal->getPoint(k, stamp, volume, reading) || double(stamp) < double(last) - window)
+            break;
+        sum += reading;
+        squares += reading * reading;
+        ++count;
+    }
+    double potential = 0.0;
+    double variance = kLeastVariance;
+    if (count >= kLeastSettledReadings) {
+        potential = sum / count;
+        variance = std::max((squares - sum * potential) / (count - 1), kLeastVariance) / count;
+    } else {
+        m_temporal->lastFiltered(potential);
+    }
+    m_volumetric->addPoint(double(m_dispensed), potential);
     m_x.push_back(m_dispensed / 1000.0);
-    m_y.push_back(reading);
+    m_y.push_back(potential);
+    m_w.push_back(1.0 / variance);
 }
 
 double TitrationAlgMKA::responseSinceLastPoint() const
@@ -226,7 +257,7 @@ unsigned int TitrationAlgMKA::furtherAddition()
 bool TitrationAlgMKA::runFit(Eigen::VectorXd &p, const Eigen::VectorXd &lower, const Eigen::VectorXd &upper)
 {
     const Eigen::VectorXd start = p;
-    m_lastFit = KnownAdditionFit::fit(m_model, m_x, m_y, p, lower, upper, m_settings);
+    m_lastFit = KnownAdditionFit::fit(m_model, m_x, m_y, m_w, p, lower, upper, m_settings);
     if (m_lastFit.status != KnownAdditionFit::Status::Singular)
         return true;
     // An iteration with no inverse tells nothing: keep the estimate it started from.

@@ -62,6 +62,7 @@ public:
     const KnownAdditionFit::Outcome &lastFit() const { return m_lastFit; }
     const std::vector<double> &volumesMl() const { return m_x; }
     const std::vector<double> &potentials() const { return m_y; }
+    const std::vector<double> &weights() const { return m_w; }
     QString logFileName() const { return m_log.currentFileName(); }
 
 signals:
@@ -97,6 +98,7 @@ private:
     Eigen::VectorXd m_upper;
     std::vector<double> m_x;   // mL
     std::vector<double> m_y;   // mV
+    std::vector<double> m_w;   // weight of each point: 1 / variance of its mean, 1/mV²
     float m_totalVolume = 0.f;
     float m_sampleBasis = 1.f;
     float m_requiredPrecision = 0.f;

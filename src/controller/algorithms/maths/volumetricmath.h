@@ -54,6 +54,25 @@ public:
         return d;
     }
 
+    // The inflection of the curve near a point: a cubic fitted by weighted
+    // least squares around a centre, the weights falling smoothly to 0 at
+    // `halfWidth` µL from it, and the centre moved to the cubic's inflection
+    // until the two agree. Points enter and leave the fit with no weight, so
+    // the volume found moves continuously with the data. False when the fit
+    // has fewer than five points or does not settle within `reach` µL of
+    // `centre`. volume in µL, value in mV.
+    static bool inflectionNear(const VolumeSeries &store, double centre, double halfWidth, double reach,
+                               double &volume, double &value);
+
+    // The inflection near point `centre`: the cubics over five points
+    // centred on each point from two before to two after it, each weighted
+    // by how near its inflection lies to its own centre (1 on it, 0 a step
+    // away), averaged. As the curve moves between the points, the weight
+    // passes from one window to the next, so the volume found moves
+    // continuously with the data. False when no window has its inflection
+    // within a step of its centre. volume in µL, value in mV.
+    static bool blendedInflection(const VolumeSeries &store, int centre, double &volume, double &value);
+
     // The volume (µL) at which the curve first crosses target: a walk along
     // the cubic of the crossing pair in steps of 0.1 µL, or the straight line
     // between the pair when the cubic misses it. False when neither finds one.
