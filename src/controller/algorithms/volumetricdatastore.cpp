@@ -14,6 +14,9 @@ const int kConfirmations = 5;
 const int kValleyWindow = 5;
 // The slope series begins with two entries that hold no measurement.
 const int kFirstMeasuredSlope = 2;
+// A break rises above the lowest slope before it by this many times the
+// noise of the slope.
+const double kNoiseRise = 8.0;
 // Breaks the end-of-run search keeps.
 const int kMaxBreaks = 64;
 // A slope counts as a maximum inside the curve only if the slope rose to it
@@ -189,15 +192,27 @@ int VolumetricDataStore::findBreaks(int first, double sign, int *breaks, int cap
         const double s = sign * m_slope[size_t(k)];
         return std::isfinite(s) ? s : 0.0;
     };
+    // The noise of the slope: the typical change from one slope to the
+    // next (the median absolute change, as a standard deviation). A break
+    // rises above the lowest slope before it by many times this.
+    std::vector<double> changes;
+    changes.reserve(size_t(std::max(n - first, 0)));
+    for (int k = first + 1; k < n; ++k)
+        changes.push_back(std::abs(m(k) - m(k - 1)));
+    double noise = 0.0;
+    if (!changes.empty()) {
+        std::nth_element(changes.begin(), changes.begin() + changes.size() / 2, changes.end());
+        noise = changes[changes.size() / 2] * 1.4826 / std::sqrt(2.0);
+    }
     // Maxima inside the curve: the greatest slope within two places either
-    // side, risen to from below half of it, and not alone above half of it
-    // (a break spans two slopes of three points; a single noisy reading
-    // makes a lone one).
+    // side, risen to from below half of it by more than the noise, and not
+    // alone above half of it (a break spans two slopes of three points; a
+    // single noisy reading makes a lone one).
     int count = 0;
     double lowest = std::numeric_limits<double>::infinity();
     for (int k = first; k < n; ++k) {
         const double s = m(k);
-        bool peak = s > 0.0 && lowest < s * kRiseFraction;
+        bool peak = s > 0.0 && lowest < s * kRiseFraction && s - lowest > kNoiseRise * noise;
         for (int j = std::max(first, k - 2); peak && j <= std::min(n - 1, k + 2); ++j)
             peak = j == k || (j < k ? m(j) < s : m(j) <= s);
         const bool wide = (k > first && m(k - 1) > s * kRiseFraction) || (k + 1 < n && m(k + 1) > s * kRiseFraction);
