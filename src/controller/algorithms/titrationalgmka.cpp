@@ -16,12 +16,8 @@ const double kLowestConcentration = 1e-9; // mol/L
 const double kHighestConcentration = 2.0; // mol/L
 const double kE0Limit = 1024.0;           // mV
 const int kLogFilesKept = 100;
-// The readings of an addition: those of the later half of its wait, at
-// least three, at most two minutes of them; a spread never taken as below
-// the meter's resolution of 0.1 mV.
-const double kSettledPart = 0.5;
-const int kLeastSettledReadings = 3;
-const int kMostSettledReadings = 480;
+// The spread of readings is never taken as below the meter's resolution
+// of 0.1 mV.
 const double kLeastVariance = 0.1 * 0.1 / 12.0; // mV²
 
 // Equal within 1e-12 of the smaller magnitude.
@@ -98,18 +94,14 @@ void TitrationAlgMKA::setLimits()
 
 void TitrationAlgMKA::addData()
 {
-    // The potential of an addition is the mean of the readings of the later
-    // half of its wait, when the electrode has settled; its weight in the fit
-    // is how well that mean is known.
+    // The potential of an addition is the mean of the readings of its stable
+    // window; its weight in the fit is how well that mean is known.
     double sum = 0.0, squares = 0.0;
     int count = 0;
-    const int n = m_temporal->size();
-    const double window = double(stabilityElapsed()) * kSettledPart;
-    long stamp = 0, last = 0;
+    long stamp = 0;
     double volume = 0.0, reading = 0.0;
-    m_temporal->getLastPoint(last, volume, reading);
-    for (int k = n - 1; k >= 0 && count < kMostSettledReadings; --k) {
-        if (!m_temporal->getPoint(k, stamp, volume, reading) || double(stamp) < double(last) - window)
+    for (int k = std::max(m_windowStart, 0); m_windowStart >= 0 && k < m_temporal->size(); ++k) {
+        if (!m_temporal->getPoint(k, stamp, volume, reading))
             break;
         sum += reading;
         squares += reading * reading;
@@ -117,7 +109,7 @@ void TitrationAlgMKA::addData()
     }
     double potential = 0.0;
     double variance = kLeastVariance;
-    if (count >= kLeastSettledReadings) {
+    if (count >= 3) {
         potential = sum / count;
         variance = std::max((squares - sum * potential) / (count - 1), kLeastVariance) / count;
     } else {
@@ -159,7 +151,7 @@ unsigned int TitrationAlgMKA::run()
     unsigned int dose = 0;
     switch (m_state) {
     case MKA_FIRST_READING:
-        if (!isStable())
+        if (!settledWindowReady())
             break;
         m_additionCount = 0;
         addData();
@@ -168,23 +160,36 @@ unsigned int TitrationAlgMKA::run()
         dose = kFirstDose;
         break;
     case MKA_FIRST_ADDITION:
-        if (isStable())
+        if (settledWindowReady())
             dose = firstAddition();
         break;
     case MKA_FIRST_ESTIMATE:
-        if (isStable())
+        if (settledWindowReady())
             dose = firstEstimate();
         break;
     case MKA_ADDITIONS:
-        if (isStable())
+        if (settledWindowReady())
             dose = furtherAddition();
         break;
     case MKA_DONE:
     default:
         break;
     }
+    if (dose > 0)
+        m_windowStart = -1; // the next addition settles anew
     m_dispensed += dose;
     return dose;
+}
+
+bool TitrationAlgMKA::settledWindowReady()
+{
+    // Stable first; then the readings of the stable window are gathered.
+    if (m_windowStart < 0) {
+        if (!isStable())
+            return false;
+        m_windowStart = m_temporal->size();
+    }
+    return m_temporal->size() - m_windowStart >= kWindowReadings;
 }
 
 unsigned int TitrationAlgMKA::firstAddition()

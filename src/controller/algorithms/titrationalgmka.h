@@ -71,6 +71,12 @@ signals:
     void sigMKACompleteToUI(QVariant conc, QVariant slope, QVariant spike);
 
 private:
+    // Readings of the stable window: fifteen seconds of samples after the
+    // reading became stable, over which the electrode settles the rest of
+    // the way and the noise averages out.
+    static constexpr int kWindowReadings = 60;
+    // True once the reading is stable and the window's readings are in.
+    bool settledWindowReady();
     unsigned int firstAddition();
     unsigned int firstEstimate();
     unsigned int furtherAddition();
@@ -113,5 +119,8 @@ private:
     LogManager m_log;
     std::vector<double> m_concentrations;
     int m_extraDoses = 0;
+    // First sample of the stable window of the present addition; -1 until
+    // the reading is stable.
+    int m_windowStart = -1;
     int m_singularFits = 0;
 };
