@@ -476,6 +476,12 @@ TEST_F(ClosedLoopRun, CurvesStartingPastTheMinimumVolume)
     const AlgorithmDriver::Outcome tail = replay(measured(acid, {12000.0, 20000.0, 150.0, 0.0, 0.3, 2}));
     EXPECT_EQ(tail.results[0], 0.0);
     EXPECT_TRUE(tail.reason.endsWith(QLatin1String("; no equivalence point found"))) << tail.reason.toStdString();
+    // A pyridine-like base replayed at 0.2 mL steps starts at its steepest;
+    // its end point is its inflection (9.986 mL), within 0.1 %.
+    const AcidBaseBeaker base(weakBase());
+    const AlgorithmDriver::Outcome pyridine = replay(measured(base, {0.0, 12000.0, 200.0, 0.0, 0.05, 1}));
+    const double inflection = inflectionUl(base, 9.0, 10.5);
+    EXPECT_NEAR(pyridine.results[0], inflection, inflection * 0.001);
 }
 
 // Two breaks at dynamic 3-34 µL steps with 1 mV of noise: both within 1 %,

@@ -98,8 +98,7 @@ std::array<double, 3> TitrationAlgMillivolt::getResults()
         const double w = m_volumetric->peakVolumeStep(i);
         const double spacing = index >= 2 ? (m_volumetric->volumeAt(index) - m_volumetric->volumeAt(index - 2)) / 2.0 : w;
         double v = 0.0, value = 0.0;
-        const bool blend = qEnvironmentVariableIsSet("BLEND");
-        if (blend ? !VolumetricMath::blendedInflection(*m_volumetric, index - 1, v, value) : !VolumetricMath::inflectionNear(*m_volumetric, p, kWindowSteps * spacing, w, v, value)) {
+        if (!VolumetricMath::inflectionNear(*m_volumetric, p, kWindowSteps * spacing, w, v, value)) {
             const VolumetricMath::Cubic c = VolumetricMath::fit5(*m_volumetric, index - 3);
             const VolumetricMath::Cubic d = VolumetricMath::derivative(VolumetricMath::derivative(c));
             const double x = -d(0) / d(1);

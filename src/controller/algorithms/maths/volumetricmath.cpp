@@ -75,11 +75,14 @@ double biweight(double u)
     return r > 0.0 ? r * r : 0.0;
 }
 
-// The inflection (in units of halfWidth from centre) and the cubic's value
-// there; false with fewer than five weighted points or a cubic with no bend.
+// The inflection nearest the centre (in units of halfWidth from it) of a
+// polynomial of degree Degree weighted round the centre, and its value
+// there; false with too few weighted points or a polynomial with no bend.
+template <int Degree>
 bool weightedInflection(const VolumeSeries &store, double centre, double halfWidth, double &u, double &value)
 {
-    using Rows = Eigen::Matrix<double, Eigen::Dynamic, 4, Eigen::RowMajor, kMaxWindowPoints, 4>;
+    constexpr int Cols = Degree + 1;
+    using Rows = Eigen::Matrix<double, Eigen::Dynamic, Cols, Eigen::RowMajor, kMaxWindowPoints, Cols>;
     using Column = Eigen::Matrix<double, Eigen::Dynamic, 1, 0, kMaxWindowPoints, 1>;
     // The points of the window, found from the first one past its left edge.
     const int n = store.size();
@@ -97,25 +100,46 @@ bool weightedInflection(const VolumeSeries &store, double centre, double halfWid
             break;
         ++count;
     }
-    if (count < 5)
+    if (count < Cols + 1)
         return false;
-    Rows a(count, 4);
+    Rows a(count, Cols);
     Column y(count);
     for (int r = 0; r < count; ++r) {
         const double x = (store.volumeAt(lo + r) - centre) / halfWidth;
         const double w = std::sqrt(biweight(x));
-        a.row(r) << w, w * x, w * x * x, w * x * x * x;
+        double power = w;
+        for (int j = 0; j < Cols; ++j) {
+            a(r, j) = power;
+            power *= x;
+        }
         y(r) = w * store.dataAt(lo + r);
     }
-    const Eigen::Vector4d c = a.colPivHouseholderQr().solve(y);
-    // c0 + c1 u + c2 u² + c3 u³ bends where 2 c2 + 6 c3 u = 0.
-    if (!(std::abs(c(3)) > 0.0))
-        return false;
-    u = -c(2) / (3.0 * c(3));
-    value = c(0) + u * (c(1) + u * (c(2) + u * c(3)));
+    const Eigen::Matrix<double, Cols, 1> c = a.colPivHouseholderQr().solve(y);
+    // Newton on the second derivative from the centre.
+    auto derivativeAt = [&](int order, double t) {
+        double sum = 0.0;
+        for (int j = order; j < Cols; ++j) {
+            double f = 1.0;
+            for (int m = 0; m < order; ++m)
+                f *= double(j - m);
+            sum += f * c(j) * std::pow(t, j - order);
+        }
+        return sum;
+    };
+    double t = 0.0;
+    for (int iteration = 0; iteration < 30; ++iteration) {
+        const double d3 = derivativeAt(3, t);
+        if (!(std::abs(d3) > 0.0))
+            return false;
+        const double step = derivativeAt(2, t) / d3;
+        t -= std::clamp(step, -0.5, 0.5);
+        if (std::abs(step) < 1e-12)
+            break;
+    }
+    u = t;
+    value = derivativeAt(0, t);
     return std::isfinite(u) && std::isfinite(value);
 }
-
 } // namespace
 
 bool VolumetricMath::inflectionNear(const VolumeSeries &store, double centre, double halfWidth, double reach,
@@ -127,7 +151,7 @@ bool VolumetricMath::inflectionNear(const VolumeSeries &store, double centre, do
     double c = centre;
     for (int iteration = 0; iteration < 50; ++iteration) {
         double u = 0.0, y = 0.0;
-        if (!weightedInflection(store, c, halfWidth, u, y))
+        if (!weightedInflection<3>(store, c, halfWidth, u, y))
             return false;
         // Never more than half the window at a time, so the centre walks
         // rather than jumps to a bend of the cubic far outside its points.
@@ -143,30 +167,6 @@ bool VolumetricMath::inflectionNear(const VolumeSeries &store, double centre, do
         }
     }
     return false;
-}
-
-bool VolumetricMath::blendedInflection(const VolumeSeries &store, int centre, double &volume, double &value)
-{
-    const int n = store.size();
-    double weights = 0.0, volumes = 0.0, values = 0.0;
-    for (int j = std::max(centre - 2, 2); j <= std::min(centre + 2, n - 3); ++j) {
-        const Cubic c = fit5(store, j - 2);
-        const Cubic d = derivative(derivative(c));
-        const double x = -d(0) / d(1);
-        const double v = store.volumeAt(j);
-        const double step = x * 1000.0 > v ? store.volumeAt(j + 1) - v : v - store.volumeAt(j - 1);
-        const double w = 1.0 - std::abs(x * 1000.0 - v) / step;
-        if (!std::isfinite(w) || !(w > 0.0))
-            continue;
-        weights += w;
-        volumes += w * x * 1000.0;
-        values += w * polyval(c, x);
-    }
-    if (!(weights > 0.0))
-        return false;
-    volume = volumes / weights;
-    value = values / weights;
-    return true;
 }
 
 VolumetricMath::Line VolumetricMath::fit3(const VolumeSeries &store, int i)

@@ -64,15 +64,6 @@ public:
     static bool inflectionNear(const VolumeSeries &store, double centre, double halfWidth, double reach,
                                double &volume, double &value);
 
-    // The inflection near point `centre`: the cubics over five points
-    // centred on each point from two before to two after it, each weighted
-    // by how near its inflection lies to its own centre (1 on it, 0 a step
-    // away), averaged. As the curve moves between the points, the weight
-    // passes from one window to the next, so the volume found moves
-    // continuously with the data. False when no window has its inflection
-    // within a step of its centre. volume in µL, value in mV.
-    static bool blendedInflection(const VolumeSeries &store, int centre, double &volume, double &value);
-
     // The volume (µL) at which the curve first crosses target: a walk along
     // the cubic of the crossing pair in steps of 0.1 µL, or the straight line
     // between the pair when the cubic misses it. False when neither finds one.
