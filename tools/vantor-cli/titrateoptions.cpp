@@ -51,6 +51,8 @@ QString TitrateOptions::usage()
         "                           commas, semicolons, tabs or blanks; a header may name the units\n"
         "                           (mL or uL, mV or pH); without one uL and mV\n"
         "  --temperature C          of a replayed curve in pH, for the Nernst slope (default 25)\n"
+        "  --mka-precision PCT      known addition ends when its last three results agree this well\n"
+        "                           (relative standard deviation, default 2; at most 5 additions)\n"
         "  --technique NAME         \"Preset End Pt.\", \"Equivalence Pt.\" (default), \"Multiple Known Addition\"\n"
         "  --endpoints N            end points wanted, 1 to 3 (default 1)\n"
         "  --endpoint-mv A[,B[,C]]  end-point potentials of \"Preset End Pt.\"\n"
@@ -92,9 +94,10 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
     const QCommandLineOption verboseOpt(QStringLiteral("verbose"));
     const QCommandLineOption runsOpt(QStringLiteral("runs"), QString(), QStringLiteral("N"));
     const QCommandLineOption temperatureOpt(QStringLiteral("temperature"), QString(), QStringLiteral("C"));
+    const QCommandLineOption mkaPrecisionOpt(QStringLiteral("mka-precision"), QString(), QStringLiteral("PCT"));
     p.addOptions({scenarioOpt, replayOpt, techniqueOpt, endpointsOpt, endpointMvOpt, controlOpt, maxOpt,
                   preDoseOpt, preStirOpt, sampleOpt, methodOpt, speedOpt, timeoutOpt, sandboxOpt, verboseOpt,
-                  runsOpt, temperatureOpt});
+                  runsOpt, temperatureOpt, mkaPrecisionOpt});
 
     if (!p.parse(QStringList{QStringLiteral("titrate")} + arguments)) {
         *error = p.errorText();
@@ -207,6 +210,13 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
         }
         temperatureC = v;
     }
+    if (p.isSet(mkaPrecisionOpt)) {
+        if (!number(p.value(mkaPrecisionOpt), 0.1, 20, &v)) {
+            *error = QStringLiteral("--mka-precision must be between 0.1 and 20 %");
+            return false;
+        }
+        mkaPrecisionPct = float(v);
+    }
     sandbox = p.value(sandboxOpt);
     verbose = p.isSet(verboseOpt);
     if (p.isSet(methodOpt)) {
@@ -224,7 +234,7 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
             return false;
         }
         for (const QCommandLineOption *o : {&techniqueOpt, &endpointsOpt, &endpointMvOpt, &controlOpt, &maxOpt,
-                                            &preDoseOpt, &preStirOpt, &sampleOpt}) {
+                                            &preDoseOpt, &preStirOpt, &sampleOpt, &mkaPrecisionOpt}) {
             if (p.isSet(*o)) {
                 *error = QStringLiteral("--%1 cannot be given with --method: the stored method decides")
                              .arg(o->names().first());

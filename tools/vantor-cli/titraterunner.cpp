@@ -192,6 +192,7 @@ MethodDraft TitrateRunner::draftOf(const Scenario &scenario) const
         d.titrantName = QStringLiteral("Standard");
         d.titrantMolPerL = float(p.titrantConcentration);
         d.totalSolutionMl = float(p.volumeMl);
+        d.mkaPrecisionPct = o.mkaPrecisionPct;
         d.sampleMl = float(p.volumeMl);
     }
     return d;
