@@ -25,8 +25,6 @@ public:
     bool parse(const QByteArray &text, double temperatureC, QString *error);
 
     const std::vector<Point> &points() const { return m_points; }
-    QString volumeUnit() const { return m_volumeMl ? QStringLiteral("mL") : QStringLiteral("uL"); }
-    QString signalUnit() const { return m_ph ? QStringLiteral("pH") : QStringLiteral("mV"); }
     // The curve as the simulation path reads it, full precision.
     QByteArray simulationText() const;
 
