@@ -164,8 +164,8 @@ TEST_F(RunController, SimulationFilesPlayInTurnAndWrapRound)
         ASSERT_TRUE(tc->inSimulation());
         EXPECT_EQ(tc->simDataReader().index(), r.file);
         EXPECT_LT(playUntilEnd(), 20) << "file " << r.file << ", " << r.maxMl << " mL";
-        if (r.maxMl > 50.f) { // the file ran out; the algorithm said nothing
-            EXPECT_TRUE(tc->lastRun().reasonForEnd.startsWith(QLatin1String("Unknown;"))) << tc->lastRun().reasonForEnd.toStdString();
+        if (r.maxMl > 50.f) { // the file ran out
+            EXPECT_TRUE(tc->lastRun().reasonForEnd.startsWith(QLatin1String("end of data;"))) << tc->lastRun().reasonForEnd.toStdString();
         }
     }
     EXPECT_EQ(completed.count(), 4);
