@@ -177,6 +177,19 @@ TEST_F(RunController, SimulationFilesPlayInTurnAndWrapRound)
     tc->qmlStopTitration();
 }
 
+TEST_F(RunController, SimulationKeepsFractionsOfAMicrolitre)
+{
+    writeTextFile(simFile(1), QStringLiteral("0.25, 1\n10.5, 2\n20.75, 3\n"));
+    tc->qmlStartTitration();
+    ASSERT_TRUE(tc->inSimulation());
+    while (tc->volumetricStore()->size() < 2)
+        tc->simTimerUpdate();
+    EXPECT_EQ(tc->volumetricStore()->volumeAt(0), 0.25);
+    EXPECT_EQ(tc->volumetricStore()->volumeAt(1), 10.5);
+    tc->qmlStopTitration();
+    QFile::remove(simFile(1));
+}
+
 TEST_F(RunController, StopInsideTheCompletedSignalReleasesTheRunAfterTheEmit)
 {
     writeTextFile(simFile(1), QStringLiteral("0,100\n500,98\n1000,96\n"));
