@@ -490,8 +490,8 @@ TEST(VantorCli, RunsTheMethodOfAMethodFile)
 }
 
 // Other instruments' files replay as the same curve: semicolons with mL
-// and pH (decimal commas), blank-separated columns, comma-separated µL and
-// mV all give the same end point; a curve that stops before its break ends
+// and pH (decimal commas), blank-separated columns (a decimal comma in the
+// second), comma-separated µL and mV all give the same end point; a curve that stops before its break ends
 // with "end of data".
 TEST(VantorCli, ReplaysOtherInstrumentsFiles)
 {
@@ -505,7 +505,8 @@ TEST(VantorCli, ReplaysOtherInstrumentsFiles)
         const QString ml = QString::number(ul / 1000.0, 'f', 4);
         semicolons += QString(ml).replace(QLatin1Char('.'), QLatin1Char(',')) + QLatin1Char(';')
                       + QString::number(ph, 'f', 6).replace(QLatin1Char('.'), QLatin1Char(',')) + QLatin1Char('\n');
-        blanks += ml + QStringLiteral("   ") + QString::number(ph, 'f', 6) + QLatin1Char('\n');
+        blanks += ml + QStringLiteral("   ") + QString::number(ph, 'f', 6).replace(QLatin1Char('.'), QLatin1Char(','))
+                  + QLatin1Char('\n');
         const QString row = QStringLiteral("%1, %2\n").arg(ul, 0, 'f', 1).arg((7.0 - ph) * nernst, 0, 'g', 17);
         plain += row;
         if (ul < 4000.0)

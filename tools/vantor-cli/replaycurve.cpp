@@ -15,14 +15,20 @@ namespace {
 QStringList fieldsOf(const QString &line)
 {
     QStringList fields;
-    if (line.contains(QLatin1Char(';')))
+    if (line.contains(QLatin1Char(';'))) {
         fields = line.split(QLatin1Char(';'));
-    else if (line.contains(QLatin1Char('\t')))
+    } else if (line.contains(QLatin1Char('\t'))) {
         fields = line.split(QLatin1Char('\t'));
-    else if (line.contains(QLatin1Char(',')) && !line.trimmed().contains(QRegularExpression(QStringLiteral("\\d,\\d+\\s+\\S"))))
-        return line.split(QLatin1Char(','));
-    else
+    } else {
+        // Blanks separate unless a field ends with a comma ("0.15, 7.25") or
+        // there is only one field ("150,7.25"): then commas do.
         fields = line.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+        bool commas = fields.size() < 2;
+        for (const QString &f : fields)
+            commas = commas || f.endsWith(QLatin1Char(','));
+        if (commas)
+            return line.split(QLatin1Char(','));
+    }
     for (QString &f : fields)
         f.replace(QLatin1Char(','), QLatin1Char('.'));
     return fields;
