@@ -246,16 +246,20 @@ void TitrationController::simulationStep()
     double data = 0.0, volume = 0.0;
     if (!m_simData.next(data, volume)) {
         // The curve is over: the run ends here, whatever its volume limit,
-        // and no made-up point joins the curve.
+        // and no made-up point joins the curve; the algorithm, which did not
+        // end the run, learns why it ended.
         m_simData.closeAndAdvance();
+        if (m_algorithm && !m_algorithm->isEnded())
+            m_algorithm->reasonForEnd = QStringLiteral("end of data");
         m_state = TITRATION_STATE_FINISHED;
         return;
     }
-    const int microlitres = int(volume);
-    m_volumetric->addPoint(double(microlitres), data);
+    // Fractions of a microlitre are kept: dynamic doses of a few µL read
+    // to 0.01 µL would lose a tenth of their size.
+    m_volumetric->addPoint(volume, data);
     if (!m_algorithm)
         return; // stopped by a listener of the new point
-    if (microlitres < dm()->getTitratrationOrStandardardizationMaxVolmL() * 1000.f && !m_algorithm->isEnded())
+    if (volume < dm()->getTitratrationOrStandardardizationMaxVolmL() * 1000.f && !m_algorithm->isEnded())
         return;
     m_simData.closeAndAdvance();
     m_state = TITRATION_STATE_FINISHED;

@@ -39,6 +39,7 @@ void MethodDraft::fill(MethodModel &m) const
     s->setSampleAmount(QStringLiteral("Fixed Volume"));
     s->setSampleAmountValue(sampleMl);
     s->setTotalSolutionVolume(totalSolutionMl);
+    s->setMkaProcessControlPrecision(mkaPrecisionPct);
     s->setResultUnits(resultUnits);
     s->setReactionRatio(1.0f);
     s->setBlankRequired(QStringLiteral("No"));

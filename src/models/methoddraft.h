@@ -27,6 +27,7 @@ struct MethodDraft
     QString stirSpeed = QStringLiteral("Medium");
     float sampleMl = 10.f;                        // a fixed volume of sample
     float totalSolutionMl = 50.f;                 // known addition: all the liquid in the beaker
+    float mkaPrecisionPct = 2.f;                  // known addition: ends when the last three agree this well
     QString resultUnits = QStringLiteral("M");
 
     // "User Defined" process control: the routine values to start from.

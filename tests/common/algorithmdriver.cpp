@@ -17,7 +17,7 @@ AlgorithmDriver::AlgorithmDriver(ManualClock &clock, EngineDataStandIn &dm)
 AlgorithmDriver::Outcome AlgorithmDriver::run(TitrationAlgorithmBase &algorithm, TemporalDataStore &temporal,
                                               const std::function<double(double)> &potentialMv)
 {
-    std::mt19937 random(20260101u);
+    std::mt19937 random(noiseSeed);
     std::normal_distribution<double> noise(0.0, 1.0);
     const double blend = 1.0 - std::exp(-0.25 / lagSeconds);
     const qint64 start = m_clock.monotonicMs();

@@ -32,6 +32,7 @@ public:
 
     double lagSeconds = 1.5;
     double noiseMv = 0.0;
+    unsigned noiseSeed = 20260101u;
     int maxSamples = 200000;
     // Called before each sample with the µL delivered so far (for changes during a run).
     std::function<void(double deliveredUl)> beforeSample;

@@ -10,6 +10,7 @@
 #include "controller/burettecontroller.h"
 #include "controller/mspcontroller.h"
 #include "controller/slaveclock.h"
+#include "beaker.h"
 #include "datamanagerbase.h"
 #include "datamigrator.h"
 #include "models/methoddraft.h"
@@ -490,6 +491,55 @@ TEST(VantorCli, RunsTheMethodOfAMethodFile)
     EXPECT_EQ(code, 0);
     EXPECT_TRUE(listed.contains(QStringLiteral("\tAcetic 25 mL~1\tpH\tEquivalence Pt.\n"))) << listed.toStdString();
     EXPECT_TRUE(listed.endsWith(QStringLiteral("2 of 10 methods\n"))) << listed.toStdString();
+}
+
+// Other instruments' files replay as the same curve: semicolons with mL
+// and pH (decimal commas), blank-separated columns (a decimal comma in the
+// second), comma-separated µL and mV all give the same end point; a curve that stops before its break ends
+// with "end of data".
+TEST(VantorCli, ReplaysOtherInstrumentsFiles)
+{
+    QTemporaryDir work;
+    const double nernst = Beaker::nernstSlope(25.0);
+    QString semicolons = QStringLiteral("Volume (mL);pH\n"), blanks = QStringLiteral("ml   ph\n");
+    QString plain, cut;
+    for (int k = 0; k <= 120; ++k) {
+        const double ul = 60.0 + 83.5 * k; // fractional µL
+        const double ph = QString::number(7.0 + 3.0 * std::tanh((ul - 5020.0) / 250.0), 'f', 6).toDouble();
+        const QString ml = QString::number(ul / 1000.0, 'f', 4);
+        semicolons += QString(ml).replace(QLatin1Char('.'), QLatin1Char(',')) + QLatin1Char(';')
+                      + QString::number(ph, 'f', 6).replace(QLatin1Char('.'), QLatin1Char(',')) + QLatin1Char('\n');
+        blanks += ml + QStringLiteral("   ") + QString::number(ph, 'f', 6).replace(QLatin1Char('.'), QLatin1Char(','))
+                  + QLatin1Char('\n');
+        const QString row = QStringLiteral("%1, %2\n").arg(ul, 0, 'f', 1).arg((7.0 - ph) * nernst, 0, 'g', 17);
+        plain += row;
+        if (ul < 4000.0)
+            cut += row;
+    }
+    const QStringList texts{plain, semicolons, blanks};
+    std::vector<double> endPoints;
+    for (int i = 0; i < texts.size(); ++i) {
+        const QString file = work.filePath(QStringLiteral("curve-%1.txt").arg(i));
+        writeTextFile(file, texts[i]);
+        int code = -1;
+        const QString out = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--replay"), file}, &code);
+        ASSERT_EQ(code, 0) << out.toStdString();
+        const QRegularExpressionMatch m =
+            QRegularExpression(QStringLiteral("End Point 1 Volume Dispensed \\(ul\\):([0-9.]+)\n")).match(out);
+        ASSERT_TRUE(m.hasMatch()) << out.toStdString();
+        EXPECT_NEAR(m.captured(1).toDouble(), 5020.0, 8.0) << out.toStdString();
+        endPoints.push_back(m.captured(1).toDouble());
+    }
+    EXPECT_NEAR(endPoints[1], endPoints[0], 0.01) << "mL and pH, semicolons";
+    EXPECT_NEAR(endPoints[2], endPoints[0], 0.01) << "blanks";
+
+    const QString file = work.filePath(QStringLiteral("cut.txt"));
+    writeTextFile(file, cut);
+    int code = -1;
+    const QString out = runVantorCli({QStringLiteral("titrate"), QStringLiteral("--replay"), file}, &code);
+    EXPECT_EQ(code, 0) << out.toStdString();
+    EXPECT_TRUE(out.contains(QStringLiteral("Reason for end: end of data; no equivalence point found")))
+        << out.toStdString();
 }
 
 TEST(VantorCli, BadOptionsAndFilesAreRefusedWithAMessage)

@@ -446,20 +446,20 @@ TEST_F(Algorithm, EndsAtTheVolumeLimit)
     EXPECT_EQ(probe.reasonForEnd, QStringLiteral("Reached max dispense vol: 20000"));
 }
 
-TEST_F(Algorithm, ResultFallsBackOnThePeakWhenTheCubicCannotBeFitted)
+TEST_F(Algorithm, AStepBetweenTwoPointsEndsBetweenThem)
 {
     dm.displayPh = true;
     dm.noOfEndpoints = 3;
     TitrationAlgMillivolt algorithm(&temporal, &volumetric);
     volumetric.setMinimumVolume(1.0);
-    // The steepest slope is at the third point: no three points before it.
-    const double data[8] = {200.0, 100.0, 0.0, -5.0, -8.0, -10.0, -11.0, -12.0};
-    for (int k = 0; k < 8; ++k)
+    // The whole break lies between 200 and 300 µL.
+    const double data[16] = {0.0, -1.0, -2.0, -202.0, -203.0, -204.0, -205.0, -206.0,
+                             -207.0, -208.0, -209.0, -210.0, -211.0, -212.0, -213.0, -214.0};
+    for (int k = 0; k < 16; ++k)
         volumetric.addPoint(100.0 * k, data[k]);
     const std::array<double, 3> results = algorithm.getResults();
-    EXPECT_EQ(volumetric.peakIndex(0), 2);
-    EXPECT_EQ(results[0], 100.0) << "the midpoint rule's volume";
-    EXPECT_FLOAT_EQ(dm.ep1, dm.millivoltsToPH(0.0f)) << "the stored data at the peak, as pH";
+    EXPECT_NEAR(results[0], 250.0, 1.0);
+    EXPECT_NEAR(dm.ep1, dm.millivoltsToPH(-102.0f), 0.02) << "half way down the step, as pH";
     EXPECT_EQ(results[2], 0.0) << "no third end point";
 }
 

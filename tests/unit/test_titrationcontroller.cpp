@@ -164,8 +164,8 @@ TEST_F(RunController, SimulationFilesPlayInTurnAndWrapRound)
         ASSERT_TRUE(tc->inSimulation());
         EXPECT_EQ(tc->simDataReader().index(), r.file);
         EXPECT_LT(playUntilEnd(), 20) << "file " << r.file << ", " << r.maxMl << " mL";
-        if (r.maxMl > 50.f) { // the file ran out; the algorithm said nothing
-            EXPECT_TRUE(tc->lastRun().reasonForEnd.startsWith(QLatin1String("Unknown;"))) << tc->lastRun().reasonForEnd.toStdString();
+        if (r.maxMl > 50.f) { // the file ran out
+            EXPECT_TRUE(tc->lastRun().reasonForEnd.startsWith(QLatin1String("end of data;"))) << tc->lastRun().reasonForEnd.toStdString();
         }
     }
     EXPECT_EQ(completed.count(), 4);
@@ -175,6 +175,19 @@ TEST_F(RunController, SimulationFilesPlayInTurnAndWrapRound)
     tc->qmlStartTitration();
     EXPECT_FALSE(tc->inSimulation()) << "no file: a real run";
     tc->qmlStopTitration();
+}
+
+TEST_F(RunController, SimulationKeepsFractionsOfAMicrolitre)
+{
+    writeTextFile(simFile(1), QStringLiteral("0.25, 1\n10.5, 2\n20.75, 3\n"));
+    tc->qmlStartTitration();
+    ASSERT_TRUE(tc->inSimulation());
+    while (tc->volumetricStore()->size() < 2)
+        tc->simTimerUpdate();
+    EXPECT_EQ(tc->volumetricStore()->volumeAt(0), 0.25);
+    EXPECT_EQ(tc->volumetricStore()->volumeAt(1), 10.5);
+    tc->qmlStopTitration();
+    QFile::remove(simFile(1));
 }
 
 TEST_F(RunController, StopInsideTheCompletedSignalReleasesTheRunAfterTheEmit)

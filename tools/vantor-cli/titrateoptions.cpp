@@ -47,7 +47,12 @@ QString TitrateOptions::usage()
     return QStringLiteral(
         "usage: vantor-cli titrate (--scenario FILE | --replay FILE) [options]\n"
         "  --scenario FILE          titrate the beaker of a virtual-instrument scenario (JSON)\n"
-        "  --replay FILE            replay a curve file (lines \"volume uL, mV\")\n"
+        "  --replay FILE            replay a curve file: volume and signal columns separated by\n"
+        "                           commas, semicolons, tabs or blanks; a header may name the units\n"
+        "                           (mL or uL, mV or pH); without one uL and mV\n"
+        "  --temperature C          of a replayed curve in pH, for the Nernst slope (default 25)\n"
+        "  --mka-precision PCT      known addition ends when its last three results agree this well\n"
+        "                           (relative standard deviation, default 2; at most 5 additions)\n"
         "  --technique NAME         \"Preset End Pt.\", \"Equivalence Pt.\" (default), \"Multiple Known Addition\"\n"
         "  --endpoints N            end points wanted, 1 to 3 (default 1)\n"
         "  --endpoint-mv A[,B[,C]]  end-point potentials of \"Preset End Pt.\"\n"
@@ -88,9 +93,11 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
     const QCommandLineOption sandboxOpt(QStringLiteral("sandbox"), QString(), QStringLiteral("DIR"));
     const QCommandLineOption verboseOpt(QStringLiteral("verbose"));
     const QCommandLineOption runsOpt(QStringLiteral("runs"), QString(), QStringLiteral("N"));
+    const QCommandLineOption temperatureOpt(QStringLiteral("temperature"), QString(), QStringLiteral("C"));
+    const QCommandLineOption mkaPrecisionOpt(QStringLiteral("mka-precision"), QString(), QStringLiteral("PCT"));
     p.addOptions({scenarioOpt, replayOpt, techniqueOpt, endpointsOpt, endpointMvOpt, controlOpt, maxOpt,
                   preDoseOpt, preStirOpt, sampleOpt, methodOpt, speedOpt, timeoutOpt, sandboxOpt, verboseOpt,
-                  runsOpt});
+                  runsOpt, temperatureOpt, mkaPrecisionOpt});
 
     if (!p.parse(QStringList{QStringLiteral("titrate")} + arguments)) {
         *error = p.errorText();
@@ -196,6 +203,20 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
         }
         runs = int(v);
     }
+    if (p.isSet(temperatureOpt)) {
+        if (!number(p.value(temperatureOpt), -10, 110, &v)) {
+            *error = QStringLiteral("--temperature must be between -10 and 110 °C");
+            return false;
+        }
+        temperatureC = v;
+    }
+    if (p.isSet(mkaPrecisionOpt)) {
+        if (!number(p.value(mkaPrecisionOpt), 0.1, 20, &v)) {
+            *error = QStringLiteral("--mka-precision must be between 0.1 and 20 %");
+            return false;
+        }
+        mkaPrecisionPct = float(v);
+    }
     sandbox = p.value(sandboxOpt);
     if (p.isSet(sandboxOpt) && sandbox.trimmed().isEmpty()) {
         *error = QStringLiteral("--sandbox needs a folder");
@@ -217,7 +238,7 @@ bool TitrateOptions::parse(const QStringList &arguments, QString *error)
             return false;
         }
         for (const QCommandLineOption *o : {&techniqueOpt, &endpointsOpt, &endpointMvOpt, &controlOpt, &maxOpt,
-                                            &preDoseOpt, &preStirOpt, &sampleOpt}) {
+                                            &preDoseOpt, &preStirOpt, &sampleOpt, &mkaPrecisionOpt}) {
             if (p.isSet(*o)) {
                 *error = QStringLiteral("--%1 cannot be given with --method: the stored method decides")
                              .arg(o->names().first());

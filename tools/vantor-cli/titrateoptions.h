@@ -24,6 +24,8 @@ struct TitrateOptions
     QString sandbox;           // where logs go; a temporary folder if empty
     bool verbose = false;
     int runs = 1;              // titrations back to back in one process
+    double temperatureC = 25.0; // of a replayed curve in pH, for its Nernst slope
+    float mkaPrecisionPct = 2.f; // known addition ends when the last three agree this well
 
     bool parse(const QStringList &arguments, QString *error);
     static QString usage();

@@ -8,6 +8,7 @@
 #include "controller/slaveclock.h"
 #include "methodcommand.h"
 #include "processresources.h"
+#include "replaycurve.h"
 #include "sandboxsession.h"
 #include "datamanagerbase.h"
 #include "models/methoddraft.h"
@@ -142,20 +143,22 @@ int TitrateRunner::loadInput(Scenario &scenario, QTextStream &err)
         return 2;
     }
     // A curve is points the engine can use; a file with fewer is refused
-    // before the run rather than titrated to a made-up end.
-    const QByteArray bytes = curve.read(kMaxReplayBytes);
-    int points = 0;
-    for (const QByteArray &line : bytes.split('\n')) {
-        double volume = 0.0, mv = 0.0;
-        if (line.size() <= SimDataReader::MaxLineChars
-            && SimDataReader::parseLine(QString::fromLatin1(line), volume, mv))
-            ++points;
-    }
-    if (points < kMinReplayPoints) {
-        err << "vantor-cli: the curve " << m_options.replayFile << " holds " << points
-            << " points (lines \"volume uL, mV\"); at least " << kMinReplayPoints << " are needed\n";
+    // before the run rather than titrated to a made-up end. Other
+    // instruments' separators and units become the lines the simulation
+    // path plays.
+    ReplayCurve replay;
+    QString why;
+    if (!replay.parse(curve.read(kMaxReplayBytes), m_options.temperatureC, &why)) {
+        err << "vantor-cli: the curve " << m_options.replayFile << ": " << why << "\n";
         return 2;
     }
+    const int points = int(replay.points().size());
+    if (points < kMinReplayPoints) {
+        err << "vantor-cli: the curve " << m_options.replayFile << " holds " << points
+            << " points (volume and signal columns); at least " << kMinReplayPoints << " are needed\n";
+        return 2;
+    }
+    const QByteArray bytes = replay.simulationText();
     const QString target = Platform::path(QStringLiteral("/var/Kestrum/log/simdata/data-1.txt"));
     QDir().mkpath(QFileInfo(target).absolutePath());
     QFile::remove(target);
@@ -197,6 +200,7 @@ MethodDraft TitrateRunner::draftOf(const Scenario &scenario) const
         d.titrantName = QStringLiteral("Standard");
         d.titrantMolPerL = float(p.titrantConcentration);
         d.totalSolutionMl = float(p.volumeMl);
+        d.mkaPrecisionPct = o.mkaPrecisionPct;
         d.sampleMl = float(p.volumeMl);
     }
     return d;

@@ -10,6 +10,14 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+// Half-width of the weights of the end-point fit, in the curve's steps at
+// the peak: five or six points carry weight on even steps.
+const double kWindowSteps = 3.0;
+
+} // namespace
+
 TitrationAlgMillivolt::TitrationAlgMillivolt(TemporalDataStore *temporal, VolumetricDataStore *volumetric,
                                              QObject *parent)
     : TitrationAlgorithmBase(temporal, volumetric, parent)
@@ -80,17 +88,23 @@ std::array<double, 3> TitrationAlgMillivolt::getResults()
     // An end point that was not found is reported as 0, never as the start
     // of the curve.
     for (int i = 0; i < std::min<int>(found, 3); ++i) {
-        // The inflection of a cubic over three points before the peak to one
-        // after it, trusted only within one volume step of the peak.
+        // The inflection of a cubic weighted round the peak, found where the
+        // centre of the weights and the bend of the cubic agree, so that it
+        // follows the curve between the points; trusted only within one
+        // volume step of the peak. Without it, the cubic over three points
+        // before the peak to one after it.
         const int index = m_volumetric->peakIndex(i);
-        const VolumetricMath::Cubic c = VolumetricMath::fit5(*m_volumetric, index - 3);
-        const VolumetricMath::Cubic d = VolumetricMath::derivative(VolumetricMath::derivative(c));
-        const double x = -d(0) / d(1);
-        double value = VolumetricMath::polyval(c, x);
-        double v = x * 1000.0;
-
         const double p = m_volumetric->peakVolume(i);
         const double w = m_volumetric->peakVolumeStep(i);
+        const double spacing = index >= 2 ? (m_volumetric->volumeAt(index) - m_volumetric->volumeAt(index - 2)) / 2.0 : w;
+        double v = 0.0, value = 0.0;
+        if (!VolumetricMath::inflectionNear(*m_volumetric, p, kWindowSteps * spacing, w, v, value)) {
+            const VolumetricMath::Cubic c = VolumetricMath::fit5(*m_volumetric, index - 3);
+            const VolumetricMath::Cubic d = VolumetricMath::derivative(VolumetricMath::derivative(c));
+            const double x = -d(0) / d(1);
+            value = VolumetricMath::polyval(c, x);
+            v = x * 1000.0;
+        }
         if (!std::isfinite(v) || v > p + w || v < p - w) {
             v = p;
             value = m_volumetric->peakData(i);

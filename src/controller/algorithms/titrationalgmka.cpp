@@ -16,6 +16,9 @@ const double kLowestConcentration = 1e-9; // mol/L
 const double kHighestConcentration = 2.0; // mol/L
 const double kE0Limit = 1024.0;           // mV
 const int kLogFilesKept = 100;
+// The spread of readings is never taken as below the meter's resolution
+// of 0.1 mV.
+const double kLeastVariance = 0.1 * 0.1 / 12.0; // mV²
 
 // Equal within 1e-12 of the smaller magnitude.
 bool nearlyEqual(double a, double b)
@@ -91,11 +94,31 @@ void TitrationAlgMKA::setLimits()
 
 void TitrationAlgMKA::addData()
 {
-    double reading = 0.0;
-    m_temporal->lastFiltered(reading);
-    m_volumetric->addPoint(double(m_dispensed), reading);
+    // The potential of an addition is the mean of the readings of its stable
+    // window; its weight in the fit is how well that mean is known.
+    double sum = 0.0, squares = 0.0;
+    int count = 0;
+    long stamp = 0;
+    double volume = 0.0, reading = 0.0;
+    for (int k = std::max(m_windowStart, 0); m_windowStart >= 0 && k < m_temporal->size(); ++k) {
+        if (!m_temporal->getPoint(k, stamp, volume, reading))
+            break;
+        sum += reading;
+        squares += reading * reading;
+        ++count;
+    }
+    double potential = 0.0;
+    double variance = kLeastVariance;
+    if (count >= 3) {
+        potential = sum / count;
+        variance = std::max((squares - sum * potential) / (count - 1), kLeastVariance) / count;
+    } else {
+        m_temporal->lastFiltered(potential);
+    }
+    m_volumetric->addPoint(double(m_dispensed), potential);
     m_x.push_back(m_dispensed / 1000.0);
-    m_y.push_back(reading);
+    m_y.push_back(potential);
+    m_w.push_back(1.0 / variance);
 }
 
 double TitrationAlgMKA::responseSinceLastPoint() const
@@ -128,7 +151,7 @@ unsigned int TitrationAlgMKA::run()
     unsigned int dose = 0;
     switch (m_state) {
     case MKA_FIRST_READING:
-        if (!isStable())
+        if (!settledWindowReady())
             break;
         m_additionCount = 0;
         addData();
@@ -137,23 +160,36 @@ unsigned int TitrationAlgMKA::run()
         dose = kFirstDose;
         break;
     case MKA_FIRST_ADDITION:
-        if (isStable())
+        if (settledWindowReady())
             dose = firstAddition();
         break;
     case MKA_FIRST_ESTIMATE:
-        if (isStable())
+        if (settledWindowReady())
             dose = firstEstimate();
         break;
     case MKA_ADDITIONS:
-        if (isStable())
+        if (settledWindowReady())
             dose = furtherAddition();
         break;
     case MKA_DONE:
     default:
         break;
     }
+    if (dose > 0)
+        m_windowStart = -1; // the next addition settles anew
     m_dispensed += dose;
     return dose;
+}
+
+bool TitrationAlgMKA::settledWindowReady()
+{
+    // Stable first; then the readings of the stable window are gathered.
+    if (m_windowStart < 0) {
+        if (!isStable())
+            return false;
+        m_windowStart = m_temporal->size();
+    }
+    return m_temporal->size() - m_windowStart >= kWindowReadings;
 }
 
 unsigned int TitrationAlgMKA::firstAddition()
@@ -226,7 +262,7 @@ unsigned int TitrationAlgMKA::furtherAddition()
 bool TitrationAlgMKA::runFit(Eigen::VectorXd &p, const Eigen::VectorXd &lower, const Eigen::VectorXd &upper)
 {
     const Eigen::VectorXd start = p;
-    m_lastFit = KnownAdditionFit::fit(m_model, m_x, m_y, p, lower, upper, m_settings);
+    m_lastFit = KnownAdditionFit::fit(m_model, m_x, m_y, m_w, p, lower, upper, m_settings);
     if (m_lastFit.status != KnownAdditionFit::Status::Singular)
         return true;
     // An iteration with no inverse tells nothing: keep the estimate it started from.

@@ -62,6 +62,7 @@ public:
     const KnownAdditionFit::Outcome &lastFit() const { return m_lastFit; }
     const std::vector<double> &volumesMl() const { return m_x; }
     const std::vector<double> &potentials() const { return m_y; }
+    const std::vector<double> &weights() const { return m_w; }
     QString logFileName() const { return m_log.currentFileName(); }
 
 signals:
@@ -70,6 +71,12 @@ signals:
     void sigMKACompleteToUI(QVariant conc, QVariant slope, QVariant spike);
 
 private:
+    // Readings of the stable window: fifteen seconds of samples after the
+    // reading became stable, over which the electrode settles the rest of
+    // the way and the noise averages out.
+    static constexpr int kWindowReadings = 60;
+    // True once the reading is stable and the window's readings are in.
+    bool settledWindowReady();
     unsigned int firstAddition();
     unsigned int firstEstimate();
     unsigned int furtherAddition();
@@ -97,6 +104,7 @@ private:
     Eigen::VectorXd m_upper;
     std::vector<double> m_x;   // mL
     std::vector<double> m_y;   // mV
+    std::vector<double> m_w;   // weight of each point: 1 / variance of its mean, 1/mV²
     float m_totalVolume = 0.f;
     float m_sampleBasis = 1.f;
     float m_requiredPrecision = 0.f;
@@ -111,5 +119,8 @@ private:
     LogManager m_log;
     std::vector<double> m_concentrations;
     int m_extraDoses = 0;
+    // First sample of the stable window of the present addition; -1 until
+    // the reading is stable.
+    int m_windowStart = -1;
     int m_singularFits = 0;
 };

@@ -3,6 +3,7 @@
 #include "controller/algorithms/maths/volumetricmath.h"
 #include "controller/algorithms/storelogrow.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -11,6 +12,13 @@ namespace {
 const double kCoefficients[2] = {0.5, 0.5};
 const int kConfirmations = 5;
 const int kValleyWindow = 5;
+// The slope series begins with two entries that hold no measurement.
+const int kFirstMeasuredSlope = 2;
+// A break rises above the lowest slope before it by this many times the
+// noise of the slope.
+const double kNoiseRise = 8.0;
+// Breaks the end-of-run search keeps.
+const int kMaxBreaks = 64;
 // A slope counts as a maximum inside the curve only if the slope rose to it
 // from below this part of it, past the minimum volume. Where the slope only
 // falls (the steep start of a weak acid, a weak base or a redox couple) the
@@ -177,44 +185,69 @@ void VolumetricDataStore::setPeakFromSlope(int i, int index)
     m_peakVolume[i] = midpointVolume(index);
 }
 
+int VolumetricDataStore::findBreaks(int first, double sign, int *breaks, int capacity) const
+{
+    const int n = int(m_slope.size());
+    auto m = [&](int k) {
+        const double s = sign * m_slope[size_t(k)];
+        return std::isfinite(s) ? s : 0.0;
+    };
+    // The noise of the slope: the typical change from one slope to the
+    // next (the median absolute change, as a standard deviation). A break
+    // rises above the lowest slope before it by many times this.
+    std::vector<double> changes;
+    changes.reserve(size_t(std::max(n - first, 0)));
+    for (int k = first + 1; k < n; ++k)
+        changes.push_back(std::abs(m(k) - m(k - 1)));
+    double noise = 0.0;
+    if (!changes.empty()) {
+        std::nth_element(changes.begin(), changes.begin() + changes.size() / 2, changes.end());
+        noise = changes[changes.size() / 2] * 1.4826 / std::sqrt(2.0);
+    }
+    // Maxima inside the curve: the greatest slope within two places either
+    // side, risen to from below half of it by more than the noise, and not
+    // alone above half of it (a break spans two slopes of three points; a
+    // single noisy reading makes a lone one).
+    int count = 0;
+    double lowest = std::numeric_limits<double>::infinity();
+    for (int k = first; k < n; ++k) {
+        const double s = m(k);
+        bool peak = s > 0.0 && lowest < s * kRiseFraction && s - lowest > kNoiseRise * noise;
+        for (int j = std::max(first, k - 2); peak && j <= std::min(n - 1, k + 2); ++j)
+            peak = j == k || (j < k ? m(j) < s : m(j) <= s);
+        const bool wide = (k > first && m(k - 1) > s * kRiseFraction) || (k + 1 < n && m(k + 1) > s * kRiseFraction);
+        lowest = std::min(lowest, s);
+        if (!peak || !wide)
+            continue;
+        // One break with the last unless a valley lies between them: a
+        // minimum below half of the smaller peak, more than the noise
+        // window away from the last peak.
+        bool lower = false;
+        while (count > 0 && !lower) {
+            const int last = breaks[count - 1];
+            double valley = std::numeric_limits<double>::infinity();
+            for (int j = last + 1; j < k; ++j)
+                valley = std::min(valley, m(j));
+            if (k - last > kValleyWindow && valley < std::min(m(last), s) * kRiseFraction)
+                break;
+            lower = m(last) >= s;
+            if (!lower)
+                --count; // the new one is the higher summit of the same break
+        }
+        if (!lower && count < capacity)
+            breaks[count++] = k;
+    }
+    return count;
+}
+
 int VolumetricDataStore::finalizePeaks(int wanted)
 {
-    if (m_peakCount == wanted)
+    // Peaks the run confirmed are kept.
+    if (m_peakCount == wanted || m_peakCount >= 2)
         return m_peakCount;
     const int n = size();
     if (n < 1 || wanted < 1)
         return 0;
-
-    // The search is on signed slopes: for a falling curve the greatest slope
-    // is the most negative one and a valley is a local maximum.
-    const bool rising = lastData() - dataAt(0) > 0.0;
-    auto beats = [rising](double a, double b) { return rising ? a > b : a < b; };
-    const std::vector<double> &slope = m_slope;
-    const std::vector<double> &filtered = m_filteredSlope;
-    auto isValley = [&](int k) { return beats(filtered[k - 1], filtered[k]) && beats(filtered[k + 1], filtered[k]); };
-    auto bestIn = [&](int from, int to) { // [from, to), from < to
-        int best = from;
-        for (int k = from + 1; k < to; ++k) {
-            if (beats(slope[k], slope[best]))
-                best = k;
-        }
-        return best;
-    };
-    // The greatest slope in [from, to) that the slope rose to from a lower
-    // value inside the range; -1 where the slope only falls.
-    auto interiorBestIn = [&](int from, int to) {
-        const double sign = rising ? 1.0 : -1.0;
-        double lowest = std::numeric_limits<double>::infinity();
-        int best = -1;
-        for (int k = from; k < to; ++k) {
-            const double s = sign * slope[k];
-            if (std::isfinite(s) && s > 0.0 && lowest < s * kRiseFraction && (best < 0 || beats(slope[k], slope[best])))
-                best = k;
-            if (std::isfinite(s) && s < lowest)
-                lowest = s;
-        }
-        return best;
-    };
 
     int start = -1;
     for (int k = 0; k < n; ++k) {
@@ -223,47 +256,58 @@ int VolumetricDataStore::finalizePeaks(int wanted)
             break;
         }
     }
-    // No point past the minimum volume: nothing to search.
+    // No point past the minimum volume: nothing to search. The first slopes
+    // of the series hold no measurement and are never compared.
     if (start < 0)
         return 0;
+    start = std::max(start, kFirstMeasuredSlope);
 
-    const int p1 = interiorBestIn(start, n);
-    if (p1 < 0)
+    // The search is on signed slopes: for a falling curve the greatest slope
+    // is the most negative one.
+    const double sign = lastData() - dataAt(0) > 0.0 ? 1.0 : -1.0;
+    int breaks[kMaxBreaks];
+    const int count = findBreaks(start, sign, breaks, kMaxBreaks);
+    auto steep = [&](int k) { return std::abs(m_slope[size_t(breaks[k])]) >= double(m_slopeThreshold); };
+
+    // The peaks in order of choice: the confirmed one, then the breaks
+    // steep enough to be equivalence points in the order of the curve, then
+    // the steepest of the others.
+    int chosen[2] = {-1, -1};
+    int taken = 0;
+    auto take = [&](int index) {
+        for (int t = 0; t < taken; ++t) {
+            if (std::abs(chosen[t] - index) <= kValleyWindow)
+                return;
+        }
+        if (taken < std::min(wanted, 2))
+            chosen[taken++] = index;
+    };
+    if (m_peakCount == 1)
+        take(m_peakIndex[0]);
+    for (int k = 0; k < count; ++k) {
+        if (steep(k))
+            take(breaks[k]);
+    }
+    while (taken < std::min(wanted, 2)) {
+        int best = -1;
+        for (int k = 0; k < count; ++k) {
+            bool free = true;
+            for (int t = 0; t < taken; ++t)
+                free = free && std::abs(chosen[t] - breaks[k]) > kValleyWindow;
+            if (free && (best < 0 || std::abs(m_slope[size_t(breaks[k])]) > std::abs(m_slope[size_t(breaks[best])])))
+                best = k;
+        }
+        if (best < 0)
+            break;
+        take(breaks[best]);
+    }
+    if (taken == 0)
         return 0;
-    if (wanted == 1) {
-        setPeakFromSlope(0, p1);
-        return 1;
-    }
-
-    int forwardValley = n - 1;
-    for (int k = p1 + 2; k + 1 < n; ++k) {
-        if (isValley(k)) {
-            forwardValley = k;
-            break;
-        }
-    }
-    const int q = bestIn(forwardValley, n);
-    const bool later = q != forwardValley;
-    const double a = slope[q];
-
-    int backwardValley = start;
-    for (int k = p1 - 2; k > start; --k) {
-        if (isValley(k)) {
-            backwardValley = k;
-            break;
-        }
-    }
-    const int r = backwardValley > start ? interiorBestIn(start, backwardValley) : -1;
-
-    int p2 = p1;
-    if (later && (r < 0 || std::abs(a) > std::abs(slope[r])))
-        p2 = q;
-    else if (r >= 0)
-        p2 = r;
-
-    setPeakFromSlope(0, std::min(p1, p2));
-    setPeakFromSlope(1, std::max(p1, p2));
-    return p2 == p1 ? 1 : 2;
+    if (taken == 2 && chosen[1] < chosen[0])
+        std::swap(chosen[0], chosen[1]);
+    for (int t = 0; t < taken; ++t)
+        setPeakFromSlope(t, chosen[t]);
+    return taken;
 }
 
 int VolumetricDataStore::peakIndex(int i) const

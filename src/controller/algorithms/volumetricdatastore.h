@@ -25,9 +25,12 @@ public:
     void addPoint(double volume, double data);
 
     // Searches the whole curve afresh for `wanted` peaks, when the run has
-    // ended with a different number found. Answers how many it found (a
-    // peak is a maximum inside the curve, never its steep start); where it
-    // found none the peak fields keep what they hold.
+    // ended with fewer found; the peaks it confirmed are kept. Answers how
+    // many it found (a peak is a maximum inside the curve, never its steep
+    // start; two peaks are two only with a valley between them). Breaks
+    // steep enough to count come first, in the order of the curve; where
+    // too few are, the steepest other maxima. Where it found none the peak
+    // fields keep what they hold.
     int finalizePeaks(int wanted);
 
     void setMinimumVolume(double volume);
@@ -58,6 +61,9 @@ private:
     bool lastSlopesFollow(double direction) const;
     double midpointVolume(int index) const;
     void setPeakFromSlope(int i, int index);
+    // The breaks of the curve from slope index `first` on, in order: each
+    // the greatest slope of its break, in the direction of `sign`.
+    int findBreaks(int first, double sign, int *breaks, int capacity) const;
 
     LogManager m_log;
     std::vector<double> m_slope;

@@ -48,10 +48,19 @@ KnownAdditionFit::Outcome KnownAdditionFit::fit(const Model &model, const std::v
                                                 const Eigen::VectorXd &lower, const Eigen::VectorXd &upper,
                                                 const Settings &settings)
 {
+    return fit(model, x, y, std::vector<double>(), p, lower, upper, settings);
+}
+
+KnownAdditionFit::Outcome KnownAdditionFit::fit(const Model &model, const std::vector<double> &x,
+                                                const std::vector<double> &y, const std::vector<double> &weights,
+                                                Eigen::VectorXd &p, const Eigen::VectorXd &lower,
+                                                const Eigen::VectorXd &upper, const Settings &settings)
+{
     Outcome out;
     const int k = model.parameterCount();
     const int n = int(x.size());
-    if (p.size() != k || lower.size() != k || upper.size() != k || int(y.size()) != n || n < k) {
+    if (p.size() != k || lower.size() != k || upper.size() != k || int(y.size()) != n || n < k
+        || (!weights.empty() && int(weights.size()) != n)) {
         qDebug() << "known addition fit: no fit of" << k << "parameters to" << n << "points";
         if (p.size() == lower.size() && p.size() == upper.size())
             clampInto(p, lower, upper);
@@ -60,7 +69,15 @@ KnownAdditionFit::Outcome KnownAdditionFit::fit(const Model &model, const std::v
 
     const Eigen::Map<const Eigen::VectorXd> xs(x.data(), n);
     const Eigen::Map<const Eigen::VectorXd> ys(y.data(), n);
-    const double spread = (ys.array() - ys.mean()).square().sum();
+    // Each residual counts by the square root of its weight, scaled so that
+    // the mean weight is 1 and the mean square error keeps its meaning.
+    Eigen::VectorXd root = Eigen::VectorXd::Ones(n);
+    if (!weights.empty()) {
+        const Eigen::Map<const Eigen::VectorXd> w(weights.data(), n);
+        if ((w.array() > 0.0).all() && w.allFinite())
+            root = (w / w.mean()).cwiseSqrt();
+    }
+    const double spread = (root.array() * (ys.array() - ys.mean())).square().sum();
     Eigen::VectorXd r(n);
     Eigen::MatrixXd jacobian(n, k);
     double lastMse = 0.0;
@@ -69,7 +86,7 @@ KnownAdditionFit::Outcome KnownAdditionFit::fit(const Model &model, const std::v
     for (;;) {
         clampInto(p, lower, upper);
         for (int i = 0; i < n; ++i)
-            r[i] = ys[i] - model(xs[i], p);
+            r[i] = root[i] * (ys[i] - model(xs[i], p));
         const double squares = r.squaredNorm();
         out.mse = squares / n;
         out.rSquared = 1.0 - squares / spread;
@@ -85,7 +102,7 @@ KnownAdditionFit::Outcome KnownAdditionFit::fit(const Model &model, const std::v
             up[j] += settings.h;
             down[j] -= settings.h;
             for (int i = 0; i < n; ++i)
-                jacobian(i, j) = (model(xs[i], up) - model(xs[i], down)) / (2.0 * settings.h);
+                jacobian(i, j) = root[i] * (model(xs[i], up) - model(xs[i], down)) / (2.0 * settings.h);
         }
 
         const Eigen::MatrixXd normal = jacobian.transpose() * jacobian;

@@ -50,6 +50,11 @@ public:
     static Outcome fit(const Model &model, const std::vector<double> &x, const std::vector<double> &y,
                        Eigen::VectorXd &p, const Eigen::VectorXd &lower, const Eigen::VectorXd &upper,
                        const Settings &settings);
+    // The same with a weight for each point (1 / variance of its potential);
+    // empty weights weigh all points alike.
+    static Outcome fit(const Model &model, const std::vector<double> &x, const std::vector<double> &y,
+                       const std::vector<double> &weights, Eigen::VectorXd &p, const Eigen::VectorXd &lower,
+                       const Eigen::VectorXd &upper, const Settings &settings);
     // The same with the default settings.
     static Outcome fit(const Model &model, const std::vector<double> &x, const std::vector<double> &y,
                        Eigen::VectorXd &p, const Eigen::VectorXd &lower, const Eigen::VectorXd &upper);

@@ -6,6 +6,7 @@
 #include <Eigen/Dense>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -63,7 +64,110 @@ Eigen::Matrix<double, Cols, 1> fitPoints(const VolumeSeries &store, int first)
     return c;
 }
 
+// Most points one weighted fit takes; the rest of the window is left out.
+constexpr int kMaxWindowPoints = 32;
+
+// A weight that falls from 1 at the centre to 0 at distance 1, with a
+// continuous derivative.
+double biweight(double u)
+{
+    const double r = 1.0 - u * u;
+    return r > 0.0 ? r * r : 0.0;
+}
+
+// The inflection nearest the centre (in units of halfWidth from it) of a
+// polynomial of degree Degree weighted round the centre, and its value
+// there; false with too few weighted points or a polynomial with no bend.
+template <int Degree>
+bool weightedInflection(const VolumeSeries &store, double centre, double halfWidth, double &u, double &value)
+{
+    constexpr int Cols = Degree + 1;
+    using Rows = Eigen::Matrix<double, Eigen::Dynamic, Cols, Eigen::RowMajor, kMaxWindowPoints, Cols>;
+    using Column = Eigen::Matrix<double, Eigen::Dynamic, 1, 0, kMaxWindowPoints, 1>;
+    // The points of the window, found from the first one past its left edge.
+    const int n = store.size();
+    int lo = 0, hi = n;
+    while (lo < hi) {
+        const int mid = (lo + hi) / 2;
+        if (store.volumeAt(mid) <= centre - halfWidth)
+            lo = mid + 1;
+        else
+            hi = mid;
+    }
+    int count = 0;
+    for (int k = lo; k < n && count < kMaxWindowPoints; ++k) {
+        if (!(biweight((store.volumeAt(k) - centre) / halfWidth) > 0.0))
+            break;
+        ++count;
+    }
+    if (count < Cols + 1)
+        return false;
+    Rows a(count, Cols);
+    Column y(count);
+    for (int r = 0; r < count; ++r) {
+        const double x = (store.volumeAt(lo + r) - centre) / halfWidth;
+        const double w = std::sqrt(biweight(x));
+        double power = w;
+        for (int j = 0; j < Cols; ++j) {
+            a(r, j) = power;
+            power *= x;
+        }
+        y(r) = w * store.dataAt(lo + r);
+    }
+    const Eigen::Matrix<double, Cols, 1> c = a.colPivHouseholderQr().solve(y);
+    // Newton on the second derivative from the centre.
+    auto derivativeAt = [&](int order, double t) {
+        double sum = 0.0;
+        for (int j = order; j < Cols; ++j) {
+            double f = 1.0;
+            for (int m = 0; m < order; ++m)
+                f *= double(j - m);
+            sum += f * c(j) * std::pow(t, j - order);
+        }
+        return sum;
+    };
+    double t = 0.0;
+    for (int iteration = 0; iteration < 30; ++iteration) {
+        const double d3 = derivativeAt(3, t);
+        if (!(std::abs(d3) > 0.0))
+            return false;
+        const double step = derivativeAt(2, t) / d3;
+        t -= std::clamp(step, -0.5, 0.5);
+        if (std::abs(step) < 1e-12)
+            break;
+    }
+    u = t;
+    value = derivativeAt(0, t);
+    return std::isfinite(u) && std::isfinite(value);
+}
 } // namespace
+
+bool VolumetricMath::inflectionNear(const VolumeSeries &store, double centre, double halfWidth, double reach,
+                                    double &volume, double &value)
+{
+    if (!(halfWidth > 0.0) || !std::isfinite(centre))
+        return false;
+    const double start = centre;
+    double c = centre;
+    for (int iteration = 0; iteration < 50; ++iteration) {
+        double u = 0.0, y = 0.0;
+        if (!weightedInflection<3>(store, c, halfWidth, u, y))
+            return false;
+        // Never more than half the window at a time, so the centre walks
+        // rather than jumps to a bend of the cubic far outside its points.
+        const double next = c + std::clamp(u, -0.5, 0.5) * halfWidth;
+        if (std::abs(next - start) > reach)
+            return false;
+        const bool settled = std::abs(next - c) < 1e-6;
+        c = next;
+        if (settled) {
+            volume = c;
+            value = y;
+            return std::abs(u) <= 0.5;
+        }
+    }
+    return false;
+}
 
 VolumetricMath::Line VolumetricMath::fit3(const VolumeSeries &store, int i)
 {

@@ -54,6 +54,16 @@ public:
         return d;
     }
 
+    // The inflection of the curve near a point: a cubic fitted by weighted
+    // least squares around a centre, the weights falling smoothly to 0 at
+    // `halfWidth` µL from it, and the centre moved to the cubic's inflection
+    // until the two agree. Points enter and leave the fit with no weight, so
+    // the volume found moves continuously with the data. False when the fit
+    // has fewer than five points or does not settle within `reach` µL of
+    // `centre`. volume in µL, value in mV.
+    static bool inflectionNear(const VolumeSeries &store, double centre, double halfWidth, double reach,
+                               double &volume, double &value);
+
     // The volume (µL) at which the curve first crosses target: a walk along
     // the cubic of the crossing pair in steps of 0.1 µL, or the straight line
     // between the pair when the cubic misses it. False when neither finds one.
