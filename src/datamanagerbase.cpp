@@ -399,7 +399,10 @@ void DataManagerBase::initiateCalibrationModelFromMeasure()
 
 void DataManagerBase::insertCalibrationValue()
 {
-    meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome());
+    if (!meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome()) || !m_methodModel)
+        return;
+    const CalibrationModel *c = meterRecords()->calibrationModel();
+    m_methodModel->recordCalibration(c->electrodeName(), c->mcreatedAt());
 }
 
 void DataManagerBase::getCalibrationCycles()

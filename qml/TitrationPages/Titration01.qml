@@ -43,18 +43,18 @@ MainContentBackground {
         titrationPreCheck.changeHeaderButtonText()
         titrationStack.push(titrationPreCheck)
         dbTimer.start()
-        titrationPreCheck.isFromRepeatButton = true
+        titration15.isFromRepeatButton = true
     }
 
     // The entry to the new-setup road (the method wizard follows titration03).
     function startNewTitration() {
-        titrationPreCheck.isFromRepeatButton = false
+        titration15.isFromRepeatButton = false
         titrationStack.push(titration03)
     }
 
     // The last setup's parts, each opening its page of the working method:
     // the titration's goes on to the pre-check of a run, the titrant's to its
-    // standardisation, the electrode's is saved in place.
+    // standardisation, the electrode's to its calibration.
     function tileTapped(tile) {
         if (tile === "titrationTile") {
             mainWindow.isHomeTitrationButton = true
@@ -62,7 +62,8 @@ MainContentBackground {
         } else if (tile === "titrantTile") {
             dynamicLoader.loadTitrantStandardizationWithSetup()
         } else if (tile === "electrodeTile") {
-            dynamicLoader.loadElectrodeSetup()
+            calibrationSuccessPopop.fromHomeCalibrationButton = true
+            dynamicLoader.loadElectrodeCalibrationWithSetup()
         }
     }
 

@@ -2,6 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
+import "RunOffers.js" as RunOffers
 
 // The last look before a titration: the method's electrode and its
 // calibration, the titrant and its standardisation, the burette, the
@@ -9,12 +10,15 @@ import "../Constants/Colors.js" as Colors
 // method asks for), a blank, a standardisation or a calibration.
 MainContentBackground {
     id: page
-    objectName: "Pre-Check"
+    objectName: "Titration Pre-Check"
 
     // The pre-check of the Methods section (a picked method) rather than of home.
     property bool inMethodStack: false
+    // The pre-check inside the titration's process stack, after the
+    // titration's setup page: the run only, no calibration or standardisation.
+    property bool inProcessStack: false
     // Reached by repeating the last titration (which offers Standardize and Calibrate).
-    property bool isFromRepeatButton: false
+    readonly property bool isFromRepeatButton: titration15.isFromRepeatButton
     readonly property bool startAllowed: !(titration.titrationType === "Back Titration"
                                            && titration.reagentAmount === "Back Blank Titration"
                                            && titration.blankConcentration == 0)
@@ -37,20 +41,25 @@ MainContentBackground {
         return mainWindow.sigFigsDec(titrant.titrantConcentrationValue, 4, 5) + " " + titrant.resultUnits
     }
 
+    // A stored stamp by the settings' date and time formats.
+    function stampText(stamp) {
+        var d = RunOffers.stampDate(stamp)
+        return d ? displayValues.formatTime(d) + " " + displayValues.formatDate(d) : stamp
+    }
+
     // The lines of the check, with what the user should know about each.
     function checkLines() {
         var lines = []
         var calibrated = method.lastCalibration !== ""
         lines.push({ name: qsTr("Electrode"), value: electrode.electrodeName + " (" + electrode.electrodeType + ")",
-                     note: titration.displayUnits === "mV" ? "" : calibrated ? qsTr("Calibrated") + " " + method.lastCalibration
+                     note: titration.displayUnits === "mV" ? "" : calibrated ? qsTr("Calibrated") + " " + stampText(method.lastCalibration)
                                                                              : qsTr("Not calibrated: calibrating the sensor is strongly encouraged.") })
         var standardisation = titrant.concInputMode === "Manual Entry" ? qsTr("Entered by hand")
-                            : standardised ? qsTr("Standardized") + " " + method.lastStandardization
+                            : standardised ? qsTr("Standardized") + " " + stampText(method.lastStandardization)
                             : qsTr("Not standardized: the nominal concentration is used.")
         lines.push({ name: qsTr("Titrant"), value: titration01.titrantShownName() + "  " + titrantConcText(), note: standardisation })
-        var maxMl = titrant.maxTotalVolume
         lines.push({ name: qsTr("Burette"), value: setup.buretteSize + " mL",
-                     note: maxMl > setup.buretteSize ? qsTr("The method may dispense more than the burette holds; it refills between doses.") : "" })
+                     note: RunOffers.exceedsBurette(titration.maxTotalTitrantVolume, setup.buretteSize) ? qsTr("The method may dispense more than the burette holds; it refills between doses.") : "" })
         var sample = titration.sampleAmount.indexOf("Variable") === 0 ? qsTr("asked at the start")
                    : titration.sampleAmountValue + (titration.sampleAmount.indexOf("Weight") >= 0 ? " g" : " mL")
         lines.push({ name: qsTr("Sample"), value: sample,
@@ -112,10 +121,18 @@ MainContentBackground {
     }
 
     function standardize() {
+        offerChain.origin = page
         dm.blankTitrationMode = false
         dm.deviceMode = "Standardization"
         startTitrationFullscreen.setCycleModelValue()
         dynamicLoader.loadTitrantStandardization()
+    }
+
+    // The method's own calibration of its electrode.
+    function calibrate() {
+        offerChain.origin = page
+        calibrationSuccessPopop.fromHomeCalibrationButton = false
+        offerChain.calibrate(inMethodStack ? method.electrodeSetupModel.electrodeName : electrode.electrodeName)
     }
 
     onVisibleChanged: if (visible) { changeHeaderButtonText(); checkList.model = checkLines() }
@@ -138,7 +155,7 @@ MainContentBackground {
             id: checkList
             Rectangle {
                 width: checkColumn.width
-                height: modelData.note !== "" ? 52 : 32
+                height: modelData.note !== "" ? noteText.y + noteText.implicitHeight + 8 : 32
                 color: "transparent"
                 Text { text: modelData.name; color: Colors.slateColor; font.pixelSize: 15; width: 90 }
                 Text {
@@ -150,10 +167,11 @@ MainContentBackground {
                     font.pixelSize: 16
                 }
                 Text {
+                    id: noteText
                     x: 96
                     y: 22
                     width: parent.width - 96
-                    elide: Text.ElideRight
+                    wrapMode: Text.WordWrap
                     visible: modelData.note !== ""
                     text: modelData.note
                     color: modelData.note.indexOf(qsTr("Not")) === 0 || modelData.note.indexOf(qsTr("The method")) === 0
@@ -191,9 +209,17 @@ MainContentBackground {
             id: standardizeButton
             objectName: "standardizeButton"
             width: 130
-            visible: titrant.concInputMode !== "Manual Entry" && (page.inMethodStack || page.isFromRepeatButton)
+            visible: !page.inProcessStack && titrant.concInputMode !== "Manual Entry" && (page.inMethodStack || page.isFromRepeatButton)
             text: qsTr("Standardize") + ls.translatedText
             onClicked: page.standardize()
+        }
+        PopupAlternateButton {
+            id: calibrateButton
+            objectName: "calibrateButton"
+            width: 120
+            visible: !page.inProcessStack && titration.displayUnits !== "mV" && (page.inMethodStack || page.isFromRepeatButton)
+            text: qsTr("Calibrate") + ls.translatedText
+            onClicked: page.calibrate()
         }
         PopupButton {
             id: startButton
