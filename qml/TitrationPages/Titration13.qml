@@ -7,6 +7,8 @@ import "../Popup"
 // "Manually Enter" takes the concentration as typed instead.
 MessagePopup {
     id: popup
+    // Room for three buttons.
+    width: 520
     title: qsTr("Standardize the Titrant") + ls.translatedText
     message: qsTr("Would you like to\nstandardize the titrant?") + ls.translatedText + "\n\n"
              + qsTr("Standardizing the titrant is strongly encouraged to provide an accurate reading.") + ls.translatedText
