@@ -25,6 +25,8 @@ StackView {
     pushExit: Transition {}
     popEnter: Transition {}
     popExit: Transition {}
+    replaceEnter: Transition {}
+    replaceExit: Transition {}
 
     // The electrode type of the calibration in hand: "pH", "Redox", "ISE".
     function calibrationType() {
