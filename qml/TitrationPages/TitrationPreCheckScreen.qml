@@ -189,11 +189,14 @@ MainContentBackground {
         }
     }
 
-    Row {
+    // Up to four buttons: a second line above when they do not fit beside
+    // the tip corner.
+    Flow {
         anchors.left: parent.left
         anchors.leftMargin: 20
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 20
+        width: parent.width - 20 - 80
         spacing: 10
         PopupAlternateButton {
             id: runBlankButton
