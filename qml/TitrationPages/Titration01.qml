@@ -3,6 +3,7 @@ import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
 import "../CustomComponent"
+import "RunOffers.js" as RunOffers
 
 // The home screen: the last titration, calibration and standardisation of
 // the current method, the way to repeat it, to pick a saved method, or to
@@ -27,11 +28,12 @@ MainContentBackground {
         return titrant.titrantName === "User Defined" ? titrant.titrantName_userDefined : titrant.titrantName
     }
 
+    // A stored stamp ("hh:mm AM | MM/dd/yyyy") by the settings' formats.
     function whenText(stamp) {
         if (!stamp)
             return ""
-        var d = new Date(stamp)
-        if (isNaN(d.getTime()))
+        var d = RunOffers.stampDate(stamp)
+        if (!d)
             return stamp
         return displayValues.formatTime(d) + " " + displayValues.formatDate(d)
     }
@@ -125,7 +127,7 @@ MainContentBackground {
                     font.pixelSize: 17
                 }
                 Row {
-                    spacing: 24
+                    spacing: 16
                     Text {
                         visible: method.lastCalibration !== "" && !electrode.isElectrodeChanged
                         text: qsTr("Calibrated") + ls.translatedText + " " + page.whenText(method.lastCalibration)

@@ -41,11 +41,7 @@ MainContentBackground {
         return mainWindow.sigFigsDec(titrant.titrantConcentrationValue, 4, 5) + " " + titrant.resultUnits
     }
 
-    // A stored stamp by the settings' date and time formats.
-    function stampText(stamp) {
-        var d = RunOffers.stampDate(stamp)
-        return d ? displayValues.formatTime(d) + " " + displayValues.formatDate(d) : stamp
-    }
+    function stampText(stamp) { return titration01.whenText(stamp) }
 
     // The lines of the check, with what the user should know about each.
     function checkLines() {
