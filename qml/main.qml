@@ -392,8 +392,9 @@ ApplicationWindow {
         if (!currentStack || !currentStack.currentItem)
             return
         var page = currentStack.currentItem
-        // The run screens cover every stack while they are on show.
-        if (fullscreenContainer.visible)
+        // The run screens cover every stack while they are on show (not
+        // while one fades out, already left).
+        if (fullscreenContainer.visible && fullscreenContainer.opacity > 0)
             page = { objectName: "Cycle screen", hasInfo: true }
         else if (page.objectName === "processStack")
             page = page.currentItem
