@@ -43,9 +43,10 @@ MainContentBackground {
         startTitrationFullscreen.setCycleModelValue()
         mainWindow.fromHomeStack = false
         titrationPreCheck.changeHeaderButtonText()
+        // Set first: the pre-check lays its buttons out as it shows.
+        titration15.isFromRepeatButton = true
         titrationStack.push(titrationPreCheck)
         dbTimer.start()
-        titration15.isFromRepeatButton = true
     }
 
     // The entry to the new-setup road (the method wizard follows titration03).
