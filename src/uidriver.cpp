@@ -197,13 +197,7 @@ void UiDriver::execute(const QString &line, Reply reply)
         p.reply(false, QStringLiteral("the window is not up"));
         return;
     }
-    // A tap goes to the scene as the next frame lays it out: items that the
-    // last command showed or hid (a row of buttons flowing anew) are where
-    // they are drawn before the tap is aimed, as for a finger.
-    const bool tap = p.command == QLatin1String("tap");
-    if (tap)
-        m_window->update();
-    else if (attempt(p, p.timeoutMs == 0))
+    if (attempt(p, p.timeoutMs == 0))
         return;
     m_busy = true;
     m_pending = p;
