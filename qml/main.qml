@@ -403,8 +403,12 @@ ApplicationWindow {
         if (!currentStack || !currentStack.currentItem)
             return
         var page = currentStack.currentItem
-        if (page.objectName === "processStack")
-            page = fullscreenContainer.visible ? { objectName: "Cycle screen", hasInfo: true } : page.currentItem
+        // The run screens cover every stack while they are on show (not
+        // while one fades out, already left).
+        if (fullscreenContainer.visible && fullscreenContainer.opacity > 0)
+            page = { objectName: "Cycle screen", hasInfo: true }
+        else if (page.objectName === "processStack")
+            page = page.currentItem
         if (page && page.hasInfo)
             tips.presentTipsFor(page.objectName)
     }
@@ -457,6 +461,7 @@ ApplicationWindow {
     DisplayValues { id: displayValues }
     TranslationListElements { id: listElements }
     WizardFlow { id: wizardFlow }
+    OfferChain { id: offerChain }
     // The method wizard's pages, pushed on the stack of the section on show.
     Item {
         visible: false
@@ -465,17 +470,6 @@ ApplicationWindow {
         Titration06 { id: titration06; visible: false }
         TitrantSetupMKA { id: titrantSetupMka; visible: false }
         TitrationSetupMKA { id: titrationSetupMka; visible: false }
-        // The same pages for the working method outside the wizard (DynamicLoader).
-        ElectrodeSetupDynamic { id: electrodeSetupDynamic; onlySetup: false; visible: false }
-        ElectrodeSetupDynamic { id: electrodeSetupOnly; visible: false }
-        TitrantSetupDynamic { id: titrantSetupDynamic; visible: false }
-        TitrantSetupDynamic { id: titrantSetupOnly; onlySetup: true; visible: false }
-        TitrantSetupMkaDynamic { id: titrantSetupMkaDynamic; visible: false }
-        TitrantSetupMkaDynamic { id: titrantSetupMkaOnly; onlySetup: true; visible: false }
-        TitrationSetupDynamic { id: titrationSetupDynamic; visible: false }
-        TitrationSetupDynamic { id: titrationSetupOnly; onlySetup: true; visible: false }
-        TitrationSetupMkaDynamic { id: titrationSetupMkaDynamic; visible: false }
-        TitrationSetupMkaDynamic { id: titrationSetupMkaOnly; onlySetup: true; visible: false }
         UserDefinedProcessControll { id: userDefinedProcessControll; visible: false }
         EntryPage { id: entryPage; visible: false }
         MultipleOptionsPage { id: multipleOptionsPage; visible: false }
@@ -495,7 +489,6 @@ ApplicationWindow {
         Titration01 { id: titration01; visible: false }
         Titration03 { id: titration03; visible: false }
         TitrationPreCheckScreen { id: titrationPreCheck; visible: false }
-        Titration14 { id: titration14; visible: false }
         TitrationSummary { id: titrationSummaryPage; visible: false }
         StandardizationSummary { id: standardizationSummary; visible: false }
     }
@@ -540,8 +533,31 @@ ApplicationWindow {
         MeasureReadmode { id: measure01; visible: false }
         DirectMeasure { id: directMeasure; visible: false }
     }
-    // The calibration stack, pushed onto the section that opens it.
-    ElectrodeCalibrationProcessStack { id: electrodeCalibrationProcessStack; visible: false }
+    // The process stacks, pushed onto the section that opens them; the
+    // working method's setup pages (the wizard's pages opened on their own)
+    // live in them.
+    ElectrodeCalibrationProcessStack {
+        id: electrodeCalibrationProcessStack
+        visible: false
+        ElectrodeSetupDynamic { id: electrodeSetupDynamic; onlySetup: false; visible: false }
+        ElectrodeSetupDynamic { id: electrodeSetupOnly; visible: false }
+    }
+    TitrantStandardizationProcessStack {
+        id: titrantStandardizationProcessStack
+        TitrantSetupDynamic { id: titrantSetupDynamic; visible: false }
+        TitrantSetupDynamic { id: titrantSetupOnly; onlySetup: true; visible: false }
+        TitrantSetupMkaDynamic { id: titrantSetupMkaDynamic; visible: false }
+        TitrantSetupMkaDynamic { id: titrantSetupMkaOnly; onlySetup: true; visible: false }
+        Titration14 { id: titration14; visible: false }
+    }
+    TitrationProcessStack {
+        id: titrationProcessStack
+        TitrationSetupDynamic { id: titrationSetupDynamic; visible: false }
+        TitrationSetupDynamic { id: titrationSetupOnly; onlySetup: true; visible: false }
+        TitrationSetupMkaDynamic { id: titrationSetupMkaDynamic; visible: false }
+        TitrationSetupMkaDynamic { id: titrationSetupMkaOnly; onlySetup: true; visible: false }
+        TitrationPreCheckScreen { id: titrationPrecheckDynamic; inProcessStack: true; visible: false }
+    }
 
     // ---- 3. side bar -------------------------------------------------------
     SideBar {
@@ -582,6 +598,10 @@ ApplicationWindow {
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
         Titration07 { id: titration07 }
         Titration08 { id: titration08 }
+        Titration10 { id: titration10 }
+        Titration12 { id: titration12 }
+        Titration13 { id: titration13 }
+        Titration15 { id: titration15 }
         PasswordVerificationPopUp { id: passwordVerificationPopUp }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
         ManualSampleIdPopup { id: manualSampleIdPopup }

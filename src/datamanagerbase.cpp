@@ -425,7 +425,13 @@ void DataManagerBase::initiateCalibrationModelFromMeasure()
 
 bool DataManagerBase::insertCalibrationValue()
 {
-    return meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome());
+    if (!meterRecords()->insertCalibrationValue(m_methodModel && m_methodModel->isChangeFromHome()))
+        return false;
+    if (m_methodModel) {
+        const CalibrationModel *c = meterRecords()->calibrationModel();
+        m_methodModel->recordCalibration(c->electrodeName(), c->mcreatedAt());
+    }
+    return true;
 }
 
 void DataManagerBase::getCalibrationCycles()

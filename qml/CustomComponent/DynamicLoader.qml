@@ -1,7 +1,8 @@
 import QtQuick 2.12
 
 // Creates the popups that exist only while shown (each is destroyed when it
-// closes) and, as the process pages come in, opens the process stacks.
+// closes) and opens the process stacks: calibration (processIndex 2),
+// titrant standardisation (1), titration (0).
 Item {
     id: loader
 
@@ -25,15 +26,63 @@ Item {
         return popup
     }
 
-    // Opens the calibration stack on the section on show, at its first page.
-    function loadElectrodeCalibration() {
-        var stack = electrodeCalibrationProcessStack
+    // Opens a process stack on the section on show, with its flags; the page
+    // on show is where the process comes back to.
+    function openProcess(stack, index, skipSetup, onlySetup) {
         mainWindow.lastPageInCurrentStack = mainWindow.currentStack.currentItem
-        stack.start()
+        stack.skipSetup = skipSetup
+        if (onlySetup !== undefined)
+            stack.onlySetup = onlySetup
+        if (stack.mkaType !== undefined)
+            stack.mkaType = isMka()
         mainWindow.currentDynamicContent = stack
-        mainWindow.processIndex = 2
+        mainWindow.processIndex = index
+    }
+    function pushProcess(stack) {
         mainWindow.currentStack.push(stack)
         sideBar.resetBackButton()
+    }
+
+    // The calibration stack: at its first point, at the electrode's setup
+    // page that goes on to it, or at the setup page that only saves.
+    function openCalibration(skipSetup, onlySetup) {
+        var stack = electrodeCalibrationProcessStack
+        openProcess(stack, 2, skipSetup, onlySetup)
+        stack.start()
+        if (!skipSetup) {
+            stack.currentItem.reInitializeUI()
+            stack.currentItem.loadModelData()
+        }
+        pushProcess(stack)
+    }
+    function loadElectrodeCalibration() { openCalibration(true, false) }
+    function loadElectrodeCalibrationWithSetup() { openCalibration(false, false) }
+    function loadElectrodeSetup() { openCalibration(false, true) }
+
+    // The titrant's and the titration's stacks at their setup pages.
+    function openSetup(stack, index, onlySetup) {
+        openProcess(stack, index, false, onlySetup)
+        stack.fromDynamicLoader = true
+        stack.initStack()
+        stack.loadModel()
+        pushProcess(stack)
+    }
+    function loadTitrantSetup() { openSetup(titrantStandardizationProcessStack, 1, true) }
+    function loadTitrantStandardizationWithSetup() { openSetup(titrantStandardizationProcessStack, 1, false) }
+    function loadTitrationSetup() { openSetup(titrationProcessStack, 0, true) }
+    function loadTitrationWithSetup() { openSetup(titrationProcessStack, 0, false) }
+
+    // The standardisation of the current method's titrant: its pre-check,
+    // inside the stack when its setup page is on show, else a stack of its own.
+    function loadTitrantStandardization() {
+        var stack = titrantStandardizationProcessStack
+        if (mainWindow.currentStack.currentItem === stack && mainWindow.processIndex === 1) {
+            stack.pushPreCheck()
+            return
+        }
+        openProcess(stack, 1, true)
+        stack.initStack()
+        pushProcess(stack)
     }
 
     function loadTitrationValidationPopUp(title, message, name) {
@@ -70,28 +119,7 @@ Item {
         mainWindow.showFullscreenOn(startTitrationFullscreen)
     }
 
-    // The standardisation of the current method's titrant, from the page on show.
-    function loadTitrantStandardization() {
-        mainWindow.processIndex = 1
-        mainWindow.lastPageInCurrentStack = mainWindow.currentStack.currentItem
-        mainWindow.currentStack.push(titration14)
-    }
-
-    // The setup pages of the working method, opened from the page on show,
-    // which the standardisation's summary comes back to. A known-addition
-    // electrode has its own titrant and titration pages.
-    function openSetupPage(setupPage) {
-        mainWindow.lastPageInCurrentStack = mainWindow.currentStack.currentItem
-        setupPage.loadModelData()
-        mainWindow.currentStack.push(setupPage)
-    }
     function isMka() { return electrode.electrodeType === "ISE-MKA" }
-    function loadElectrodeSetup() { openSetupPage(electrodeSetupOnly) }
-    function loadElectrodeCalibrationWithSetup() { openSetupPage(electrodeSetupDynamic) }
-    function loadTitrantSetup() { openSetupPage(isMka() ? titrantSetupMkaOnly : titrantSetupOnly) }
-    function loadTitrantStandardizationWithSetup() { openSetupPage(isMka() ? titrantSetupMkaDynamic : titrantSetupDynamic) }
-    function loadTitrationSetup() { openSetupPage(isMka() ? titrationSetupMkaOnly : titrationSetupOnly) }
-    function loadTitrationWithSetup() { openSetupPage(isMka() ? titrationSetupMkaDynamic : titrationSetupDynamic) }
 
     // After the success popup's 3 seconds, by its label.
     function callbc() {
@@ -103,6 +131,11 @@ Item {
         } else if (label === qsTr("Method Saved") && mainWindow.currentStack === methodStack) {
             mainWindow.hidePopup()
             methodStack.pop()
+            return
+        } else if (label === qsTr("Method Saved")) {
+            // A setup kept as a method on its way to the run.
+            successPopup = null
+            offerChain.start()
             return
         }
         if (mainWindow.currentPopup === successPopup)

@@ -66,9 +66,13 @@ MainContentBackground {
             return
         }
         if (mainWindow.currentStack === titrationStack && stack.skipSetup) {
-            calibrationSuccessPopop.fromHomeCalibrationButton = true
-            mainWindow.showPopup(calibrationSuccessPopop)
-            calibrationSuccessPopop.dismissAfter3Sec()
+            // Before a run: the titrant's offer when it still needs a standardisation.
+            if (method.lastStandardization === "" && titrant.concInputMode === "Standardization") {
+                mainWindow.showPopup(titration12)
+            } else {
+                mainWindow.showPopup(calibrationSuccessPopop)
+                calibrationSuccessPopop.dismissAfter3Sec()
+            }
             return
         }
         // The vocabulary's name of the meter's own mode.

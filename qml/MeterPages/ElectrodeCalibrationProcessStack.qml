@@ -5,7 +5,10 @@ import "MeterFormat.js" as MeterFormat
 
 // The calibration of an electrode, point by point: start, live point with
 // override, the standard's value, point done, the slope of a one-point
-// calibration, the summary. Pushed onto the section it is opened from.
+// calibration, the summary. Pushed onto the section it is opened from; from
+// a method's electrode tile it starts at the electrode's setup page
+// (`electrodeSetupDynamic`, "Next" to the calibration) and, with onlySetup,
+// the same page that only saves (`electrodeSetupOnly`).
 StackView {
     id: stack
     objectName: "processStack"
@@ -22,6 +25,8 @@ StackView {
     pushExit: Transition {}
     popEnter: Transition {}
     popExit: Transition {}
+    replaceEnter: Transition {}
+    replaceExit: Transition {}
 
     // The electrode type of the calibration in hand: "pH", "Redox", "ISE".
     function calibrationType() {
@@ -35,13 +40,27 @@ StackView {
         return NumberFormat.countDecimal(resolution)
     }
 
-    // A new calibration starts at its first page.
+    // The first page by the flags.
+    function firstPage() {
+        return skipSetup ? measure02 : onlySetup ? electrodeSetupOnly : electrodeSetupDynamic
+    }
+
+    // A new calibration (or setup) starts at its first page.
     function start() {
+        var first = firstPage()
         if (depth > 1)
-            pop(initialItem)
+            pop(null)
+        if (currentItem !== first)
+            replace(first)
         processRunning = false
         resetmeasureByElectrodeType()
         measure02.updateHeader()
+    }
+    // From the electrode's setup page on to the calibration's first page.
+    function calibrateFromSetup() {
+        resetmeasureByElectrodeType()
+        measure02.updateHeader()
+        push(measure02)
     }
     function resetmeasureByElectrodeType() {
         calibrationStandard.clear()

@@ -19,11 +19,12 @@ PopupBackground {
         if (mainWindow.currentPopup === popup)
             mainWindow.hidePopup()
         mainWindow.resetProcessIndex()
-        if (fromHomeCalibrationButton || typeof titrationPreCheck === "undefined")
+        if (fromHomeCalibrationButton) {
             titrationStack.pop(titration01)
-        else
-            titrationStack.push(titrationPreCheck)
-        sideBar.resetBackButton()
+            sideBar.resetBackButton()
+        } else {
+            offerChain.toPreCheck()
+        }
     }
 
     Timer {

@@ -19,12 +19,14 @@ Titration04 {
         wizardFlow.setupSaved()
     }
 
+    // The calibration of the method's electrode, recorded as the method's.
     function calibrateAction() {
         electrode.setElectrodeSetupValues()
+        method.calibratedElectrodeName = electrode.electrodeName
         dm.deviceMode = "Calibration"
         dm.isCalibrationFromMeasurement = false
         dm.initiateCalibrationModelFromTitration()
-        dynamicLoader.loadElectrodeCalibration()
+        electrodeCalibrationProcessStack.calibrateFromSetup()
         mc.qmlStartCalibration()
     }
 

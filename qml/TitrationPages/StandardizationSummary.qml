@@ -45,6 +45,12 @@ MainContentBackground {
 
     function next() {
         averagetoDB()
+        // Asked for before a run from home: the offer goes on to the pre-check.
+        if (mainWindow.currentStack === titrationStack && titrantStandardizationProcessStack.skipSetup) {
+            dm.deviceMode = "Titration"
+            mainWindow.showPopup(titration15)
+            return
+        }
         mainWindow.currentStack.pop(mainWindow.lastPageInCurrentStack)
         mainWindow.resetProcessIndex()
         dm.deviceMode = "Titration"

@@ -27,6 +27,7 @@ MainContentBackground {
         return titrant.titrantName === "User Defined" ? titrant.titrantName_userDefined : titrant.titrantName
     }
 
+    // A stored stamp ("hh:mm AM | MM/dd/yyyy") by the settings' formats.
     function whenText(stamp) {
         if (!stamp)
             return ""
@@ -41,20 +42,21 @@ MainContentBackground {
         startTitrationFullscreen.setCycleModelValue()
         mainWindow.fromHomeStack = false
         titrationPreCheck.changeHeaderButtonText()
+        // Set first: the pre-check lays its buttons out as it shows.
+        titration15.isFromRepeatButton = true
         titrationStack.push(titrationPreCheck)
         dbTimer.start()
-        titrationPreCheck.isFromRepeatButton = true
     }
 
     // The entry to the new-setup road (the method wizard follows titration03).
     function startNewTitration() {
-        titrationPreCheck.isFromRepeatButton = false
+        titration15.isFromRepeatButton = false
         titrationStack.push(titration03)
     }
 
     // The last setup's parts, each opening its page of the working method:
     // the titration's goes on to the pre-check of a run, the titrant's to its
-    // standardisation, the electrode's is saved in place.
+    // standardisation, the electrode's to its calibration.
     function tileTapped(tile) {
         if (tile === "titrationTile") {
             mainWindow.isHomeTitrationButton = true
@@ -62,7 +64,8 @@ MainContentBackground {
         } else if (tile === "titrantTile") {
             dynamicLoader.loadTitrantStandardizationWithSetup()
         } else if (tile === "electrodeTile") {
-            dynamicLoader.loadElectrodeSetup()
+            calibrationSuccessPopop.fromHomeCalibrationButton = true
+            dynamicLoader.loadElectrodeCalibrationWithSetup()
         }
     }
 
@@ -124,7 +127,7 @@ MainContentBackground {
                     font.pixelSize: 17
                 }
                 Row {
-                    spacing: 24
+                    spacing: 16
                     Text {
                         visible: method.lastCalibration !== "" && !electrode.isElectrodeChanged
                         text: qsTr("Calibrated") + ls.translatedText + " " + page.whenText(method.lastCalibration)

@@ -11,10 +11,10 @@ MessagePopup {
     firstButtonText: qsTr("Yes, Save Method") + ls.translatedText
     secondButtonText: qsTr("No") + ls.translatedText
 
-    // The road to the run after the offer, saved or not.
+    // The road to the run after the offer, saved or not: the offers to
+    // calibrate and standardise, then the pre-check.
     function goOn() {
-        titrationPreCheck.changeHeaderButtonText()
-        titrationStack.push(titrationPreCheck)
+        offerChain.start()
     }
 
     onFirstClicked: {

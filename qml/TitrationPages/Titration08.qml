@@ -20,8 +20,7 @@ PopupBackground {
     signal methodSaved()
     signal cancelled()
 
-    // Saved or not, the run comes next.
-    onMethodSaved: titration07.goOn()
+    // Saved or not, the run comes next (once saved, after "Method Saved").
     onCancelled: titration07.goOn()
 
     function errorToggle() {

@@ -6,7 +6,7 @@ import "../Constants/Colors.js" as Colors
 // The pre-check of a titrant standardisation.
 MainContentBackground {
     id: page
-    objectName: "Standardize Titrant | Pre-Check"
+    objectName: "Standardize Titrant Pre-Check"
     header3Text: qsTr("Standardize Titrant | Pre-Check") + ls.translatedText
 
     function standardize() {

@@ -2,6 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
+import "RunOffers.js" as RunOffers
 
 // The last look before a titration: the method's electrode and its
 // calibration, the titrant and its standardisation, the burette, the
@@ -9,12 +10,15 @@ import "../Constants/Colors.js" as Colors
 // method asks for), a blank, a standardisation or a calibration.
 MainContentBackground {
     id: page
-    objectName: "Pre-Check"
+    objectName: "Titration Pre-Check"
 
     // The pre-check of the Methods section (a picked method) rather than of home.
     property bool inMethodStack: false
+    // The pre-check inside the titration's process stack, after the
+    // titration's setup page: the run only, no calibration or standardisation.
+    property bool inProcessStack: false
     // Reached by repeating the last titration (which offers Standardize and Calibrate).
-    property bool isFromRepeatButton: false
+    readonly property bool isFromRepeatButton: titration15.isFromRepeatButton
     readonly property bool startAllowed: !(titration.titrationType === "Back Titration"
                                            && titration.reagentAmount === "Back Blank Titration"
                                            && titration.blankConcentration == 0)
@@ -37,6 +41,7 @@ MainContentBackground {
         return mainWindow.sigFigsDec(titrant.titrantConcentrationValue, 4, 5) + " " + titrant.resultUnits
     }
 
+
     // The lines of the check, with what the user should know about each.
     function checkLines() {
         var lines = []
@@ -48,9 +53,8 @@ MainContentBackground {
                             : standardised ? qsTr("Standardized") + " " + displayValues.formatCalibrationDate(method.lastStandardization)
                             : qsTr("Not standardized: the nominal concentration is used.")
         lines.push({ name: qsTr("Titrant"), value: titration01.titrantShownName() + "  " + titrantConcText(), note: standardisation })
-        var maxMl = titrant.maxTotalVolume
         lines.push({ name: qsTr("Burette"), value: setup.buretteSize + " mL",
-                     note: maxMl > setup.buretteSize ? qsTr("The method may dispense more than the burette holds; it refills between doses.") : "" })
+                     note: RunOffers.exceedsBurette(titration.maxTotalTitrantVolume, setup.buretteSize) ? qsTr("The method may dispense more than the burette holds; it refills between doses.") : "" })
         var sample = titration.sampleAmount.indexOf("Variable") === 0 ? qsTr("asked at the start")
                    : titration.sampleAmountValue + (titration.sampleAmount.indexOf("Weight") >= 0 ? " g" : " mL")
         lines.push({ name: qsTr("Sample"), value: sample,
@@ -112,10 +116,18 @@ MainContentBackground {
     }
 
     function standardize() {
+        offerChain.origin = page
         dm.blankTitrationMode = false
         dm.deviceMode = "Standardization"
         startTitrationFullscreen.setCycleModelValue()
         dynamicLoader.loadTitrantStandardization()
+    }
+
+    // The method's own calibration of its electrode.
+    function calibrate() {
+        offerChain.origin = page
+        calibrationSuccessPopop.fromHomeCalibrationButton = false
+        offerChain.calibrate(inMethodStack ? method.electrodeSetupModel.electrodeName : electrode.electrodeName)
     }
 
     onVisibleChanged: if (visible) { changeHeaderButtonText(); checkList.model = checkLines() }
@@ -138,7 +150,7 @@ MainContentBackground {
             id: checkList
             Rectangle {
                 width: checkColumn.width
-                height: modelData.note !== "" ? 52 : 32
+                height: modelData.note !== "" ? noteText.y + noteText.implicitHeight + 8 : 32
                 color: "transparent"
                 Text { text: modelData.name; color: Colors.slateColor; font.pixelSize: 15; width: 90 }
                 Text {
@@ -150,10 +162,11 @@ MainContentBackground {
                     font.pixelSize: 16
                 }
                 Text {
+                    id: noteText
                     x: 96
                     y: 22
                     width: parent.width - 96
-                    elide: Text.ElideRight
+                    wrapMode: Text.WordWrap
                     visible: modelData.note !== ""
                     text: modelData.note
                     color: modelData.note.indexOf(qsTr("Not")) === 0 || modelData.note.indexOf(qsTr("The method")) === 0
@@ -171,11 +184,14 @@ MainContentBackground {
         }
     }
 
-    Row {
+    // Up to four buttons: a second line above when they do not fit beside
+    // the tip corner.
+    Flow {
         anchors.left: parent.left
         anchors.leftMargin: 20
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 20
+        width: parent.width - 20 - 80
         spacing: 10
         PopupAlternateButton {
             id: runBlankButton
@@ -191,9 +207,17 @@ MainContentBackground {
             id: standardizeButton
             objectName: "standardizeButton"
             width: 130
-            visible: titrant.concInputMode !== "Manual Entry" && (page.inMethodStack || page.isFromRepeatButton)
+            visible: !page.inProcessStack && titrant.concInputMode !== "Manual Entry" && (page.inMethodStack || page.isFromRepeatButton)
             text: qsTr("Standardize") + ls.translatedText
             onClicked: page.standardize()
+        }
+        PopupAlternateButton {
+            id: calibrateButton
+            objectName: "calibrateButton"
+            width: 120
+            visible: !page.inProcessStack && titration.displayUnits !== "mV" && (page.inMethodStack || page.isFromRepeatButton)
+            text: qsTr("Calibrate") + ls.translatedText
+            onClicked: page.calibrate()
         }
         PopupButton {
             id: startButton

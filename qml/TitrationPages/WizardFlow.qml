@@ -73,7 +73,9 @@ QtObject {
         electrode.setElectrodeSetupValues()
         titrant.setTitrantSetupValues(electrode.electrodeType, false)
         titration.setTitrationSetupValues(electrode.electrodeType)
-        titration01.repeatLastTitration()
+        startTitrationFullscreen.setCycleModelValue()
+        mainWindow.fromHomeStack = false
+        titrationProcessStack.pushPreCheck()
     }
 
     function finish(mka) {

@@ -11,6 +11,7 @@
 #include "models/titrantsetupmodel.h"
 #include "models/titrationmodel.h"
 #include "models/titrationsetupmodel.h"
+#include "system/clocaletext.h"
 
 #include <QDebug>
 #include <QRegularExpression>
@@ -293,6 +294,24 @@ bool MethodModel::saveParts(int id)
     const QString type = m_electrode->electrodeType();
     return m_electrode->setElectrodeSetupValues() && m_titrant->setTitrantSetupValues(type, true)
         && m_titration->setTitrationSetupValues(type);
+}
+
+bool MethodModel::recordCalibration(const QString &electrodeName, const QDateTime &when)
+{
+    if (electrodeName.isEmpty() || electrodeName != m_calibratedElectrodeName
+        || electrodeName != m_electrode->electrodeName())
+        return false;
+    const QString text = CLocaleText::upperDateTime(when, QStringLiteral("hh:mm a | MM/dd/yyyy"));
+    QSqlQuery update;
+    update.prepare(QStringLiteral("UPDATE methodSetupTable SET lastCalibration=:lastCalibration, "
+                                  "calibratedElectrodeName=:calibratedElectrodeName WHERE id=:ID"));
+    update.bindValue(QStringLiteral(":lastCalibration"), text);
+    update.bindValue(QStringLiteral(":calibratedElectrodeName"), electrodeName);
+    update.bindValue(QStringLiteral(":ID"), m_id);
+    if (!DbUtil::exec(update))
+        return false;
+    setLastCalibration(text);
+    return true;
 }
 
 void MethodModel::updateMethodModel(int id, const QString &name, const QString &password)

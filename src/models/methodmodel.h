@@ -96,6 +96,11 @@ public:
     // Whether the method's newest standardisation is newer than the last
     // change of its titrant (true when the titrant has no row).
     static bool isStandardized(int methodId);
+    // A calibration stored for the electrode this method asked it for
+    // (calibratedElectrodeName, the method's own electrode) becomes the
+    // method's last calibration, in memory and in its row. False, and
+    // nothing written, for a calibration of another electrode.
+    bool recordCalibration(const QString &electrodeName, const QDateTime &when);
 
     QQmlListProperty<MethodModel> methods();
     const QList<MethodModel *> &methodList() const { return m_methods; }

@@ -219,6 +219,34 @@ TEST_F(MethodModels, DuplicateNameChangesNothingAndReportsFailure)
     EXPECT_EQ(method.success(), 0);
 }
 
+// A calibration becomes the method's only when it is of the electrode the
+// method asked it for; the row keeps what memory shows.
+TEST_F(MethodModels, OnlyTheCalibrationOfTheMethodsOwnElectrodeIsRecorded)
+{
+    const QDateTime when(QDate(2026, 11, 24), QTime(15, 59));
+    struct Row {
+        const char *asked;       // calibratedElectrodeName
+        const char *calibrated;  // the calibration's electrode
+        bool recorded;
+    } rows[] = {
+        {"Glass 1", "Glass 1", true},
+        {"Glass 1", "Glass 2", false},
+        {"", "Glass 1", false},
+        {"Probe 9", "Probe 9", false}, // asked for another electrode (the Measure section's)
+    };
+    for (const Row &row : rows) {
+        MethodModel method;
+        method.electrodeSetupModel()->setElectrodeName(QStringLiteral("Glass 1"));
+        method.saveMethodValues(QStringLiteral("Cal %1").arg(int(&row - rows)), QString());
+        ASSERT_EQ(method.success(), 1);
+        method.setCalibratedElectrodeName(QString::fromLatin1(row.asked));
+        EXPECT_EQ(method.recordCalibration(QString::fromLatin1(row.calibrated), when), row.recorded) << row.calibrated;
+        const QString stored = cell(QStringLiteral("SELECT lastCalibration FROM methodSetupTable WHERE id=%1").arg(method.id())).toString();
+        EXPECT_EQ(stored, row.recorded ? QStringLiteral("03:59 PM | 11/24/2026") : QString()) << row.calibrated;
+        EXPECT_EQ(method.lastCalibration(), stored);
+    }
+}
+
 TEST_F(MethodModels, TheEleventhMethodIsRefused)
 {
     MethodModel method;

@@ -64,7 +64,8 @@ QString UiScript::usage()
         "    usb in [FOLDER] | usb out  the files of FOLDER onto the USB disk, and the disk in;\n"
         "                            the disk out (each waits until the application sees it)\n"
         "    nowarnings              fails on any warning of the QML engine since start\n"
-        "    sleep SECONDS\n");
+        "    sleep SECONDS\n"
+        "    include FILE            the lines of FILE (beside the script) in place\n");
 }
 
 bool UiScript::parse(const QStringList &args, Options *options, QString *error)
@@ -167,6 +168,40 @@ bool UiScript::beaker(const QString &json, QString *why) const
     return written;
 }
 
+bool UiScript::expand(const QByteArray &script, const QString &dir, const QString &file, int depth,
+                      QVector<Line> *lines, QString *why)
+{
+    const QStringList text = QString::fromUtf8(script).split(QLatin1Char('\n'));
+    for (int n = 1; n <= text.size(); ++n) {
+        const QString line = text.at(n - 1).trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+            continue;
+        if (!line.startsWith(QLatin1String("include "))) {
+            lines->append({file, n, line});
+            continue;
+        }
+        // The line stays where the expansion stopped, for the verdict.
+        const QString name = line.mid(8).trimmed();
+        QFile part(QDir(dir).filePath(name));
+        if (depth >= MaxIncludeDepth) {
+            *why = QStringLiteral("includes nest deeper than %1").arg(MaxIncludeDepth);
+        } else if (!part.open(QIODevice::ReadOnly)) {
+            *why = QStringLiteral("cannot read %1").arg(part.fileName());
+        } else {
+            const QByteArray body = part.read(MaxScriptBytes + 1);
+            if (body.size() > MaxScriptBytes)
+                *why = QStringLiteral("larger than %1 bytes").arg(MaxScriptBytes);
+            else if (expand(body, QFileInfo(part).absolutePath(), name, depth + 1, lines, why))
+                continue;
+            else
+                return false;
+        }
+        lines->append({file, n, line});
+        return false;
+    }
+    return true;
+}
+
 int UiScript::run(QTextStream &out, QTextStream &err)
 {
     QFile file;
@@ -180,15 +215,22 @@ int UiScript::run(QTextStream &out, QTextStream &err)
         err << "vantor-cli ui: the script is larger than " << MaxScriptBytes << " bytes\n";
         return 2;
     }
-    const QStringList lines = QString::fromUtf8(script).split(QLatin1Char('\n'));
+    QVector<Line> lines;
+    QString why;
+    const QString base = fromStdin ? QDir::currentPath() : QFileInfo(m_options.scriptFile).absolutePath();
+    const bool expanded = expand(script, base, QString(), 0, &lines, &why);
 
     QLocalSocket socket;
     bool connected = false;
     int commands = 0;
-    for (int n = 1; n <= lines.size(); ++n) {
-        const QString line = lines.at(n - 1).trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
-            continue;
+    for (const Line &entry : qAsConst(lines)) {
+        const QString &line = entry.text;
+        const QString where = entry.file.isEmpty() ? QStringLiteral("line %1").arg(entry.number)
+                                                   : QStringLiteral("%1 line %2").arg(entry.file).arg(entry.number);
+        if (line.startsWith(QLatin1String("include "))) {
+            out << "FAIL " << where << ": " << line << ": " << why << "\n";
+            return 1;
+        }
         const int space = line.indexOf(QLatin1Char(' '));
         const QString command = space < 0 ? line : line.left(space);
         const QString argument = space < 0 ? QString() : line.mid(space + 1).trimmed();
@@ -220,7 +262,7 @@ int UiScript::run(QTextStream &out, QTextStream &err)
         }
         ++commands;
         if (!ok) {
-            out << "FAIL line " << n << ": " << line << ": " << seen << "\n";
+            out << "FAIL " << where << ": " << line << ": " << seen << "\n";
             out.flush();
             return 1;
         }

@@ -2,13 +2,15 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 class QLocalSocket;
 class QTextStream;
 
 // vantor-cli ui: runs a UI driver script against the running application's
-// socket. One command a line, a line starting with # is a comment. sleep
-// and beaker run here; every other command goes to the application.
+// socket. One command a line, a line starting with # is a comment. sleep,
+// beaker and include (the lines of another script file, in place) run here;
+// every other command goes to the application.
 // A failing line prints "FAIL line N: COMMAND: what was seen" and stops the
 // script with status 1; a passing script ends with "OK N commands".
 class UiScript
@@ -31,8 +33,19 @@ public:
     int run(QTextStream &out, QTextStream &err);
 
     static constexpr int MaxScriptBytes = 1024 * 1024;
+    static constexpr int MaxIncludeDepth = 4;
 
 private:
+    struct Line {
+        QString file; // empty: the script itself
+        int number;
+        QString text;
+    };
+    // The command lines of `script`, includes read from beside it; false
+    // when an include could not be read (its line is the last, `why` says).
+    static bool expand(const QByteArray &script, const QString &dir, const QString &file, int depth,
+                       QVector<Line> *lines, QString *why);
+
     bool connect(QLocalSocket *socket, QTextStream &err) const;
     // Sends one line and waits for its answer.
     bool remote(QLocalSocket *socket, const QString &line, int timeoutMs, QString *text) const;
