@@ -218,7 +218,9 @@ int UiScript::run(QTextStream &out, QTextStream &err)
     QVector<Line> lines;
     QString why;
     const QString base = fromStdin ? QDir::currentPath() : QFileInfo(m_options.scriptFile).absolutePath();
-    const bool expanded = expand(script, base, QString(), 0, &lines, &why);
+    // An include that cannot be read stays in the lines, as its own line, and
+    // fails there with the reason, after the lines before it have run.
+    expand(script, base, QString(), 0, &lines, &why);
 
     QLocalSocket socket;
     bool connected = false;
