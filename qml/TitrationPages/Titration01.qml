@@ -29,12 +29,7 @@ MainContentBackground {
 
     // A stored stamp ("hh:mm AM | MM/dd/yyyy") by the settings' formats.
     function whenText(stamp) {
-        if (!stamp)
-            return ""
-        var d = displayValues.storedDate(stamp)
-        if (isNaN(d.getTime()))
-            return stamp
-        return displayValues.formatTime(d) + " " + displayValues.formatDate(d)
+        return stamp ? displayValues.formatCalibrationDate(stamp) : ""
     }
 
     // Repeat (or run, after a change) the current method's titration.

@@ -207,7 +207,8 @@ MainContentBackground {
             id: standardizeButton
             objectName: "standardizeButton"
             width: 130
-            visible: !page.inProcessStack && titrant.concInputMode !== "Manual Entry" && (page.inMethodStack || page.isFromRepeatButton)
+            // the Methods section's pre-check offers it always (its setup page comes first)
+            visible: !page.inProcessStack && (page.inMethodStack || (titrant.concInputMode !== "Manual Entry" && page.isFromRepeatButton))
             text: qsTr("Standardize") + ls.translatedText
             onClicked: page.standardize()
         }
@@ -215,7 +216,7 @@ MainContentBackground {
             id: calibrateButton
             objectName: "calibrateButton"
             width: 120
-            visible: !page.inProcessStack && titration.displayUnits !== "mV" && (page.inMethodStack || page.isFromRepeatButton)
+            visible: !page.inProcessStack && (page.inMethodStack || (titration.displayUnits !== "mV" && page.isFromRepeatButton))
             text: qsTr("Calibrate") + ls.translatedText
             onClicked: page.calibrate()
         }
