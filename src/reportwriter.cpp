@@ -53,6 +53,23 @@ QList<const QObject *> childRows(const QString &table, const QString &column, in
     return list;
 }
 
+// What a run's report starts from, common to a titration's and a
+// standardisation's log entry: the method's parts as they were, the run, the
+// calibration and the summary's figures.
+template <class LogEntry>
+RunReportSource sourceOf(const LogEntry *entry, const QString &avgConc, const QString &rsd)
+{
+    RunReportSource source;
+    source.method = entry->methodModel();
+    source.electrode = entry->electrodeSetupModel();
+    source.titrant = entry->titrantSetupModel();
+    source.run = entry->runValues();
+    source.calibration = entry->calibrationValues();
+    source.avgConc = avgConc;
+    source.rsd = rsd;
+    return source;
+}
+
 QDateTime lastBlankInput(int methodId)
 {
     QSqlQuery query;
@@ -127,15 +144,8 @@ bool ReportWriter::storeTitration(int logId, const QString &avgConc, const QStri
     QObject owner;
     auto *entry = new TitrationLogModel(&owner);
     entry->loadFromRecord(row);
-    RunReportSource source;
-    source.method = entry->methodModel();
-    source.electrode = entry->electrodeSetupModel();
-    source.titrant = entry->titrantSetupModel();
+    RunReportSource source = sourceOf(entry, avgConc, rsd);
     source.titration = entry->titrationSetupModel();
-    source.run = entry->runValues();
-    source.calibration = entry->calibrationValues();
-    source.avgConc = avgConc;
-    source.rsd = rsd;
     fillSettings(source);
 
     const int runId = source.run.value(QStringLiteral("id")).toInt();
@@ -203,14 +213,7 @@ bool ReportWriter::storeStandardisation(int logId, const QString &avgConc, const
     QObject owner;
     auto *entry = new StandardisationLogModel(&owner);
     entry->loadFromRecord(row);
-    RunReportSource source;
-    source.method = entry->methodModel();
-    source.electrode = entry->electrodeSetupModel();
-    source.titrant = entry->titrantSetupModel();
-    source.run = entry->runValues();
-    source.calibration = entry->calibrationValues();
-    source.avgConc = avgConc;
-    source.rsd = rsd;
+    RunReportSource source = sourceOf(entry, avgConc, rsd);
     fillSettings(source);
     const int runId = source.run.value(QStringLiteral("id")).toInt();
     source.cycles = childRows<TitrationCycleModel>(TitrationCycleModel::tableName, QStringLiteral("titrationId"), runId,

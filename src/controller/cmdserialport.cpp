@@ -1,6 +1,7 @@
 #include "controller/cmdserialport.h"
 
 #include "controller/remotecommand.h"
+#include "controller/serialport.h"
 #include "interfaces/remoteporthost.h"
 #include "system/clock.h"
 #include "system/platform.h"
@@ -80,11 +81,7 @@ void cmdSerialPort::portOpen()
     m_openScheduled = false;
     if (m_port->isOpen() || !m_port->open(QIODevice::ReadWrite))
         return;
-    m_port->setBaudRate(QSerialPort::Baud115200);
-    m_port->setDataBits(QSerialPort::Data8);
-    m_port->setParity(QSerialPort::NoParity);
-    m_port->setStopBits(QSerialPort::OneStop);
-    m_port->setFlowControl(QSerialPort::NoFlowControl);
+    setInstrumentLine(*m_port);
     m_openedNode = QFileInfo(m_device).canonicalFilePath();
     m_input.clear();
     m_discarding = false;

@@ -10,6 +10,15 @@ namespace {
 constexpr int kCheckTicks = 25;
 } // namespace
 
+void setInstrumentLine(QSerialPort &port)
+{
+    port.setBaudRate(QSerialPort::Baud115200);
+    port.setDataBits(QSerialPort::Data8);
+    port.setParity(QSerialPort::NoParity);
+    port.setStopBits(QSerialPort::OneStop);
+    port.setFlowControl(QSerialPort::NoFlowControl);
+}
+
 serialPort::serialPort(const QString &device, QObject *parent)
     : QObject(parent)
     , m_device(device)
@@ -42,11 +51,7 @@ bool serialPort::openPort()
 {
     if (!m_port->open(QIODevice::ReadWrite))
         return false;
-    m_port->setBaudRate(QSerialPort::Baud115200);
-    m_port->setDataBits(QSerialPort::Data8);
-    m_port->setParity(QSerialPort::NoParity);
-    m_port->setStopBits(QSerialPort::OneStop);
-    m_port->setFlowControl(QSerialPort::NoFlowControl);
+    setInstrumentLine(*m_port);
     m_openedNode = QFileInfo(m_device).canonicalFilePath();
     buffer.clear();
     if (m_everOpened)

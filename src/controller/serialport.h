@@ -8,6 +8,10 @@ class QIODevice;
 class QSerialPort;
 class QTimer;
 
+// Sets an open port to the line of the slave and of the remote port:
+// 115200 baud, 8 data bits, no parity, one stop bit, no flow control.
+void setInstrumentLine(QSerialPort &port);
+
 // Owns the slave's UART (115200 8N1, no flow control). A 40 ms timer polls
 // the port and collects bytes into a packet; packetReady() fires when a read
 // brought a CR. A device that vanishes is closed and opened again once it is
