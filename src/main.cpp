@@ -117,6 +117,9 @@ int main(int argc, char *argv[])
     auto *discovery = new NetworkDiscovery([dm, rm] { return describeInstrument(dm, rm); }, rm);
     // The info file follows the address, and the identity as it becomes known.
     QObject::connect(rm, &ResourceManager::ipAddressChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
+    // A host on the device port brings up the network gadget: the group is joined there too.
+    QObject::connect(rm->usb, &USB::usbHostAttached, discovery, &NetworkDiscovery::setupNetworkInterfaces);
+    QObject::connect(rm->usb, &USB::usbNetworkDeviceAttached, discovery, &NetworkDiscovery::setupNetworkInterfaces);
     QObject::connect(dm, &DataManagerBase::titratorModelStringChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
     QObject::connect(dm, &DataManagerBase::mfgSerialNumChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
     QObject::connect(dm->setupModel(), &SetupModel::valueChanged, discovery, &NetworkDiscovery::updateJSONDiscoveryFile);
