@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>完成</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>未保存</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>无法保存校准。其数值已显示，但本次会话结束后不会保留。</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>取消</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>样品 ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>输入样品 ID</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>保存</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>搅拌关</translation>
+            <source>Not Saved</source>
+            <translation>未保存</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>搅拌开</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>样品 ID</translation>
+            <source>The reading could not be saved.</source>
+            <translation>无法保存读数。</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>输入本次测量的样品 ID。</translation>
+            <source>Stirrer On</source>
+            <translation>搅拌器已开启</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>保存</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>取消</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>值不能为空。</translation>
+            <source>Stirrer Off</source>
+            <translation>搅拌器已关闭</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>完成</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>无法保存本次测定：数据库无法写入。其数值仍保持显示。</translation>
         </message>
     </context>
     <context>

@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>Fertig</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Nicht gespeichert</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Die Kalibrierung konnte nicht gespeichert werden. Ihre Werte werden angezeigt, sie bleibt aber nach dieser Sitzung nicht erhalten.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>Abbrechen</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>Proben-ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Geben Sie eine Proben-ID ein</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>Speichern</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Rühren aus</translation>
+            <source>Not Saved</source>
+            <translation>Nicht gespeichert</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Rühren ein</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>Proben-ID</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Der Messwert konnte nicht gespeichert werden.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Geben Sie die Proben-ID dieser Messung ein.</translation>
+            <source>Stirrer On</source>
+            <translation>Rührer ein</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Speichern</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Abbrechen</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Der Wert darf nicht leer sein.</translation>
+            <source>Stirrer Off</source>
+            <translation>Rührer aus</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>Abschließen</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Die Messung konnte nicht gespeichert werden: Die Datenbank kann nicht beschrieben werden. Ihre Werte bleiben angezeigt.</translation>
         </message>
     </context>
     <context>

@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>Done</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Not Saved</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>Cancel</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>Sample ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Enter a sample ID</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>Save</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Stir Off</translation>
+            <source>Not Saved</source>
+            <translation>Not Saved</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Stir On</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>Sample ID</translation>
+            <source>The reading could not be saved.</source>
+            <translation>The reading could not be saved.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Enter the sample ID of this measurement.</translation>
+            <source>Stirrer On</source>
+            <translation>Stirrer On</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Save</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Cancel</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Value cannot be empty.</translation>
+            <source>Stirrer Off</source>
+            <translation>Stirrer Off</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>Complete</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>The run could not be saved: the database cannot be written. Its figures stay on show.</translation>
         </message>
     </context>
     <context>

@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>Terminé</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Non enregistré</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>L'étalonnage n'a pas pu être enregistré. Ses valeurs sont affichées, mais il ne sera pas conservé après cette session.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>Annuler</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Saisissez un ID d'échantillon</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>Enregistrer</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitation arrêt</translation>
+            <source>Not Saved</source>
+            <translation>Non enregistré</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitation marche</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>ID d'échantillon</translation>
+            <source>The reading could not be saved.</source>
+            <translation>La mesure n'a pas pu être enregistrée.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Saisissez l'ID d'échantillon de cette mesure.</translation>
+            <source>Stirrer On</source>
+            <translation>Agitateur en marche</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Enregistrer</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Annuler</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>La valeur ne peut pas être vide.</translation>
+            <source>Stirrer Off</source>
+            <translation>Agitateur arrêté</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>Terminer</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>L'analyse n'a pas pu être enregistrée : la base de données ne peut pas être écrite. Ses valeurs restent affichées.</translation>
         </message>
     </context>
     <context>

@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>Fatto</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Non salvato</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Impossibile salvare la calibrazione. I suoi valori sono mostrati, ma non sarà conservata dopo questa sessione.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>Annulla</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID campione</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Inserire un ID campione</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>Salva</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitazione off</translation>
+            <source>Not Saved</source>
+            <translation>Non salvato</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitazione on</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>ID campione</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Impossibile salvare la lettura.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Inserire l'ID campione di questa misura.</translation>
+            <source>Stirrer On</source>
+            <translation>Agitatore acceso</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Salva</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Annulla</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Il valore non può essere vuoto.</translation>
+            <source>Stirrer Off</source>
+            <translation>Agitatore spento</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>Completa</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Impossibile salvare l'analisi: il database non può essere scritto. I suoi valori restano visualizzati.</translation>
         </message>
     </context>
     <context>

@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>完了</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>保存されていません</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>校正を保存できませんでした。値は表示されていますが、このセッション終了後は保持されません。</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>キャンセル</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>試料 ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>サンプル ID を入力してください</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>保存</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>撹拌オフ</translation>
+            <source>Not Saved</source>
+            <translation>保存されていません</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>撹拌オン</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>試料 ID</translation>
+            <source>The reading could not be saved.</source>
+            <translation>測定値を保存できませんでした。</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>この測定の試料 ID を入力します。</translation>
+            <source>Stirrer On</source>
+            <translation>スターラー動作中</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>保存</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>キャンセル</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>値を空にすることはできません。</translation>
+            <source>Stirrer Off</source>
+            <translation>スターラー停止中</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>完了</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>測定を保存できませんでした。データベースに書き込めません。値は表示されたままです。</translation>
         </message>
     </context>
     <context>

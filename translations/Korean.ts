@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>완료</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>저장되지 않음</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>교정을 저장할 수 없습니다. 값은 표시되지만 이 세션 이후에는 유지되지 않습니다.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>취소</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>시료 ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>샘플 ID를 입력하십시오</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>저장</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>교반 끄기</translation>
+            <source>Not Saved</source>
+            <translation>저장되지 않음</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>교반 켜기</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>시료 ID</translation>
+            <source>The reading could not be saved.</source>
+            <translation>측정값을 저장할 수 없습니다.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>이 측정의 시료 ID를 입력하십시오.</translation>
+            <source>Stirrer On</source>
+            <translation>교반기 켜짐</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>저장</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>취소</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>값을 비워 둘 수 없습니다.</translation>
+            <source>Stirrer Off</source>
+            <translation>교반기 꺼짐</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>완료</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>측정을 저장할 수 없습니다. 데이터베이스에 쓸 수 없습니다. 값은 계속 표시됩니다.</translation>
         </message>
     </context>
     <context>

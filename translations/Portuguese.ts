@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>Concluído</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Não guardado</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Não foi possível guardar a calibração. Os seus valores são mostrados, mas não será mantida após esta sessão.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>Cancelar</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID da amostra</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Introduza um ID de amostra</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>Guardar</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitação desligada</translation>
+            <source>Not Saved</source>
+            <translation>Não guardado</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitação ligada</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>ID da amostra</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Não foi possível guardar a leitura.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Introduza o ID da amostra desta medição.</translation>
+            <source>Stirrer On</source>
+            <translation>Agitador ligado</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Guardar</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Cancelar</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>O valor não pode estar vazio.</translation>
+            <source>Stirrer Off</source>
+            <translation>Agitador desligado</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>Concluir</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Não foi possível guardar a análise: a base de dados não pode ser escrita. Os seus valores continuam visíveis.</translation>
         </message>
     </context>
     <context>

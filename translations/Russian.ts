@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>Готово</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Не сохранено</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Калибровку не удалось сохранить. Её значения показаны, но после этого сеанса она не сохранится.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>Отмена</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID пробы</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Введите ID образца</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>Сохранить</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Мешалка выкл.</translation>
+            <source>Not Saved</source>
+            <translation>Не сохранено</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Мешалка вкл.</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>ID пробы</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Показание не удалось сохранить.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Введите ID пробы для этого измерения.</translation>
+            <source>Stirrer On</source>
+            <translation>Мешалка включена</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Сохранить</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Отмена</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Значение не может быть пустым.</translation>
+            <source>Stirrer Off</source>
+            <translation>Мешалка выключена</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>Завершить</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Измерение не удалось сохранить: запись в базу данных невозможна. Его значения остаются на экране.</translation>
         </message>
     </context>
     <context>

@@ -206,6 +206,14 @@
             <source>Done</source>
             <translation>Hecho</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>No guardado</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>No se pudo guardar la calibración. Sus valores se muestran, pero no se conservará después de esta sesión.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -636,6 +644,14 @@
             <source>Cancel</source>
             <translation>Cancelar</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID de muestra</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Introduzca un ID de muestra</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +680,20 @@
             <translation>Guardar</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitación off</translation>
+            <source>Not Saved</source>
+            <translation>No guardado</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitación on</translation>
-        </message>
-    </context>
-    <context>
-        <name>MeasureSampleIdPopup</name>
-        <message>
-            <source>Sample ID</source>
-            <translation>ID de muestra</translation>
+            <source>The reading could not be saved.</source>
+            <translation>No se pudo guardar la lectura.</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Introduzca el ID de muestra de esta medición.</translation>
+            <source>Stirrer On</source>
+            <translation>Agitador encendido</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Guardar</translation>
-        </message>
-        <message>
-            <source>Cancel</source>
-            <translation>Cancelar</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>El valor no puede estar vacío.</translation>
+            <source>Stirrer Off</source>
+            <translation>Agitador apagado</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1114,10 @@
         <message>
             <source>Complete</source>
             <translation>Completar</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>No se pudo guardar el análisis: no se puede escribir en la base de datos. Sus valores siguen mostrándose.</translation>
         </message>
     </context>
     <context>
