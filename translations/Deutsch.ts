@@ -2507,6 +2507,610 @@ gespeichert als - </translation>
             <source>Back Titration</source>
             <translation>Rücktitration</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>Eine Titration wird in 3 Schritten eingerichtet:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Elektrode einrichten</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Titriermittel einrichten</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Titration einrichten</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Einrichtung starten</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV Bereichsüberschreitung</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Außerhalb des Bereichs</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2 - 20 ein</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2.0 - 20.0 ein</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2.00 - 20.00 ein</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2.000 - 20.000 ein</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Geben Sie einen Wert zwischen -2000 - 2000 ein</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Geben Sie einen Wert zwischen 0 - 20000 ein</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Geben Sie eine Steilheit zwischen 80.0 - 120.0 % ein</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Geben Sie eine Steilheit zwischen -9999.99 - 9999.99 mV/dec ein</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Steilheit außerhalb des Bereichs</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Bitte geben Sie einen Wert mit höchstens 
+2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>Der Vorgabewert muss kleiner als das 
+maximale Bürettenvolumen sein</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>Das Installationsdatum darf nicht in der Zukunft liegen.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>Das Installationsdatum darf nicht vor 2000 liegen.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.0001 - 100.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 100000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.0001 - 100.0 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 100000.0 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.01 - 100,000 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.01 - 100.00 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.0001 - 100.0 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0 - Bürettengröße mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0 - 100 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0 - 10,000 ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 100.0 mit höchstens 1 Nachkommastelle ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.001 - 10.000 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 200.0 mit höchstens 1 Nachkommastelle ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 150 ohne Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 15000 ohne Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 20000 ohne Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Geben Sie einen pH-Wert zwischen 0.00 - 14.00 ein</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Titriermittelkonzentration</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00001 - 10,000 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Molmasse des Titriermittels</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.01 - 100,000 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Nennkonzentration</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Endpunktwerte</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Geben Sie einen mV-Wert zwischen - 2000.0 - +2000.0 mV ein.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Reaktionsverhältnis Standardisierung</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Standardmenge</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Molmasse des Standards</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Reinheit des Standards</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Standardkonzentration</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Vordosiervolumen Titriermittel</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Max. Gesamtvolumen Titriermittel</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Vorrührdauer</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Geben Sie einen mV-Wert zwischen -2000.0 - +2000.0 mV ein.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Fester Blindwert</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00000 - 1000 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Ergebniseinheit (F*Verbrauch mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.0001 - 1000 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Reaktionsverhältnis</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Reagenzmenge</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.001 - 10,000 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Molmasse des Reagenzes</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Reinheit des Reagenzes</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Feste Reagenzmenge (Gewicht)</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Reagenzvolumen</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Reagenzkonzentration</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Molmasse Probe</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Probenmenge</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.001 - 1000.0 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Probendichte</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.001 - 100.0
+mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Portionsgröße</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Gesamtvolumen der Lösung</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 10000 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Präzisionsniveau</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 20 mit höchstens 1 Nachkommastelle ein.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>Ziel-ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Minimale Dosis ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Maximale Dosis ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Stabilitätskriterium dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Minimale Ansprechzeit tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Maximale Ansprechzeit tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Schwellenwert</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Konstantes Inkrement</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Messstabilität</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Sonderzeichen sind nicht erlaubt</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Elektrodenname</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Ungültiger Name. Bitte bis zu 14 alphanumerische Zeichen eingeben.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Benutzerdefinierter Titriermittelname</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>Titriermittel-ID</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 14 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Benutzerdefinierter Standardname</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 14 alphanumerische 
+Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>Proben-ID - manuell</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>Die Proben-ID darf nicht leer sein</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>Proben-ID - fortlaufend</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 10 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>Der Methodenname darf nicht leer sein</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 14 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>Passwort und Bestätigung müssen übereinstimmen</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Ungültiges Passwort. Bitte geben Sie bis zu 14 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>Der Methodenname darf nicht leer sein</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Eine Methode mit diesem Namen ist bereits vorhanden.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Das Methodenprotokoll ist voll, die neue Methode kann nicht gespeichert werden.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>Die Methode konnte nicht gespeichert werden. Bitte versuchen Sie es erneut.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>1. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>2. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>3. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>4. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>5. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Elektrodentyp</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Auflösung</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Puffergruppe</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>ISE-Typ</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Titriermittelname</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Konz.-Eingabemodus</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Standardisierungstechnik</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Anzahl Endpunkte</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Ergebniseinheit</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Reaktionsverhältnis Standardisierung</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Standardname</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Molmasse Standard</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Prozesssteuerung Standardisierung</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Rührgeschwindigkeit</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Name und Konzentration des Titriermittels</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Titrationstechnik</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Anzeigeeinheit</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Titrationsart</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Blindwert erforderlich</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Molmasse Reagenz</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Reagenzgewicht</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Prozesssteuerung Titration</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>Proben-ID</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Präfix (fortlaufend)</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Blindwertkonz. erforderlich</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>MKA-Prozesssteuerung</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>Das Reaktionsverhältnis darf nicht leer sein!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>Die Molmasse der Probe darf nicht leer sein!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>Die Probenmenge darf nicht leer sein!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>Die Probendichte darf nicht leer sein!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>

@@ -650,7 +650,7 @@
         </message>
         <message>
             <source>Enter a sample ID</source>
-            <translation>Введите ID образца</translation>
+            <translation>Введите ID пробы</translation>
         </message>
     </context>
     <context>
@@ -2506,6 +2506,610 @@ been saved as - </source>
         <message>
             <source>Back Titration</source>
             <translation>Обратное титрование</translation>
+        </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>Настройка титрования состоит из 3 шагов:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Настройка электрода</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Настройка титранта</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Настройка титрования</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Начать настройку</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>мВ вне диапазона</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Вне диапазона</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Введите значение pH в диапазоне -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Введите значение pH в диапазоне -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Введите значение pH в диапазоне -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Введите значение pH в диапазоне -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Введите значение в диапазоне -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Введите значение в диапазоне 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Введите крутизну в диапазоне 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Введите крутизну в диапазоне -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Наклон вне диапазона</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Введите значение не более чем 
+с 2 знаками после запятой.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>Заданное значение должно быть меньше 
+максимального объёма бюретки</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>Дата установки не может быть в будущем.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>Дата установки не может быть раньше 2000 года.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.0001 - 100.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 100000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.0001 - 100.0, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 100000.0, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.01 - 100,000, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.01 - 100.00, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.0001 - 100.0, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0 - объём бюретки, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0 - 100, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 100.0, не более 1 знака после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.001 - 10.000, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 200.0, не более 1 знака после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 150, без десятичных знаков.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 15000, без десятичных знаков.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 20000, без десятичных знаков.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Введите значение pH в диапазоне 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Концентрация титранта</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00001 - 10,000, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Молярная масса титранта</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.01 - 100,000, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Номинальная концентрация</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Значения конечной точки</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Введите значение в мВ в диапазоне - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Стехиометрия стандартизации</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Количество стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Молярная масса стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Чистота стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Концентрация стандарта</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Объём предварительной дозы титранта</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Макс. общий объём титранта</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Длительность предв. перемешивания</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Введите значение в мВ в диапазоне -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Фиксированный холостой опыт</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00000 - 1000, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Единицы результата (F*расход, ммоль)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.0001 - 1000, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Стехиометрия</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Количество реагента</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.001 - 10,000, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Молярная масса реагента</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Чистота реагента</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Фиксированная масса реагента</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Объём реагента</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Концентрация реагента</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Мол. масса пробы</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Количество пробы</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.001 - 1000.0, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Плотность пробы</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.001 - 100.0
+не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Размер порции</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Общий объём раствора</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 10000, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Уровень точности</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 20, не более 1 знака после запятой.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>Целевое ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Минимальная доза ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Максимальная доза ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Критерий стабильности dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Минимальное время отклика tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Максимальное время отклика tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Порог</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Постоянный шаг</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Стабильность измерения</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Специальные символы не допускаются</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Имя электрода</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Неверное имя. Введите до 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Название титранта пользователя</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>ID титранта</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Недопустимое имя. Введите не более 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Название стандарта пользователя</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Недопустимое имя. Введите не более 14 
+буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>ID пробы - вручную</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>ID пробы не может быть пустым</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>ID пробы - автоматически</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Недопустимое имя. Введите не более 10 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>Название метода не может быть пустым</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Недопустимое имя. Введите не более 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>Пароль и подтверждение должны совпадать</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Недопустимый пароль. Введите не более 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>Название метода не может быть пустым</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Метод с таким названием уже существует.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Журнал методов заполнен, новый метод сохранить нельзя.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>Метод не удалось сохранить. Повторите попытку.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Запустить 1-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Запустить 2-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Запустить 3-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Запустить 4-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Запустить 5-й цикл</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Тип электрода</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Разрешение</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Группа буферов</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Тип ИСЭ</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Название титранта</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Ввод концентрации</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Метод стандартизации</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Число конечных точек</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Единицы результата</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Стехиометрия стандартизации</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Название стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Мол. масса стандарта</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Управление стандартизацией</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Скорость перемешивания</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Название и концентрация титранта</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Метод титрования</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Единицы отображения</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Тип титрования</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Холостой опыт</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Мол. масса реагента</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Масса реагента</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Управление титрованием</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID пробы</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Префикс автоинкремента</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Конц. холостого опыта</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>Управление процессом MKA</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>Стехиометрия не может быть пустой!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>Молярная масса пробы не может быть пустой!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>Количество пробы не может быть пустым!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>Плотность пробы не может быть пустой!</translation>
         </message>
     </context>
     <context>

@@ -2507,6 +2507,610 @@ guardado como - </translation>
             <source>Back Titration</source>
             <translation>Titulación por retroceso</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>Configurar una titulación consta de 3 pasos:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Configurar electrodo</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Configurar titulante</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Configurar titulación</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Iniciar configuración</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV fuera de rango</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Fuera de rango</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Introduzca un valor de pH entre -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Introduzca un valor de pH entre -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Introduzca un valor de pH entre -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Introduzca un valor de pH entre -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Introduzca un valor entre -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Introduzca un valor entre 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Introduzca una pendiente entre 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Introduzca una pendiente entre -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Pendiente fuera de rango</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Introduzca un valor con un máximo de 
+2 decimales.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>El valor predefinido debe ser menor que el 
+volumen máximo de la bureta</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>La fecha de instalación no puede ser futura.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>La fecha de instalación no puede ser anterior a 2000.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.0001 - 100.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 100000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.0001 - 100.0 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 100000.0 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.01 - 100,000 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.01 - 100.00 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.0001 - 100.0 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0 - tamaño de la bureta con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0 - 100 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 100.0 con un máximo de 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.001 - 10.000 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 200.0 con un máximo de 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 150 sin decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 15000 sin decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 20000 sin decimales.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Introduzca un valor de pH entre 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Concentración del titulante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00001 - 10,000 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Peso molecular del titulante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.01 - 100,000 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Concentración nominal</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Valores del punto final</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Introduzca un valor en mV entre - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Relación de reacción de estandarización</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Cantidad de patrón</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Peso molecular del patrón</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Pureza del patrón</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Concentración del patrón</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Volumen de predosificación del titulante</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Volumen máx. total de titulante</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Duración de preagitación</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Introduzca un valor en mV entre -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Valor de blanco fijo</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00000 - 1000 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Unidades del resultado (F*consumo mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.0001 - 1000 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Relación de reacción</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Cantidad de reactivo</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.001 - 10,000 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Peso molecular del reactivo</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Pureza del reactivo</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Peso fijo del reactivo</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Volumen de reactivo</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Concentración del reactivo</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Peso mol. muestra</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Cantidad de muestra</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.001 - 1000.0 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Densidad de la muestra</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.001 - 100.0
+con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Tamaño de la porción</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Volumen total de solución</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 10000 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Nivel de precisión</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 20 con un máximo de 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>ΔE objetivo</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Dosis mínima ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Dosis máxima ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Criterio de estabilidad dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Tiempo de respuesta mínimo tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Tiempo de respuesta máximo tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Umbral</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Incremento constante</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Estabilidad de la medición</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>No se permiten caracteres especiales</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Nombre del electrodo</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Nombre del titulante definido por el usuario</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>ID del titulante</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Nombre del patrón definido por el usuario</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres 
+alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>ID de muestra - manual</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>El ID de muestra no puede estar vacío</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>ID de muestra - automático</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 10 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>El nombre del método no puede estar vacío</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>La contraseña y su confirmación deben coincidir</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Contraseña no válida. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>El nombre del método no puede estar vacío</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Ya existe un método con este nombre.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>El registro de métodos está lleno; no se puede guardar un método nuevo.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>No se pudo guardar el método. Inténtelo de nuevo.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Iniciar el 1.er ciclo</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Iniciar el 2.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Iniciar el 3.er ciclo</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Iniciar el 4.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Iniciar el 5.º ciclo</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Tipo de electrodo</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Resolución</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Grupo de tampones</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Tipo de ISE</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Nombre del titulante</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Modo de entrada de conc.</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Técnica de estandarización</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Número de puntos finales</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Unidades del resultado</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Relación de reacción de estandarización</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Nombre del patrón</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Peso mol. del patrón</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Control del proceso de estandarización</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Velocidad de agitación</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Nombre y concentración del titulante</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Técnica de titulación</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Unidades de visualización</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Tipo de titulación</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Blanco requerido</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Peso mol. del reactivo</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Peso del reactivo</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Control del proceso de titulación</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID de muestra</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Prefijo autoincremental</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Conc. del blanco requerida</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>Control del proceso MKA</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>¡La relación de reacción no puede estar vacía!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>¡El peso molecular de la muestra no puede estar vacío!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>¡La cantidad de muestra no puede estar vacía!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>¡La densidad de la muestra no puede estar vacía!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
