@@ -2717,11 +2717,11 @@ maximale Bürettenvolumen sein</translation>
         </message>
         <message>
             <source>Pre-dose Titrant Volume</source>
-            <translation>Vordosiervolumen Titriermittel</translation>
+            <translation>Vordosiervolumen</translation>
         </message>
         <message>
             <source>Max Total Titrant Volume</source>
-            <translation>Max. Gesamtvolumen Titriermittel</translation>
+            <translation>Max. Gesamtvolumen</translation>
         </message>
         <message>
             <source>Pre-stir Duration</source>
@@ -3029,7 +3029,7 @@ Zeichen ein.</translation>
         </message>
         <message>
             <source>Standardize Reaction Ratio</source>
-            <translation>Reaktionsverhältnis Standardisierung</translation>
+            <translation>Reaktionsverh. Stand.</translation>
         </message>
         <message>
             <source>Standard Name</source>
@@ -3041,7 +3041,7 @@ Zeichen ein.</translation>
         </message>
         <message>
             <source>Stand. Process Control</source>
-            <translation>Prozesssteuerung Standardisierung</translation>
+            <translation>Prozesssteuerung Stand.</translation>
         </message>
         <message>
             <source>Stir Speed</source>
@@ -3049,7 +3049,7 @@ Zeichen ein.</translation>
         </message>
         <message>
             <source>Titrant Name and Concentration</source>
-            <translation>Name und Konzentration des Titriermittels</translation>
+            <translation>Titriermittel und Konz.</translation>
         </message>
         <message>
             <source>Titration Technique</source>

@@ -2717,11 +2717,11 @@ volume maximal de la burette</translation>
         </message>
         <message>
             <source>Pre-dose Titrant Volume</source>
-            <translation>Volume de pré-dosage du titrant</translation>
+            <translation>Volume de pré-dosage</translation>
         </message>
         <message>
             <source>Max Total Titrant Volume</source>
-            <translation>Volume max. total de titrant</translation>
+            <translation>Volume total max.</translation>
         </message>
         <message>
             <source>Pre-stir Duration</source>
@@ -3029,7 +3029,7 @@ alphanumériques.</translation>
         </message>
         <message>
             <source>Standardize Reaction Ratio</source>
-            <translation>Rapport stœchiométrique de standardisation</translation>
+            <translation>Rapport stœch. standard.</translation>
         </message>
         <message>
             <source>Standard Name</source>
@@ -3041,7 +3041,7 @@ alphanumériques.</translation>
         </message>
         <message>
             <source>Stand. Process Control</source>
-            <translation>Contrôle du processus de standardisation</translation>
+            <translation>Contrôle standardisation</translation>
         </message>
         <message>
             <source>Stir Speed</source>
@@ -3049,11 +3049,11 @@ alphanumériques.</translation>
         </message>
         <message>
             <source>Titrant Name and Concentration</source>
-            <translation>Nom et concentration du titrant</translation>
+            <translation>Titrant et concentration</translation>
         </message>
         <message>
             <source>Titration Technique</source>
-            <translation>Technique de titration</translation>
+            <translation>Technique de titrage</translation>
         </message>
         <message>
             <source>Display Units</source>
@@ -3061,7 +3061,7 @@ alphanumériques.</translation>
         </message>
         <message>
             <source>Titration Type</source>
-            <translation>Type de titration</translation>
+            <translation>Type de titrage</translation>
         </message>
         <message>
             <source>Blank Required</source>
@@ -3077,7 +3077,7 @@ alphanumériques.</translation>
         </message>
         <message>
             <source>Titration Process Control</source>
-            <translation>Contrôle du processus de titration</translation>
+            <translation>Contrôle du titrage</translation>
         </message>
         <message>
             <source>Sample ID</source>

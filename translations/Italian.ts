@@ -2717,11 +2717,11 @@ volume massimo della buretta</translation>
         </message>
         <message>
             <source>Pre-dose Titrant Volume</source>
-            <translation>Volume di pre-dosaggio del titolante</translation>
+            <translation>Volume pre-dosaggio</translation>
         </message>
         <message>
             <source>Max Total Titrant Volume</source>
-            <translation>Volume max totale di titolante</translation>
+            <translation>Volume totale max</translation>
         </message>
         <message>
             <source>Pre-stir Duration</source>
@@ -3029,7 +3029,7 @@ alfanumerici.</translation>
         </message>
         <message>
             <source>Standardize Reaction Ratio</source>
-            <translation>Rapporto di reazione della standardizzazione</translation>
+            <translation>Rapporto reazione stand.</translation>
         </message>
         <message>
             <source>Standard Name</source>
@@ -3041,7 +3041,7 @@ alfanumerici.</translation>
         </message>
         <message>
             <source>Stand. Process Control</source>
-            <translation>Controllo processo standardizzazione</translation>
+            <translation>Controllo standardizz.</translation>
         </message>
         <message>
             <source>Stir Speed</source>
@@ -3049,7 +3049,7 @@ alfanumerici.</translation>
         </message>
         <message>
             <source>Titrant Name and Concentration</source>
-            <translation>Nome e concentrazione del titolante</translation>
+            <translation>Titolante e concentrazione</translation>
         </message>
         <message>
             <source>Titration Technique</source>
@@ -3077,7 +3077,7 @@ alfanumerici.</translation>
         </message>
         <message>
             <source>Titration Process Control</source>
-            <translation>Controllo del processo di titolazione</translation>
+            <translation>Controllo titolazione</translation>
         </message>
         <message>
             <source>Sample ID</source>

@@ -2717,11 +2717,11 @@ volume máximo da bureta</translation>
         </message>
         <message>
             <source>Pre-dose Titrant Volume</source>
-            <translation>Volume de pré-dosagem do titulante</translation>
+            <translation>Volume de pré-dosagem</translation>
         </message>
         <message>
             <source>Max Total Titrant Volume</source>
-            <translation>Volume máx. total de titulante</translation>
+            <translation>Volume total máx.</translation>
         </message>
         <message>
             <source>Pre-stir Duration</source>
@@ -3029,7 +3029,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Standardize Reaction Ratio</source>
-            <translation>Razão de reação da padronização</translation>
+            <translation>Razão de reação padron.</translation>
         </message>
         <message>
             <source>Standard Name</source>
@@ -3041,7 +3041,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Stand. Process Control</source>
-            <translation>Controlo do processo de padronização</translation>
+            <translation>Controlo da padronização</translation>
         </message>
         <message>
             <source>Stir Speed</source>
@@ -3049,7 +3049,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Titrant Name and Concentration</source>
-            <translation>Nome e concentração do titulante</translation>
+            <translation>Titulante e concentração</translation>
         </message>
         <message>
             <source>Titration Technique</source>
@@ -3077,7 +3077,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Titration Process Control</source>
-            <translation>Controlo do processo de titulação</translation>
+            <translation>Controlo da titulação</translation>
         </message>
         <message>
             <source>Sample ID</source>

@@ -2717,7 +2717,7 @@ maximum burette volume</source>
         </message>
         <message>
             <source>Pre-dose Titrant Volume</source>
-            <translation>Объём предварительной дозы титранта</translation>
+            <translation>Объём предв. дозы</translation>
         </message>
         <message>
             <source>Max Total Titrant Volume</source>
@@ -2725,7 +2725,7 @@ maximum burette volume</source>
         </message>
         <message>
             <source>Pre-stir Duration</source>
-            <translation>Длительность предв. перемешивания</translation>
+            <translation>Предв. перемешивание</translation>
         </message>
         <message>
             <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
@@ -2733,7 +2733,7 @@ maximum burette volume</source>
         </message>
         <message>
             <source>Fixed Blank Value</source>
-            <translation>Фиксированный холостой опыт</translation>
+            <translation>Фикс. холостой опыт</translation>
         </message>
         <message>
             <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
@@ -3049,7 +3049,7 @@ characters.</source>
         </message>
         <message>
             <source>Titrant Name and Concentration</source>
-            <translation>Название и концентрация титранта</translation>
+            <translation>Титрант и концентрация</translation>
         </message>
         <message>
             <source>Titration Technique</source>

@@ -2717,11 +2717,11 @@ volumen máximo de la bureta</translation>
         </message>
         <message>
             <source>Pre-dose Titrant Volume</source>
-            <translation>Volumen de predosificación del titulante</translation>
+            <translation>Volumen de predosificación</translation>
         </message>
         <message>
             <source>Max Total Titrant Volume</source>
-            <translation>Volumen máx. total de titulante</translation>
+            <translation>Volumen total máx.</translation>
         </message>
         <message>
             <source>Pre-stir Duration</source>
@@ -3029,7 +3029,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Standardize Reaction Ratio</source>
-            <translation>Relación de reacción de estandarización</translation>
+            <translation>Relación reacción estand.</translation>
         </message>
         <message>
             <source>Standard Name</source>
@@ -3041,7 +3041,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Stand. Process Control</source>
-            <translation>Control del proceso de estandarización</translation>
+            <translation>Control estandarización</translation>
         </message>
         <message>
             <source>Stir Speed</source>
@@ -3049,7 +3049,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Titrant Name and Concentration</source>
-            <translation>Nombre y concentración del titulante</translation>
+            <translation>Titulante y concentración</translation>
         </message>
         <message>
             <source>Titration Technique</source>
@@ -3077,7 +3077,7 @@ alfanuméricos.</translation>
         </message>
         <message>
             <source>Titration Process Control</source>
-            <translation>Control del proceso de titulación</translation>
+            <translation>Control de la titulación</translation>
         </message>
         <message>
             <source>Sample ID</source>
