@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>从控制器无响应：尝试 %2 次后仍无法设置滴定管容量（%1 mL）。</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>完成</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>无法读取数据库文件 %1：文件已损坏或不是数据库。</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>无法将数据库文件 %1 升级到此版本，且无法写入其备份。</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>数据库文件 %1 的版本不为本程序所知：它属于更新的程序或其他程序。</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>数据库文件 %1 属于更新版本的程序（数据库版本 %2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>无法写入数据库文件 %1（%2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>数据库文件 %1 是一个文件夹。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>无法打开数据库文件 %1：%2。</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation>其方法和记录可以读取，但在维修之前，现在所做的任何操作都不会保存。</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation>在维修之前不会保存任何内容；该文件及其备份保持不变。</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>循环号 </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>另有 %1 条</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB 设备未连接</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>操作完成</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>复制失败</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>数据库复制</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>导出</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>导入</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>恢复出厂设置</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>无法保留方法：没有备份文件夹</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>方法</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>无法保留方法；未重置任何内容。</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>无法重置数据库。</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ characters.</source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>设置 | 第 12 步，共 13 步</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>滴定管</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>数据库</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>Der Slave antwortet nicht: Die Bürettengröße (%1 mL) konnte nach %2 Versuchen nicht eingestellt werden.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Fertig</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Die Datenbankdatei %1 kann nicht gelesen werden: Sie ist beschädigt oder keine Datenbank.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Die Datenbankdatei %1 konnte nicht auf diese Version gebracht werden, und ihre Sicherung konnte nicht geschrieben werden.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Die Datenbankdatei %1 trägt keine diesem Programm bekannte Version: Sie gehört zu einem neueren oder einem anderen Programm.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Die Datenbankdatei %1 gehört zu einem neueren Programm (Datenbankversion %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Die Datenbankdatei %1 kann nicht beschrieben werden (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Die Datenbankdatei %1 ist ein Ordner.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Die Datenbankdatei %1 kann nicht geöffnet werden: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Seine Methoden und Protokolle können gelesen werden, aber nichts, was jetzt getan wird, wird gespeichert, bis sie gewartet wurde.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Bis zur Wartung wird nichts gespeichert; die Datei und ihre Sicherung bleiben unverändert.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Zyklus Nr. </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>und %1 weitere</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB-Gerät nicht verbunden</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Vorgang abgeschlossen</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Kopieren fehlgeschlagen</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Datenbankkopie</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportieren</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importieren</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Werkseinstellungen</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Die Methoden konnten nicht erhalten werden: kein Sicherungsordner</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Methoden</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Die Methoden konnten nicht erhalten werden; nichts wurde zurückgesetzt.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Die Datenbank konnte nicht zurückgesetzt werden.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ Zeichen ein.</translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Einrichtung | Schritt 12 von 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Bürette</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Datenbank</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Done</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>The database file %1 cannot be read: it is damaged or not a database.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>The database file %1 could not be brought to this version, and its backup could not be written.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>The database file %1 belongs to a newer program (database version %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>The database file %1 cannot be written (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>The database file %1 is a folder.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>The database file %1 cannot be opened: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Its methods and logs can be read, but nothing done now is stored until it is serviced.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Nothing is stored until it is serviced; the file and its backup are left untouched.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Cycle No </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>and %1 more</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB Device not connected</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Process Complete</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Copy failed</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Database copy</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Export</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Import</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Factory Reset</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>The methods could not be kept: no backup folder</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Methods</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>The methods could not be kept; nothing was reset.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>The database could not be reset.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ characters.</translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Setup | Step 12 of 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Burette</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Database</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>L'esclave ne répond pas : la taille de la burette (%1 mL) n'a pas pu être réglée après %2 essais.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Terminé</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Le fichier de base de données %1 ne peut pas être lu : il est endommagé ou n'est pas une base de données.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Le fichier de base de données %1 n'a pas pu être mis à cette version, et sa sauvegarde n'a pas pu être écrite.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Le fichier de base de données %1 ne porte aucune version connue de ce programme : il appartient à un programme plus récent ou à un autre programme.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Le fichier de base de données %1 appartient à un programme plus récent (version de base de données %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Le fichier de base de données %1 ne peut pas être écrit (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Le fichier de base de données %1 est un dossier.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Le fichier de base de données %1 ne peut pas être ouvert : %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Ses méthodes et journaux peuvent être lus, mais rien de ce qui est fait maintenant n'est enregistré avant une intervention du service.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Rien n'est enregistré avant une intervention du service ; le fichier et sa sauvegarde restent intacts.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Cycle n° </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>et %1 de plus</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Périphérique USB non connecté</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Opération terminée</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Échec de la copie</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Copie de la base de données</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exporter</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importer</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Réinitialisation d'usine</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Les méthodes n'ont pas pu être conservées : aucun dossier de sauvegarde</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Méthodes</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Les méthodes n'ont pas pu être conservées ; rien n'a été réinitialisé.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>La base de données n'a pas pu être réinitialisée.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ alphanumériques.</translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configuration | Étape 12 sur 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Burette</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Base de données</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>Lo slave non risponde: impossibile impostare il volume della buretta (%1 mL) dopo %2 tentativi.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Fatto</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Impossibile leggere il file di database %1: è danneggiato o non è un database.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Impossibile aggiornare il file di database %1 a questa versione, e non è stato possibile scriverne il backup.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Il file di database %1 non riporta una versione nota a questo programma: appartiene a un programma più recente o a un altro programma.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Il file di database %1 appartiene a un programma più recente (versione database %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Impossibile scrivere il file di database %1 (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Il file di database %1 è una cartella.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Impossibile aprire il file di database %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> I suoi metodi e registri possono essere letti, ma nulla di ciò che si fa ora viene salvato finché non viene riparato.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Nulla viene salvato finché non viene riparato; il file e il suo backup restano intatti.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Ciclo n. </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>e altri %1</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Dispositivo USB non collegato</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Operazione completata</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Copia non riuscita</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Copia del database</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Esporta</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importa</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Ripristino di fabbrica</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Impossibile conservare i metodi: nessuna cartella di backup</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Metodi</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Impossibile conservare i metodi; non è stato ripristinato nulla.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Impossibile ripristinare il database.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ alfanumerici.</translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configurazione | Passo 12 di 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Buretta</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Database</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>スレーブが応答しません。%2 回試行しましたが、ビュレット容量（%1 mL）を設定できませんでした。</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>完了</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>データベースファイル %1 を読み取れません。破損しているか、データベースではありません。</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>データベースファイル %1 をこのバージョンに更新できず、バックアップも書き込めませんでした。</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>データベースファイル %1 にはこのプログラムが認識できるバージョンがありません。新しいプログラムか別のプログラムのものです。</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>データベースファイル %1 は新しいプログラムのものです（データベースバージョン %2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>データベースファイル %1 に書き込めません（%2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>データベースファイル %1 はフォルダーです。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>データベースファイル %1 を開けません: %2。</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation>メソッドとログは読み取れますが、修理されるまで現在の操作は保存されません。</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation>修理されるまで何も保存されません。ファイルとそのバックアップは変更されません。</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>サイクル番号 </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>他 %1 件</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB デバイスが接続されていません</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>処理が完了しました</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>コピーに失敗しました</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>データベースのコピー</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>エクスポート</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>インポート</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>工場出荷時設定に戻す</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>メソッドを保持できませんでした。バックアップフォルダーがありません</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>メソッド</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>メソッドを保持できなかったため、何もリセットされませんでした。</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>データベースをリセットできませんでした。</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ characters.</source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>セットアップ | ステップ 12/13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>ビュレット</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>データベース</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>슬레이브가 응답하지 않습니다: %2회 시도 후에도 뷰렛 용량(%1 mL)을 설정할 수 없습니다.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>완료</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>데이터베이스 파일 %1을(를) 읽을 수 없습니다. 손상되었거나 데이터베이스가 아닙니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>데이터베이스 파일 %1을(를) 이 버전으로 변환할 수 없었고, 백업도 쓸 수 없었습니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>데이터베이스 파일 %1에는 이 프로그램이 아는 버전이 없습니다. 더 새로운 프로그램이나 다른 프로그램의 것입니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>데이터베이스 파일 %1은(는) 더 새로운 프로그램의 것입니다(데이터베이스 버전 %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>데이터베이스 파일 %1에 쓸 수 없습니다(%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>데이터베이스 파일 %1은(는) 폴더입니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>데이터베이스 파일 %1을(를) 열 수 없습니다: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> 메서드와 로그는 읽을 수 있지만, 정비될 때까지 지금 하는 작업은 저장되지 않습니다.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> 정비될 때까지 아무것도 저장되지 않습니다. 파일과 백업은 그대로 유지됩니다.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>사이클 번호 </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>외 %1건</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB 장치가 연결되지 않음</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>처리 완료</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>복사 실패</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>데이터베이스 복사</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>내보내기</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>가져오기</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>공장 초기화</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>메서드를 유지할 수 없습니다: 백업 폴더가 없습니다</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>메서드</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>메서드를 유지할 수 없어 아무것도 초기화하지 않았습니다.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>데이터베이스를 초기화할 수 없습니다.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ characters.</source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>설정 | 13단계 중 12단계</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>뷰렛</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>데이터베이스</translation>
         </message>
     </context>
 </TS>

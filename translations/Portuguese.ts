@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>O escravo não responde: não foi possível definir o volume da bureta (%1 mL) após %2 tentativas.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Concluído</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Não é possível ler o ficheiro de base de dados %1: está danificado ou não é uma base de dados.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Não foi possível trazer o ficheiro de base de dados %1 para esta versão, e a sua cópia de segurança não pôde ser escrita.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>O ficheiro de base de dados %1 não tem nenhuma versão conhecida por este programa: pertence a um programa mais recente ou a outro programa.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>O ficheiro de base de dados %1 pertence a um programa mais recente (versão da base de dados %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Não é possível escrever o ficheiro de base de dados %1 (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>O ficheiro de base de dados %1 é uma pasta.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Não é possível abrir o ficheiro de base de dados %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Os seus métodos e registos podem ser lidos, mas nada do que for feito agora é guardado até ser reparado.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Nada é guardado até ser reparado; o ficheiro e a sua cópia de segurança ficam intactos.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Ciclo n.º </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>e mais %1</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Dispositivo USB não ligado</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Processo concluído</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Falha na cópia</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Cópia da base de dados</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importar</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Reposição de fábrica</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Não foi possível manter os métodos: sem pasta de cópia de segurança</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Métodos</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Não foi possível manter os métodos; nada foi reposto.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Não foi possível repor a base de dados.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ alfanuméricos.</translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configuração | Passo 12 de 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Bureta</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Base de dados</translation>
         </message>
     </context>
 </TS>

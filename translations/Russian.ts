@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>Ведомый модуль не отвечает: не удалось задать объём бюретки (%1 mL) после %2 попыток.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Готово</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Не удаётся прочитать файл базы данных %1: он повреждён или не является базой данных.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Файл базы данных %1 не удалось привести к этой версии, и его резервную копию не удалось записать.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Файл базы данных %1 не имеет версии, известной этой программе: он принадлежит более новой или другой программе.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Файл базы данных %1 принадлежит более новой программе (версия базы данных %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Запись в файл базы данных %1 невозможна (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Файл базы данных %1 является папкой.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Не удаётся открыть файл базы данных %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Его методы и журналы можно читать, но ничего из сделанного сейчас не сохраняется до обслуживания.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> До обслуживания ничего не сохраняется; файл и его резервная копия остаются нетронутыми.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Цикл № </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>и ещё %1</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB-устройство не подключено</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Операция завершена</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Ошибка копирования</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Копирование базы данных</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Экспорт</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Импорт</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Сброс к заводским настройкам</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Не удалось сохранить методы: нет папки резервных копий</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Методы</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Не удалось сохранить методы; ничего не сброшено.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Не удалось сбросить базу данных.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ characters.</source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Настройка | Шаг 12 из 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Бюретка</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>База данных</translation>
         </message>
     </context>
 </TS>

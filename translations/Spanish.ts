@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>El esclavo no responde: no se pudo ajustar el tamaño de la bureta (%1 mL) tras %2 intentos.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -343,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Hecho</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>No se puede leer el archivo de base de datos %1: está dañado o no es una base de datos.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>No se pudo llevar el archivo de base de datos %1 a esta versión, y no se pudo escribir su copia de seguridad.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>El archivo de base de datos %1 no lleva ninguna versión que este programa conozca: pertenece a un programa más reciente o a otro programa.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>El archivo de base de datos %1 pertenece a un programa más reciente (versión de base de datos %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>No se puede escribir en el archivo de base de datos %1 (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>El archivo de base de datos %1 es una carpeta.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>No se puede abrir el archivo de base de datos %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Sus métodos y registros se pueden leer, pero nada de lo que se haga ahora se guarda hasta que se repare.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> No se guarda nada hasta que se repare; el archivo y su copia de seguridad no se modifican.</translation>
         </message>
     </context>
     <context>
@@ -860,6 +906,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Ciclo n.º </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>y %1 más</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Dispositivo USB no conectado</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Proceso completado</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Error en la copia</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Copia de la base de datos</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importar</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Restablecimiento de fábrica</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>No se pudieron conservar los métodos: no hay carpeta de copia de seguridad</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Métodos</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>No se pudieron conservar los métodos; no se restableció nada.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>No se pudo restablecer la base de datos.</translation>
         </message>
     </context>
     <context>
@@ -3359,6 +3456,14 @@ alfanuméricos.</translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configuración | Paso 12 de 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Bureta</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Base de datos</translation>
         </message>
     </context>
 </TS>
