@@ -384,7 +384,7 @@
         </message>
         <message>
             <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
-            <translation> Seine Methoden und Protokolle können gelesen werden, aber nichts, was jetzt getan wird, wird gespeichert, bis sie gewartet wurde.</translation>
+            <translation> Ihre Methoden und Protokolle können gelesen werden, aber nichts, was jetzt getan wird, wird gespeichert, bis sie gewartet wurde.</translation>
         </message>
         <message>
             <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
