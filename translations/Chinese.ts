@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1：磁盘已不存在</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1：无法写入</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 个文件：只读取前 %2 个</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1：保留到下次启动</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>

@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: Der Datenträger ist nicht mehr vorhanden</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1: konnte nicht geschrieben werden</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 Dateien: nur die ersten %2 werden gelesen</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1: für den nächsten Start aufbewahrt</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>

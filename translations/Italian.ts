@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: il disco non è più presente</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1: impossibile scrivere</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 file: vengono letti solo i primi %2</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1: conservato per il prossimo avvio</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>

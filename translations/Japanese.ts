@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: ディスクが見つかりません</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1: 書き込めませんでした</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 個のファイル: 最初の %2 個のみ読み取ります</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1: 次回起動時のために保持しました</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>

@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: 디스크가 더 이상 없습니다</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1: 쓸 수 없습니다</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>파일 %1개: 처음 %2개만 읽습니다</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1: 다음 시작 시까지 보관됨</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>

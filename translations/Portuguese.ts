@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: o disco já não está presente</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1: não foi possível escrever</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 ficheiros: só os primeiros %2 são lidos</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1: guardado para o próximo arranque</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>

@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: диск больше не подключён</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1: не удалось записать</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>Файлов: %1; читаются только первые %2</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1: сохранено до следующего запуска</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>

@@ -743,6 +743,25 @@
         </message>
     </context>
     <context>
+        <name>MethodBackup</name>
+        <message>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: el disco ya no está</translation>
+        </message>
+        <message>
+            <source>%1: could not be written</source>
+            <translation>%1: no se pudo escribir</translation>
+        </message>
+        <message>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 archivos: solo se leen los %2 primeros</translation>
+        </message>
+        <message>
+            <source>%1: kept for the next start</source>
+            <translation>%1: conservado para el próximo inicio</translation>
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>
