@@ -8,34 +8,56 @@ var resultUnits = ["M", "mM", "mg/100mL", "mg/L", "g/100mL", "g/L", "ppm", "ppb"
                    "ppm by weight", "% w/w", "TAN", "TBN", "Consumption mmol", "F*Consumption mmol"]
 var mkaResultUnits = ["M", "mM", "mg/100mL", "mg/L", "g/100mL", "g/L", "ppm", "ppb", "oz/gal", "% w/v",
                       "%w/w", "ppm(w)", "mg/100g", "mg/g", "mg/serving", "mg"]
-var mkaProcessRows = [QT_TRANSLATE_NOOP("TranslationListElements", "Constant Increment"), QT_TRANSLATE_NOOP("TranslationListElements", "Measurement Stability"), QT_TRANSLATE_NOOP("TranslationListElements", "Tmin"), QT_TRANSLATE_NOOP("TranslationListElements", "Tmax"), QT_TRANSLATE_NOOP("TranslationListElements", "dVmin"), QT_TRANSLATE_NOOP("TranslationListElements", "dVmax")]
+var mkaProcessRows = [QT_TRANSLATE_NOOP("TranslationListElements", "Constant Increment"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "Measurement Stability"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "Tmin"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "Tmax"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "dVmin"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "dVmax")]
 
 function isWeight(amount) { return amount === "Fixed Weight" || amount === "Variable Weight" }
 function isVolume(amount) { return amount === "Fixed Volume" || amount === "Variable Volume" }
 
 function electrodeRows(type) {
     if (type === "pH")
-        return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"), QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name"), QT_TRANSLATE_NOOP("TranslationListElements", "Resolution"), QT_TRANSLATE_NOOP("TranslationListElements", "Buffer Group")]
+        return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Resolution"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Buffer Group")]
     if (type === "Redox")
-        return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"), QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name")]
-    return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"), QT_TRANSLATE_NOOP("TranslationListElements", "ISE Type"), QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name")]
+        return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name")]
+    return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"),
+            QT_TRANSLATE_NOOP("TranslationListElements", "ISE Type"),
+            QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name")]
 }
 
 // s: concInputMode, standTechnique, standAmount
 function titrantRows(s) {
-    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name"), QT_TRANSLATE_NOOP("TranslationListElements", "Titrant ID"), QT_TRANSLATE_NOOP("TranslationListElements", "Conc. Input Mode")]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titrant ID"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Conc. Input Mode")]
     if (s.concInputMode !== "Standardization")
         return rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Concentration")])
-    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Nominal Concentration"), QT_TRANSLATE_NOOP("TranslationListElements", "Standardize Tech."), QT_TRANSLATE_NOOP("TranslationListElements", "Number of Endpoints")])
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Nominal Concentration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standardize Tech."),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Number of Endpoints")])
     if (s.standTechnique === "Preset End Pt.")
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Endpoint Values"))
-    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Result Units"), QT_TRANSLATE_NOOP("TranslationListElements", "Standardize Reaction Ratio"), QT_TRANSLATE_NOOP("TranslationListElements", "Standard Name"), QT_TRANSLATE_NOOP("TranslationListElements", "Standard Amount")])
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Result Units"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standardize Reaction Ratio"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standard Name"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standard Amount")])
     if (isWeight(s.standAmount))
-        rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Standard Molecular Wt"), QT_TRANSLATE_NOOP("TranslationListElements", "Standard Purity")])
+        rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Standard Molecular Wt"),
+                            QT_TRANSLATE_NOOP("TranslationListElements", "Standard Purity")])
     else
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Standard Concentration"))
-    return rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Pre-dose Titrant Volume"), QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"), QT_TRANSLATE_NOOP("TranslationListElements", "Stand. Process Control"),
-                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"), QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed")])
+    return rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Pre-dose Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stand. Process Control"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed")])
 }
 
 // The end-point counts offered: the titrant's preset standardisation has
@@ -63,7 +85,9 @@ function checkSampleDensityCondition(unitIndex, sampleAmount) {
 // s: electrodeType, technique, titrationType, blankRequired, resultUnitsIndex,
 // sampleAmount, reagentAmount, processControl, sampleID
 function titrationRows(s) {
-    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name and Concentration"), QT_TRANSLATE_NOOP("TranslationListElements", "Titration Technique"), QT_TRANSLATE_NOOP("TranslationListElements", "Number of Endpoints")]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name and Concentration"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titration Technique"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Number of Endpoints")]
     var preset = s.technique === "Preset End Pt."
     if (preset && s.electrodeType === "pH")
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Display Units"))
@@ -78,28 +102,38 @@ function titrationRows(s) {
     }
     rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Result Units"))
     if (hasReactionRatio(s.resultUnitsIndex))
-        rows = rows.concat(back ? [QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Reaction Ratio"), QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Reaction Ratio")] : [QT_TRANSLATE_NOOP("TranslationListElements", "Reaction Ratio")])
+        rows = rows.concat(back ? [QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Reaction Ratio"),
+                                   QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Reaction Ratio")] : [QT_TRANSLATE_NOOP("TranslationListElements", "Reaction Ratio")])
     if (back) {
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Amount"))
         if (s.reagentAmount === "Manual Volume")
-            rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Concentration"), QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Volume")])
+            rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Concentration"),
+                                QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Volume")])
         else if (s.reagentAmount === "Manual Weight")
-            rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Molecular Wt"), QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Purity"), QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Weight")])
+            rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Molecular Wt"),
+                                QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Purity"),
+                                QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Weight")])
     }
     if (needsSampleMolWeight(s.resultUnitsIndex))
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Mol. Wt."))
     rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Amount"))
     if (checkSampleDensityCondition(s.resultUnitsIndex, s.sampleAmount))
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Density"))
-    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Pre-dose Titrant Volume"), QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"), QT_TRANSLATE_NOOP("TranslationListElements", "Titration Process Control"),
-                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"), QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed"), QT_TRANSLATE_NOOP("TranslationListElements", "Sample ID")])
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Pre-dose Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Titration Process Control"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Sample ID")])
     if (s.sampleID === "Auto-Incremental")
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Auto-Incremental Prefix"))
     return rows
 }
 
 function mkaTitrantRows(concentrationUnit) {
-    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name"), QT_TRANSLATE_NOOP("TranslationListElements", "Titrant ID"), QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Concentration")]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titrant ID"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Concentration")]
     if (concentrationUnit === "mg/L")
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Molecular Weight"))
     return rows
@@ -128,7 +162,8 @@ function mkaDensityCondition(unitIndex, sampleAmount) {
 // s: resultUnits, sampleAmount, servingUnit, processControl, sampleID
 function mkaTitrationRows(s) {
     var unitIndex = mkaResultUnits.indexOf(s.resultUnits)
-    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name and Concentration"), QT_TRANSLATE_NOOP("TranslationListElements", "Result Units")]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name and Concentration"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Result Units")]
     if (s.resultUnits === "mg/serving")
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Serving Size"))
     if (["M", "mM", "oz/gal"].indexOf(s.resultUnits) < 0)
@@ -136,10 +171,16 @@ function mkaTitrationRows(s) {
     rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Amount"))
     if (mkaDensityCondition(unitIndex, s.sampleAmount))
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Density"))
-    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Total Solution Volume"), QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"), QT_TRANSLATE_NOOP("TranslationListElements", "Blank Conc. Required"), QT_TRANSLATE_NOOP("TranslationListElements", "MKA Process Control")])
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Total Solution Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Blank Conc. Required"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "MKA Process Control")])
     if (s.processControl === "User Defined")
         rows = rows.concat(mkaProcessRows)
-    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Precision Level"), QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"), QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed"), QT_TRANSLATE_NOOP("TranslationListElements", "Sample ID")])
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Precision Level"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Sample ID")])
     if (s.sampleID === "Auto-Incremental")
         rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Auto-Incremental Prefix"))
     return rows
