@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // Opens the database file at start-up and brings it to this version, before
 // any model exists. A file that can't be used is never changed: the session
@@ -17,8 +18,10 @@ public:
     // state the session runs in.
     static State open(const QString &fileName);
 
-    // Empty when the file is in use; otherwise what the screen shows.
+    // Empty when the file is in use; otherwise why, in English (the log).
     static QString message();
+    // The same in the language of the screen, as it is when this is called.
+    static QString translatedMessage();
     // Whether what this session does reaches the file (false on a file that
     // is read only, or when the session runs in memory).
     static bool stores();
@@ -30,7 +33,17 @@ public:
     static QString restartMarkerPath();
 
 private:
+    // A text of the screen with its arguments, kept so that it can be
+    // translated when it is shown rather than when the file was opened.
+    struct Text
+    {
+        const char *source = nullptr;
+        QStringList args;
+        QString shown(bool translated) const;
+    };
+    static Text reasonTextFor(const QString &fileName);
     static bool restartOncePerBoot();
-    static State runReadOnly(const QString &why);
-    static State readFileOnly(const QString &why);
+    static State runReadOnly(const Text &why);
+    static State readFileOnly(const Text &why);
+    static void keep(const Text &why, const char *tail);
 };

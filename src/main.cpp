@@ -221,12 +221,13 @@ int main(int argc, char *argv[])
         connectToRoot(root, rm, SIGNAL(usbMessage(QVariant, QVariant)), "showMessage(QVariant,QVariant)");
         // A slave that does not take the burette's size: said on the screen.
         QObject::connect(bc, &BuretteController::buretteErrorOccured, root, [root](const QString &text) {
-            QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QStringLiteral("Burette")), Q_ARG(QVariant, text));
+            QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QCoreApplication::translate("main", "Burette")),
+                                      Q_ARG(QVariant, text));
         });
         // A database file that could not be used: the session stores nothing.
         if (!DatabaseStartup::message().isEmpty())
-            QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QStringLiteral("Database")),
-                                      Q_ARG(QVariant, DatabaseStartup::message()));
+            QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QCoreApplication::translate("main", "Database")),
+                                      Q_ARG(QVariant, DatabaseStartup::translatedMessage()));
     }
     // A stick already there at start counts as just attached.
     rm->usb->usbDevChanged();

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>从控制器无响应：尝试 %2 次后仍无法设置滴定管容量（%1 mL）。</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>完成</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>未保存</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>无法保存校准。其数值已显示，但本次会话结束后不会保留。</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>完成</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>无法读取数据库文件 %1：文件已损坏或不是数据库。</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>无法将数据库文件 %1 升级到此版本，且无法写入其备份。</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>数据库文件 %1 的版本不为本程序所知：它属于更新的程序或其他程序。</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>数据库文件 %1 属于更新版本的程序（数据库版本 %2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>无法写入数据库文件 %1（%2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>数据库文件 %1 是一个文件夹。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>无法打开数据库文件 %1：%2。</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation>其方法和记录可以读取，但在维修之前，现在所做的任何操作都不会保存。</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation>在维修之前不会保存任何内容；该文件及其备份保持不变。</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>取消</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>样品 ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>输入样品 ID</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>保存</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>搅拌关</translation>
+            <source>Not Saved</source>
+            <translation>未保存</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>搅拌开</translation>
+            <source>The reading could not be saved.</source>
+            <translation>无法保存读数。</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>搅拌器已开启</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>搅拌器已关闭</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>样品 ID</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1：磁盘已不存在</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>输入本次测量的样品 ID。</translation>
+            <source>%1: could not be written</source>
+            <translation>%1：无法写入</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>保存</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 个文件：只读取前 %2 个</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>取消</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>值不能为空。</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1：保留到下次启动</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>循环号 </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>另有 %1 条</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB 设备未连接</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>操作完成</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>复制失败</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>数据库复制</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>导出</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>导入</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>恢复出厂设置</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>无法保留方法：没有备份文件夹</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>方法</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>无法保留方法；未重置任何内容。</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>无法重置数据库。</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>完成</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>无法保存本次测定：数据库无法写入。其数值仍保持显示。</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ been saved as - </source>
             <source>Back Titration</source>
             <translation>返滴定</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>设置滴定共有 3 个步骤：</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>设置电极</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>设置滴定剂</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>设置滴定</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>开始设置</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV 超出量程</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>超出范围</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>请输入 -2 - 20 之间的 pH 值</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>请输入 -2.0 - 20.0 之间的 pH 值</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>请输入 -2.00 - 20.00 之间的 pH 值</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>请输入 -2.000 - 20.000 之间的 pH 值</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>请输入 -2000 - 2000 之间的值</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>请输入 0 - 20000 之间的值</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>请输入 80.0 - 120.0 % 之间的斜率值</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>请输入 -9999.99 - 9999.99 mV/dec 之间的斜率值</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>斜率超出范围</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>请输入最多
+2 位小数的值。</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>预设值必须小于
+滴定管最大容量</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>安装日期不能晚于今天。</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>安装日期不能早于 2000 年。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>无效值。请输入 0.0001 - 100.0 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>无效值。请输入 0.1 - 100000.0 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>无效值。请输入 0.0001 - 100.0 之间的值，最多 4 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>无效值。请输入 0.1 - 100000.0 之间的值，最多 4 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>无效值。请输入 0.01 - 100,000 之间的值，最多 2 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>无效值。请输入 0.01 - 100.00 之间的值，最多 2 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>无效值。请输入 
+0.00001 - 1000.0 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>无效值。请输入 
+0.0001 - 100.0 之间的值，最多 4 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>无效值。请输入 0 - 滴定管容量 之间的值，最多 2 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>无效值。请输入 0 - 100 之间的值，最多 2 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>无效值。请输入 0 - 10,000 之间的值。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>无效值。请输入 0.1 - 100.0 之间的值，最多 1 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>无效值。请输入 0.001 - 10.000 之间的值，最多 3 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>无效值。请输入 0.1 - 200.0 之间的值，最多 1 位小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>无效值。请输入 1 - 150 之间的值，不带小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>无效值。请输入 1 - 15000 之间的值，不带小数。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>无效值。请输入 1 - 20000 之间的值，不带小数。</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>请输入 0.00 - 14.00 之间的 pH 值</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>滴定剂浓度</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>无效值。请输入 0.00001 - 10,000 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>滴定剂分子量</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>无效值。请输入 0.01 - 100,000 之间的值，最多 2 位小数。</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>标称浓度</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>终点值</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>请输入 - 2000.0 - +2000.0 mV 之间的 mV 值。</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>标定反应比</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>标准液量</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>标准液分子量</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>标准液纯度</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>标准液浓度</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>滴定剂预加体积</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>最大滴定剂总体积</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>预搅拌时间</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>请输入 -2000.0 - +2000.0 mV 之间的 mV 值。</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>固定空白值</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>无效值。请输入 0.00000 - 1000 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">结果单位（F*消耗量 mmol）</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>无效值。请输入 0.0001 - 1000 之间的值，最多 4 位小数。</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>反应比</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>无效值。请输入 
+0.00001 - 1000.0 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>试剂量</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>无效值。请输入 0.001 - 10,000 之间的值，最多 3 位小数。</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>试剂分子量</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>试剂纯度</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>固定试剂重量</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>试剂体积</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>无效值。请输入 0.00001 - 1000.0 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>试剂浓度</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>样品分子量</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>样品量</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>无效值。请输入 
+0.001 - 1000.0 之间的值，最多 3 位小数。</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>样品密度</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>无效值。请输入 0.001 - 100.0 之间的值
+最多 3 位小数。</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>每份量</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>溶液总体积</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>无效值。请输入 1 - 10000 之间的值，最多 3 位小数。</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>精度等级</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>无效值。请输入 0.1 - 20 之间的值，最多 1 位小数。</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>目标 ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>最小加液量 ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>最大加液量 ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>稳定判据 dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>最短响应时间 tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>最长响应时间 tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>阈值</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>恒定增量</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>测量稳定性</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>不允许使用特殊字符</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>电极名称</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>名称无效。请输入最多 14 个字母或数字。</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>自定义滴定剂名称</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>滴定剂 ID</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>名称无效。请输入最多 14 个字母数字字符。</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>自定义标准液名称</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>名称无效。请输入最多 14 个
+字母数字字符。</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>样品 ID - 手动</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>样品 ID 不能为空</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>样品 ID - 自动递增</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>名称无效。请输入最多 10 个字母数字字符。</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>方法名称不能为空</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>名称无效。请输入最多 14 个字母数字字符。</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>密码与确认密码必须相同</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>密码无效。请输入最多 14 个字母数字字符。</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>方法名称不能为空</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>已存在同名方法。</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>方法记录已满，无法保存新方法。</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>无法保存方法。请重试。</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>运行第 1 个循环</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>运行第 2 个循环</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>运行第 3 个循环</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>运行第 4 个循环</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>运行第 5 个循环</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>无效值。请输入 0.00001 - 1000.0 之间的值，最多 5 位小数。</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>电极类型</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>分辨率</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>缓冲液组</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>ISE 类型</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>滴定剂名称</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>浓度输入方式</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>标定方式</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>终点数</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>结果单位</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>标定反应比</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>标准液名称</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>标准液分子量</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>标定过程控制</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>搅拌速度</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>滴定剂名称和浓度</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>滴定方式</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>显示单位</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>滴定类型</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>需要空白</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>试剂分子量</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>试剂重量</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>滴定过程控制</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>样品 ID</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>自动递增前缀</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">需要空白浓度</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>MKA 过程控制</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>反应比不能为空！</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>样品分子量不能为空！</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>样品量不能为空！</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>样品密度不能为空！</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ been saved as - </source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>设置 | 第 12 步，共 13 步</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>滴定管</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>数据库</translation>
         </message>
     </context>
 </TS>

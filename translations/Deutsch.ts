@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>Der Slave antwortet nicht: Die Bürettengröße (%1 mL) konnte nach %2 Versuchen nicht eingestellt werden.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>Fertig</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Nicht gespeichert</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Die Kalibrierung konnte nicht gespeichert werden. Ihre Werte werden angezeigt, sie bleibt aber nach dieser Sitzung nicht erhalten.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Fertig</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Die Datenbankdatei %1 kann nicht gelesen werden: Sie ist beschädigt oder keine Datenbank.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Die Datenbankdatei %1 konnte nicht auf diese Version gebracht werden, und ihre Sicherung konnte nicht geschrieben werden.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Die Datenbankdatei %1 trägt keine diesem Programm bekannte Version: Sie gehört zu einem neueren oder einem anderen Programm.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Die Datenbankdatei %1 gehört zu einem neueren Programm (Datenbankversion %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Die Datenbankdatei %1 kann nicht beschrieben werden (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Die Datenbankdatei %1 ist ein Ordner.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Die Datenbankdatei %1 kann nicht geöffnet werden: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Ihre Methoden und Protokolle können gelesen werden, aber nichts, was jetzt getan wird, wird gespeichert, bis sie gewartet wurde.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Bis zur Wartung wird nichts gespeichert; die Datei und ihre Sicherung bleiben unverändert.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>Abbrechen</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>Proben-ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Geben Sie eine Proben-ID ein</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>Speichern</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Rühren aus</translation>
+            <source>Not Saved</source>
+            <translation>Nicht gespeichert</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Rühren ein</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Der Messwert konnte nicht gespeichert werden.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Rührer ein</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Rührer aus</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>Proben-ID</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: Der Datenträger ist nicht mehr vorhanden</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Geben Sie die Proben-ID dieser Messung ein.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: konnte nicht geschrieben werden</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Speichern</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 Dateien: nur die ersten %2 werden gelesen</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>Abbrechen</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Der Wert darf nicht leer sein.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: für den nächsten Start aufbewahrt</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Zyklus Nr. </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>und %1 weitere</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB-Gerät nicht verbunden</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Vorgang abgeschlossen</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Kopieren fehlgeschlagen</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Datenbankkopie</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportieren</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importieren</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Werkseinstellungen</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Die Methoden konnten nicht erhalten werden: kein Sicherungsordner</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Methoden</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Die Methoden konnten nicht erhalten werden; nichts wurde zurückgesetzt.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Die Datenbank konnte nicht zurückgesetzt werden.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>Abschließen</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Die Messung konnte nicht gespeichert werden: Die Datenbank kann nicht beschrieben werden. Ihre Werte bleiben angezeigt.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ gespeichert als - </translation>
             <source>Back Titration</source>
             <translation>Rücktitration</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>Eine Titration wird in 3 Schritten eingerichtet:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Elektrode einrichten</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Titriermittel einrichten</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Titration einrichten</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Einrichtung starten</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV Bereichsüberschreitung</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Außerhalb des Bereichs</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2 - 20 ein</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2.0 - 20.0 ein</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2.00 - 20.00 ein</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Geben Sie einen pH-Wert zwischen -2.000 - 20.000 ein</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Geben Sie einen Wert zwischen -2000 - 2000 ein</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Geben Sie einen Wert zwischen 0 - 20000 ein</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Geben Sie eine Steilheit zwischen 80.0 - 120.0 % ein</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Geben Sie eine Steilheit zwischen -9999.99 - 9999.99 mV/dec ein</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Steilheit außerhalb des Bereichs</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Bitte geben Sie einen Wert mit höchstens 
+2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>Der Vorgabewert muss kleiner als das 
+maximale Bürettenvolumen sein</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>Das Installationsdatum darf nicht in der Zukunft liegen.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>Das Installationsdatum darf nicht vor 2000 liegen.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.0001 - 100.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 100000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.0001 - 100.0 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 100000.0 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.01 - 100,000 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.01 - 100.00 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.0001 - 100.0 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0 - Bürettengröße mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0 - 100 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0 - 10,000 ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 100.0 mit höchstens 1 Nachkommastelle ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.001 - 10.000 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 200.0 mit höchstens 1 Nachkommastelle ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 150 ohne Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 15000 ohne Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 20000 ohne Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Geben Sie einen pH-Wert zwischen 0.00 - 14.00 ein</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Titriermittelkonzentration</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00001 - 10,000 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Molmasse des Titriermittels</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.01 - 100,000 mit höchstens 2 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Nennkonzentration</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Endpunktwerte</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Geben Sie einen mV-Wert zwischen - 2000.0 - +2000.0 mV ein.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Reaktionsverhältnis Standardisierung</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Standardmenge</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Molmasse des Standards</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Reinheit des Standards</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Standardkonzentration</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Vordosiervolumen</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Max. Gesamtvolumen</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Vorrührdauer</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Geben Sie einen mV-Wert zwischen -2000.0 - +2000.0 mV ein.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Fester Blindwert</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00000 - 1000 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Ergebniseinheit (F*Verbrauch mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.0001 - 1000 mit höchstens 4 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Reaktionsverhältnis</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Reagenzmenge</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.001 - 10,000 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Molmasse des Reagenzes</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Reinheit des Reagenzes</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Feste Reagenzmenge (Gewicht)</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Reagenzvolumen</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Reagenzkonzentration</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Molmasse Probe</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Probenmenge</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 
+0.001 - 1000.0 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Probendichte</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.001 - 100.0
+mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Portionsgröße</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Gesamtvolumen der Lösung</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 1 - 10000 mit höchstens 3 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Präzisionsniveau</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.1 - 20 mit höchstens 1 Nachkommastelle ein.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>Ziel-ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Minimale Dosis ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Maximale Dosis ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Stabilitätskriterium dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Minimale Ansprechzeit tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Maximale Ansprechzeit tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Schwellenwert</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Konstantes Inkrement</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Messstabilität</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Sonderzeichen sind nicht erlaubt</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Elektrodenname</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Ungültiger Name. Bitte bis zu 14 alphanumerische Zeichen eingeben.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Benutzerdefinierter Titriermittelname</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>Titriermittel-ID</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 14 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Benutzerdefinierter Standardname</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 14 alphanumerische 
+Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>Proben-ID - manuell</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>Die Proben-ID darf nicht leer sein</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>Proben-ID - fortlaufend</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 10 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>Der Methodenname darf nicht leer sein</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Ungültiger Name. Bitte geben Sie bis zu 14 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>Passwort und Bestätigung müssen übereinstimmen</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Ungültiges Passwort. Bitte geben Sie bis zu 14 alphanumerische Zeichen ein.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>Der Methodenname darf nicht leer sein</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Eine Methode mit diesem Namen ist bereits vorhanden.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Das Methodenprotokoll ist voll, die neue Methode kann nicht gespeichert werden.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>Die Methode konnte nicht gespeichert werden. Bitte versuchen Sie es erneut.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>1. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>2. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>3. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>4. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>5. Zyklus starten</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 0.00001 - 1000.0 mit höchstens 5 Nachkommastellen ein.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Elektrodentyp</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Auflösung</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Puffergruppe</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>ISE-Typ</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Titriermittelname</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Konz.-Eingabemodus</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Standardisierungstechnik</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Anzahl Endpunkte</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Ergebniseinheit</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Reaktionsverh. Stand.</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Standardname</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Molmasse Standard</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Prozesssteuerung Stand.</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Rührgeschwindigkeit</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Titriermittel und Konz.</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Titrationstechnik</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Anzeigeeinheit</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Titrationsart</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Blindwert erforderlich</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Molmasse Reagenz</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Reagenzgewicht</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Prozesssteuerung Titration</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>Proben-ID</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Präfix (fortlaufend)</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Blindwertkonz. erforderlich</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>MKA-Prozesssteuerung</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>Das Reaktionsverhältnis darf nicht leer sein!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>Die Molmasse der Probe darf nicht leer sein!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>Die Probenmenge darf nicht leer sein!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>Die Probendichte darf nicht leer sein!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ gespeichert als - </translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Einrichtung | Schritt 12 von 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Bürette</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Datenbank</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>Done</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Not Saved</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Done</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>The database file %1 cannot be read: it is damaged or not a database.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>The database file %1 could not be brought to this version, and its backup could not be written.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>The database file %1 belongs to a newer program (database version %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>The database file %1 cannot be written (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>The database file %1 is a folder.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>The database file %1 cannot be opened: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Its methods and logs can be read, but nothing done now is stored until it is serviced.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Nothing is stored until it is serviced; the file and its backup are left untouched.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>Cancel</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>Sample ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Enter a sample ID</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>Save</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Stir Off</translation>
+            <source>Not Saved</source>
+            <translation>Not Saved</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Stir On</translation>
+            <source>The reading could not be saved.</source>
+            <translation>The reading could not be saved.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Stirrer On</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Stirrer Off</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>Sample ID</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: the disk is no longer there</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Enter the sample ID of this measurement.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: could not be written</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Save</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 files: only the first %2 are read</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>Cancel</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Value cannot be empty.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: kept for the next start</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Cycle No </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>and %1 more</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB Device not connected</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Process Complete</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Copy failed</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Database copy</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Export</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Import</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Factory Reset</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>The methods could not be kept: no backup folder</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Methods</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>The methods could not be kept; nothing was reset.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>The database could not be reset.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>Complete</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>The run could not be saved: the database cannot be written. Its figures stay on show.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ been saved as - </translation>
             <source>Back Titration</source>
             <translation>Back Titration</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>There are 3 steps to setting up a titration:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Setup Electrode</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Setup Titrant</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Setup Titration</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Start Setup</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV OverRange</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Out of Range</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Enter a pH value between -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Enter a pH value between -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Enter a pH value between -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Enter a pH value between -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Enter a value between -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Enter a value between 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Enter a slope value between 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Enter a slope value between -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Slope out of range</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Please enter a value with maximum 
+2 decimals.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>Preset value must be less than 
+maximum burette volume</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>The installation date cannot be in the future.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>The installation date cannot be before 2000.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Invalid value. Please enter a value between 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Invalid value. Please enter a value between 1 - 150 without decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Invalid value. Please enter a value between 1 - 15000 without decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Invalid value. Please enter a value between 1 - 20000 without decimal.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Enter a pH value between 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Titrant Concentration</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Titrant Molecular Weight</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Nominal Concentration</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Endpoint Values</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Enter a mV value between - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Standardization Reaction Ratio</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Standard Amount</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Standard Molecular Weight</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Standard Purity</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Standard Concentration</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Pre-dose Titrant Volume</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Max Total Titrant Volume</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Pre-stir Duration</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Enter a mV value between -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Fixed Blank Value</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation>Result Units(F*Consumption mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Reaction Ratio</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Reagent Amount</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Reagent Molecular Weight</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Reagent Purity</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Fixed Reagent Weight</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Reagent Volume</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Reagent Concentration</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Sample Mol. Wt.</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Sample Amount</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Sample Density</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Serving Size</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Total Solution Volume</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Precision Level</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>Target ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Minimum Dose ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Maximum Dose ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Stability Criteria dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Minimum Response Time tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Maximum Response Time tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Threshold</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Constant Increment</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Measurement Stability</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Special characters are not allowed</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Electrode Name</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Invalid name. Please enter up to 14 alphanumeric characters.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>User Defined Titrant Name</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>Titrant ID</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Invalid name. Please enter up to 14 alphanumeric characters</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>User Defined Standard Name</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Invalid name. Please enter up to 14 alphanumeric 
+characters.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>Sample ID-Manual</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>Sample Id cannot be blank</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>Sample ID-Auto-Incremental</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Invalid name. Please enter up to 10 alphanumeric characters.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>Method name cannot be empty</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Invalid name. Please enter up to 14 alphanumeric  characters.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>Password &amp; confirm password should be same</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Invalid Password. Please enter up to 14 alphanumeric characters.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>Method Name can't be empty</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>A method with this name already exists.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Method log is full, new method cannot be saved.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>The method could not be stored. Please try again.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Run 1st Cycle</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Run 2nd Cycle</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Run 3rd Cycle</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Run 4th Cycle</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Run 5th Cycle</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Electrode Type</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Resolution</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Buffer Group</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>ISE Type</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Titrant Name</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Conc. Input Mode</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Standardize Tech.</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Number of Endpoints</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Result Units</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Standardize Reaction Ratio</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Standard Name</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Standard Molecular Wt</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Stand. Process Control</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Stir Speed</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Titrant Name and Concentration</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Titration Technique</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Display Units</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Titration Type</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Blank Required</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Reagent Molecular Wt</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Reagent Weight</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Titration Process Control</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>Sample ID</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Auto-Incremental Prefix</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation>Blank Conc. Required</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>MKA Process Control</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation> Reaction Ratio value can't be blank!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation> Sample Weight value can't be blank!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation> Sample Amount value can't be blank!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation> Sample Density value can't be blank!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ been saved as - </translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Setup | Step 12 of 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Burette</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Database</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>L'esclave ne répond pas : la taille de la burette (%1 mL) n'a pas pu être réglée après %2 essais.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>Terminé</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Non enregistré</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>L'étalonnage n'a pas pu être enregistré. Ses valeurs sont affichées, mais il ne sera pas conservé après cette session.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Terminé</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Le fichier de base de données %1 ne peut pas être lu : il est endommagé ou n'est pas une base de données.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Le fichier de base de données %1 n'a pas pu être mis à cette version, et sa sauvegarde n'a pas pu être écrite.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Le fichier de base de données %1 ne porte aucune version connue de ce programme : il appartient à un programme plus récent ou à un autre programme.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Le fichier de base de données %1 appartient à un programme plus récent (version de base de données %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Le fichier de base de données %1 ne peut pas être écrit (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Le fichier de base de données %1 est un dossier.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Le fichier de base de données %1 ne peut pas être ouvert : %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Ses méthodes et journaux peuvent être lus, mais rien de ce qui est fait maintenant n'est enregistré avant une intervention du service.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Rien n'est enregistré avant une intervention du service ; le fichier et sa sauvegarde restent intacts.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>Annuler</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Saisissez un ID d'échantillon</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>Enregistrer</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitation arrêt</translation>
+            <source>Not Saved</source>
+            <translation>Non enregistré</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitation marche</translation>
+            <source>The reading could not be saved.</source>
+            <translation>La mesure n'a pas pu être enregistrée.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Agitateur en marche</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Agitateur arrêté</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>ID d'échantillon</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1 : le disque n'est plus présent</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Saisissez l'ID d'échantillon de cette mesure.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1 : n'a pas pu être écrit</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Enregistrer</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 fichiers : seuls les %2 premiers sont lus</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>Annuler</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>La valeur ne peut pas être vide.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1 : conservé pour le prochain démarrage</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Cycle n° </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>et %1 de plus</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Périphérique USB non connecté</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Opération terminée</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Échec de la copie</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Copie de la base de données</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exporter</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importer</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Réinitialisation d'usine</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Les méthodes n'ont pas pu être conservées : aucun dossier de sauvegarde</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Méthodes</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Les méthodes n'ont pas pu être conservées ; rien n'a été réinitialisé.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>La base de données n'a pas pu être réinitialisée.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>Terminer</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>L'analyse n'a pas pu être enregistrée : la base de données ne peut pas être écrite. Ses valeurs restent affichées.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ been saved as - </source>
             <source>Back Titration</source>
             <translation>Titrage en retour</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>La configuration d'un titrage comporte 3 étapes :</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Configurer l'électrode</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Configurer le titrant</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Configurer le titrage</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Commencer la configuration</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV hors plage</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Hors plage</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Saisissez une valeur de pH entre -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Saisissez une valeur de pH entre -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Saisissez une valeur de pH entre -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Saisissez une valeur de pH entre -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Saisissez une valeur entre -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Saisissez une valeur entre 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Saisissez une pente entre 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Saisissez une pente entre -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Pente hors limites</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Veuillez saisir une valeur avec 
+2 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>La valeur prédéfinie doit être inférieure au 
+volume maximal de la burette</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>La date d'installation ne peut pas être dans le futur.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>La date d'installation ne peut pas être antérieure à 2000.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.0001 - 100.0 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.1 - 100000.0 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.0001 - 100.0 avec 4 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.1 - 100000.0 avec 4 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.01 - 100,000 avec 2 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.01 - 100.00 avec 2 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 
+0.00001 - 1000.0 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 
+0.0001 - 100.0 avec 4 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0 - taille de la burette avec 2 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0 - 100 avec 2 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.1 - 100.0 avec 1 décimale au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.001 - 10.000 avec 3 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.1 - 200.0 avec 1 décimale au maximum.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 1 - 150 sans décimale.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 1 - 15000 sans décimale.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 1 - 20000 sans décimale.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Saisissez une valeur de pH entre 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Concentration du titrant</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.00001 - 10,000 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Masse molaire du titrant</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.01 - 100,000 avec 2 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Concentration nominale</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Valeurs de point final</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Saisissez une valeur en mV entre - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Rapport stœchiométrique de standardisation</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Quantité d'étalon</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Masse molaire de l'étalon</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Pureté de l'étalon</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Concentration de l'étalon</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Volume de pré-dosage</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Volume total max.</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Durée de pré-agitation</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Saisissez une valeur en mV entre -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Valeur de blanc fixe</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.00000 - 1000 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Unités du résultat (F*consommation mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.0001 - 1000 avec 4 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Rapport stœchiométrique</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 
+0.00001 - 1000.0 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Quantité de réactif</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.001 - 10,000 avec 3 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Masse molaire du réactif</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Pureté du réactif</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Masse fixe de réactif</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Volume de réactif</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.00001 - 1000.0 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Concentration du réactif</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Masse molaire éch.</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Quantité d'échantillon</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 
+0.001 - 1000.0 avec 3 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Densité de l'échantillon</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.001 - 100.0
+avec 3 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Taille de la portion</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Volume total de solution</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 1 - 10000 avec 3 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Niveau de précision</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.1 - 20 avec 1 décimale au maximum.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>ΔE cible</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Dose minimale ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Dose maximale ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Critère de stabilité dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Temps de réponse minimal tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Temps de réponse maximal tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Seuil</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Incrément constant</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Stabilité de mesure</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Les caractères spéciaux ne sont pas autorisés</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Nom de l'électrode</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Nom incorrect. Saisissez 14 caractères alphanumériques au maximum.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Nom du titrant défini par l'utilisateur</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>ID du titrant</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Nom non valide. Veuillez saisir jusqu'à 14 caractères alphanumériques.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Nom de l'étalon défini par l'utilisateur</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Nom non valide. Veuillez saisir jusqu'à 14 caractères 
+alphanumériques.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>ID d'échantillon - manuel</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>L'ID d'échantillon ne peut pas être vide</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>ID d'échantillon - automatique</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Nom non valide. Veuillez saisir jusqu'à 10 caractères alphanumériques.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>Le nom de la méthode ne peut pas être vide</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Nom non valide. Veuillez saisir jusqu'à 14 caractères alphanumériques.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>Le mot de passe et sa confirmation doivent être identiques</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Mot de passe non valide. Veuillez saisir jusqu'à 14 caractères alphanumériques.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>Le nom de la méthode ne peut pas être vide</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Une méthode portant ce nom existe déjà.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Le journal des méthodes est plein, la nouvelle méthode ne peut pas être enregistrée.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>La méthode n'a pas pu être enregistrée. Veuillez réessayer.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Lancer le 1er cycle</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Lancer le 2e cycle</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Lancer le 3e cycle</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Lancer le 4e cycle</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Lancer le 5e cycle</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 0.00001 - 1000.0 avec 5 décimales au maximum.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Type d'électrode</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Résolution</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Groupe de tampons</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Type d'ISE</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Nom du titrant</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Mode de saisie conc.</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Technique de standardisation</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Nombre de points finaux</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Unités du résultat</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Rapport stœch. standard.</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Nom de l'étalon</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Masse molaire étalon</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Contrôle standardisation</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Vitesse d'agitation</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Titrant et concentration</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Technique de titrage</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Unités d'affichage</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Type de titrage</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Blanc requis</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Masse molaire réactif</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Masse de réactif</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Contrôle du titrage</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID d'échantillon</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Préfixe auto-incrémenté</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Conc. du blanc requise</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>Contrôle du processus MKA</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>Le rapport stœchiométrique ne peut pas être vide !</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>La masse molaire de l'échantillon ne peut pas être vide !</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>La quantité d'échantillon ne peut pas être vide !</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>La densité de l'échantillon ne peut pas être vide !</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ been saved as - </source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configuration | Étape 12 sur 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Burette</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Base de données</translation>
         </message>
     </context>
 </TS>

@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>Lo slave non risponde: impossibile impostare il volume della buretta (%1 mL) dopo %2 tentativi.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>Fatto</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Non salvato</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Impossibile salvare la calibrazione. I suoi valori sono mostrati, ma non sarà conservata dopo questa sessione.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Fatto</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Impossibile leggere il file di database %1: è danneggiato o non è un database.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Impossibile aggiornare il file di database %1 a questa versione, e non è stato possibile scriverne il backup.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Il file di database %1 non riporta una versione nota a questo programma: appartiene a un programma più recente o a un altro programma.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Il file di database %1 appartiene a un programma più recente (versione database %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Impossibile scrivere il file di database %1 (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Il file di database %1 è una cartella.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Impossibile aprire il file di database %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> I suoi metodi e registri possono essere letti, ma nulla di ciò che si fa ora viene salvato finché non viene riparato.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Nulla viene salvato finché non viene riparato; il file e il suo backup restano intatti.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>Annulla</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID campione</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Inserire un ID campione</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>Salva</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitazione off</translation>
+            <source>Not Saved</source>
+            <translation>Non salvato</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitazione on</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Impossibile salvare la lettura.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Agitatore acceso</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Agitatore spento</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>ID campione</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: il disco non è più presente</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Inserire l'ID campione di questa misura.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: impossibile scrivere</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Salva</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 file: vengono letti solo i primi %2</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>Annulla</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Il valore non può essere vuoto.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: conservato per il prossimo avvio</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Ciclo n. </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>e altri %1</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Dispositivo USB non collegato</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Operazione completata</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Copia non riuscita</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Copia del database</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Esporta</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importa</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Ripristino di fabbrica</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Impossibile conservare i metodi: nessuna cartella di backup</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Metodi</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Impossibile conservare i metodi; non è stato ripristinato nulla.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Impossibile ripristinare il database.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>Completa</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Impossibile salvare l'analisi: il database non può essere scritto. I suoi valori restano visualizzati.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ salvato come - </translation>
             <source>Back Titration</source>
             <translation>Titolazione a ritroso</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>L'impostazione di una titolazione richiede 3 passi:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Imposta elettrodo</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Imposta titolante</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Imposta titolazione</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Avvia configurazione</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV fuori scala</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Fuori intervallo</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Inserire un valore di pH tra -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Inserire un valore di pH tra -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Inserire un valore di pH tra -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Inserire un valore di pH tra -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Inserire un valore tra -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Inserire un valore tra 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Inserire una pendenza tra 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Inserire una pendenza tra -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Pendenza fuori intervallo</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Inserire un valore con al massimo 
+2 decimali.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>Il valore preimpostato deve essere inferiore al 
+volume massimo della buretta</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>La data di installazione non può essere nel futuro.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>La data di installazione non può essere precedente al 2000.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.0001 - 100.0 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.1 - 100000.0 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.0001 - 100.0 con al massimo 4 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.1 - 100000.0 con al massimo 4 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.01 - 100,000 con al massimo 2 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.01 - 100.00 con al massimo 2 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 
+0.00001 - 1000.0 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 
+0.0001 - 100.0 con al massimo 4 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0 - volume della buretta con al massimo 2 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0 - 100 con al massimo 2 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Valore non valido. Inserire un valore tra 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.1 - 100.0 con al massimo 1 decimale.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.001 - 10.000 con al massimo 3 decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.1 - 200.0 con al massimo 1 decimale.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Valore non valido. Inserire un valore tra 1 - 150 senza decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Valore non valido. Inserire un valore tra 1 - 15000 senza decimali.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Valore non valido. Inserire un valore tra 1 - 20000 senza decimali.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Inserire un valore di pH tra 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Concentrazione del titolante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.00001 - 10,000 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Peso molecolare del titolante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.01 - 100,000 con al massimo 2 decimali.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Concentrazione nominale</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Valori del punto finale</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Inserire un valore in mV tra - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Rapporto di reazione della standardizzazione</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Quantità di standard</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Peso molecolare dello standard</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Purezza dello standard</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Concentrazione dello standard</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Volume pre-dosaggio</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Volume totale max</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Durata pre-agitazione</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Inserire un valore in mV tra -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Valore del bianco fisso</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.00000 - 1000 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Unità del risultato (F*consumo mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.0001 - 1000 con al massimo 4 decimali.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Rapporto di reazione</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 
+0.00001 - 1000.0 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Quantità di reagente</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.001 - 10,000 con al massimo 3 decimali.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Peso molecolare del reagente</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Purezza del reagente</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Peso fisso del reagente</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Volume di reagente</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.00001 - 1000.0 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Concentrazione del reagente</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Peso mol. campione</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Quantità di campione</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 
+0.001 - 1000.0 con al massimo 3 decimali.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Densità del campione</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.001 - 100.0
+con al massimo 3 decimali.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Dimensione della porzione</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Volume totale della soluzione</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 1 - 10000 con al massimo 3 decimali.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Livello di precisione</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.1 - 20 con al massimo 1 decimale.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>ΔE obiettivo</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Dose minima ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Dose massima ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Criterio di stabilità dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Tempo di risposta minimo tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Tempo di risposta massimo tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Soglia</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Incremento costante</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Stabilità della misura</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>I caratteri speciali non sono ammessi</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Nome elettrodo</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Nome non valido. Inserire al massimo 14 caratteri alfanumerici.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Nome del titolante definito dall'utente</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>ID titolante</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Nome non valido. Inserire fino a 14 caratteri alfanumerici.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Nome dello standard definito dall'utente</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Nome non valido. Inserire fino a 14 caratteri 
+alfanumerici.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>ID campione - manuale</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>L'ID campione non può essere vuoto</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>ID campione - automatico</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Nome non valido. Inserire fino a 10 caratteri alfanumerici.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>Il nome del metodo non può essere vuoto</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Nome non valido. Inserire fino a 14 caratteri alfanumerici.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>La password e la conferma devono coincidere</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Password non valida. Inserire fino a 14 caratteri alfanumerici.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>Il nome del metodo non può essere vuoto</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Esiste già un metodo con questo nome.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Il registro dei metodi è pieno, il nuovo metodo non può essere salvato.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>Impossibile salvare il metodo. Riprovare.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Avvia il 1° ciclo</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Avvia il 2° ciclo</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Avvia il 3° ciclo</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Avvia il 4° ciclo</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Avvia il 5° ciclo</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valore non valido. Inserire un valore tra 0.00001 - 1000.0 con al massimo 5 decimali.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Tipo di elettrodo</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Risoluzione</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Gruppo di tamponi</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Tipo di ISE</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Nome del titolante</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Modalità inserimento conc.</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Tecnica di standardizzazione</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Numero di punti finali</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Unità del risultato</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Rapporto reazione stand.</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Nome dello standard</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Peso mol. standard</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Controllo standardizz.</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Velocità di agitazione</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Titolante e concentrazione</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Tecnica di titolazione</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Unità di visualizzazione</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Tipo di titolazione</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Bianco richiesto</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Peso mol. reagente</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Peso del reagente</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Controllo titolazione</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID campione</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Prefisso autoincrementale</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Conc. del bianco richiesta</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>Controllo del processo MKA</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>Il rapporto di reazione non può essere vuoto!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>Il peso molecolare del campione non può essere vuoto!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>La quantità di campione non può essere vuota!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>La densità del campione non può essere vuota!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ salvato come - </translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configurazione | Passo 12 di 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Buretta</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Database</translation>
         </message>
     </context>
 </TS>

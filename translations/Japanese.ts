@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>スレーブが応答しません。%2 回試行しましたが、ビュレット容量（%1 mL）を設定できませんでした。</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>完了</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>保存されていません</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>校正を保存できませんでした。値は表示されていますが、このセッション終了後は保持されません。</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>完了</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>データベースファイル %1 を読み取れません。破損しているか、データベースではありません。</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>データベースファイル %1 をこのバージョンに更新できず、バックアップも書き込めませんでした。</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>データベースファイル %1 にはこのプログラムが認識できるバージョンがありません。新しいプログラムか別のプログラムのものです。</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>データベースファイル %1 は新しいプログラムのものです（データベースバージョン %2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>データベースファイル %1 に書き込めません（%2）。</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>データベースファイル %1 はフォルダーです。</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>データベースファイル %1 を開けません: %2。</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation>メソッドとログは読み取れますが、修理されるまで現在の操作は保存されません。</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation>修理されるまで何も保存されません。ファイルとそのバックアップは変更されません。</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>キャンセル</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>試料 ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>試料 ID を入力してください</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>保存</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>撹拌オフ</translation>
+            <source>Not Saved</source>
+            <translation>保存されていません</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>撹拌オン</translation>
+            <source>The reading could not be saved.</source>
+            <translation>測定値を保存できませんでした。</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>スターラー動作中</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>スターラー停止中</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>試料 ID</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: ディスクが見つかりません</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>この測定の試料 ID を入力します。</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: 書き込めませんでした</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>保存</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 個のファイル: 最初の %2 個のみ読み取ります</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>キャンセル</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>値を空にすることはできません。</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: 次回起動時のために保持しました</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>サイクル番号 </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>他 %1 件</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB デバイスが接続されていません</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>処理が完了しました</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>コピーに失敗しました</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>データベースのコピー</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>エクスポート</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>インポート</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>工場出荷時設定に戻す</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>メソッドを保持できませんでした。バックアップフォルダーがありません</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>メソッド</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>メソッドを保持できなかったため、何もリセットされませんでした。</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>データベースをリセットできませんでした。</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>完了</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>測定を保存できませんでした。データベースに書き込めません。値は表示されたままです。</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ been saved as - </source>
             <source>Back Titration</source>
             <translation>逆滴定</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>滴定の設定は 3 ステップです:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>電極の設定</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>滴定液の設定</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>滴定の設定</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>セットアップ開始</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV 範囲超過</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>範囲外</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>-2 - 20 の範囲で pH 値を入力してください</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>-2.0 - 20.0 の範囲で pH 値を入力してください</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>-2.00 - 20.00 の範囲で pH 値を入力してください</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>-2.000 - 20.000 の範囲で pH 値を入力してください</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>-2000 - 2000 の範囲で値を入力してください</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>0 - 20000 の範囲で値を入力してください</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>80.0 - 120.0 % の範囲でスロープ値を入力してください</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>-9999.99 - 9999.99 mV/dec の範囲でスロープ値を入力してください</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>スロープが範囲外です</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>小数点以下最大
+2 桁の値を入力してください。</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>設定値はビュレットの
+最大容量未満にしてください</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>取り付け日を未来の日付にすることはできません。</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>取り付け日を 2000 年より前にすることはできません。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>無効な値です。0.0001 - 100.0 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>無効な値です。0.1 - 100000.0 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>無効な値です。0.0001 - 100.0 の範囲で値を入力してください（小数点以下最大 4 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>無効な値です。0.1 - 100000.0 の範囲で値を入力してください（小数点以下最大 4 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>無効な値です。0.01 - 100,000 の範囲で値を入力してください（小数点以下最大 2 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>無効な値です。0.01 - 100.00 の範囲で値を入力してください（小数点以下最大 2 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>無効な値です。
+0.00001 - 1000.0 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>無効な値です。
+0.0001 - 100.0 の範囲で値を入力してください（小数点以下最大 4 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>無効な値です。0 - ビュレット容量 の範囲で値を入力してください（小数点以下最大 2 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>無効な値です。0 - 100 の範囲で値を入力してください（小数点以下最大 2 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>無効な値です。0 - 10,000 の範囲で値を入力してください。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>無効な値です。0.1 - 100.0 の範囲で値を入力してください（小数点以下最大 1 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>無効な値です。0.001 - 10.000 の範囲で値を入力してください（小数点以下最大 3 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>無効な値です。0.1 - 200.0 の範囲で値を入力してください（小数点以下最大 1 桁）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>無効な値です。1 - 150 の範囲で値を入力してください（小数なし）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>無効な値です。1 - 15000 の範囲で値を入力してください（小数なし）。</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>無効な値です。1 - 20000 の範囲で値を入力してください（小数なし）。</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>0.00 - 14.00 の範囲で pH 値を入力してください</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>滴定液濃度</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>無効な値です。0.00001 - 10,000 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>滴定液の分子量</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>無効な値です。0.01 - 100,000 の範囲で値を入力してください（小数点以下最大 2 桁）。</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>公称濃度</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>終点値</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>- 2000.0 - +2000.0 mV の範囲で mV 値を入力してください。</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>標定の反応比</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>標準液量</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>標準液の分子量</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>標準液の純度</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>標準液濃度</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>滴定液プレドーズ量</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>最大滴定液総量</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>予備撹拌時間</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>-2000.0 - +2000.0 mV の範囲で mV 値を入力してください。</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>固定ブランク値</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>無効な値です。0.00000 - 1000 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">結果の単位（F*消費量 mmol）</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>無効な値です。0.0001 - 1000 の範囲で値を入力してください（小数点以下最大 4 桁）。</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>反応比</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>無効な値です。
+0.00001 - 1000.0 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>試薬量</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>無効な値です。0.001 - 10,000 の範囲で値を入力してください（小数点以下最大 3 桁）。</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>試薬の分子量</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>試薬の純度</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>固定試薬重量</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>試薬量（体積）</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>無効な値です。0.00001 - 1000.0 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>試薬濃度</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>試料の分子量</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>試料量</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>無効な値です。
+0.001 - 1000.0 の範囲で値を入力してください（小数点以下最大 3 桁）。</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>試料密度</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>無効な値です。0.001 - 100.0 の範囲で値を入力してください
+（小数点以下最大 3 桁）。</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>1 食分の量</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>溶液の総量</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>無効な値です。1 - 10000 の範囲で値を入力してください（小数点以下最大 3 桁）。</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>精度レベル</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>無効な値です。0.1 - 20 の範囲で値を入力してください（小数点以下最大 1 桁）。</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>目標 ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>最小添加量 ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>最大添加量 ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>安定判定基準 dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>最小応答時間 tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>最大応答時間 tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>しきい値</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>一定増分</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>測定安定性</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>特殊文字は使用できません</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>電極名</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>名前が無効です。英数字 14 文字以内で入力してください。</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>ユーザー定義の滴定液名</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>滴定液 ID</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>無効な名前です。英数字 14 文字以内で入力してください。</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>ユーザー定義の標準液名</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>無効な名前です。英数字 14 文字
+以内で入力してください。</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>試料 ID - 手動</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>試料 ID を空欄にすることはできません</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>試料 ID - 自動連番</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>無効な名前です。英数字 10 文字以内で入力してください。</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>メソッド名を空欄にすることはできません</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>無効な名前です。英数字 14 文字以内で入力してください。</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>パスワードと確認用パスワードが一致しません</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>無効なパスワードです。英数字 14 文字以内で入力してください。</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>メソッド名を空欄にすることはできません</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>この名前のメソッドは既に存在します。</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>メソッド記録がいっぱいのため、新しいメソッドを保存できません。</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>メソッドを保存できませんでした。もう一度お試しください。</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>第 1 サイクルを実行</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>第 2 サイクルを実行</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>第 3 サイクルを実行</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>第 4 サイクルを実行</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>第 5 サイクルを実行</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>無効な値です。0.00001 - 1000.0 の範囲で値を入力してください（小数点以下最大 5 桁）。</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>電極の種類</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>分解能</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>緩衝液グループ</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>ISE の種類</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>滴定液名</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>濃度入力方法</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>標定方法</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>終点数</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>結果の単位</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>標定の反応比</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>標準液名</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>標準液の分子量</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>標定プロセス制御</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>撹拌速度</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>滴定液名と濃度</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>滴定方法</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>表示単位</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>滴定の種類</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>ブランクの要否</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>試薬の分子量</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>試薬重量</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>滴定プロセス制御</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>試料 ID</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>自動連番の接頭辞</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">ブランク濃度が必要</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>MKA プロセス制御</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>反応比を空欄にすることはできません。</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>試料の分子量を空欄にすることはできません。</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>試料量を空欄にすることはできません。</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>試料密度を空欄にすることはできません。</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ been saved as - </source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>セットアップ | ステップ 12/13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>ビュレット</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>データベース</translation>
         </message>
     </context>
 </TS>

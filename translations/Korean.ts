@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>슬레이브가 응답하지 않습니다: %2회 시도 후에도 뷰렛 용량(%1 mL)을 설정할 수 없습니다.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>완료</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>저장되지 않음</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>교정을 저장할 수 없습니다. 값은 표시되지만 이 세션 이후에는 유지되지 않습니다.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>완료</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>데이터베이스 파일 %1을(를) 읽을 수 없습니다. 손상되었거나 데이터베이스가 아닙니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>데이터베이스 파일 %1을(를) 이 버전으로 변환할 수 없었고, 백업도 쓸 수 없었습니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>데이터베이스 파일 %1에는 이 프로그램이 아는 버전이 없습니다. 더 새로운 프로그램이나 다른 프로그램의 것입니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>데이터베이스 파일 %1은(는) 더 새로운 프로그램의 것입니다(데이터베이스 버전 %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>데이터베이스 파일 %1에 쓸 수 없습니다(%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>데이터베이스 파일 %1은(는) 폴더입니다.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>데이터베이스 파일 %1을(를) 열 수 없습니다: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> 메서드와 로그는 읽을 수 있지만, 정비될 때까지 지금 하는 작업은 저장되지 않습니다.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> 정비될 때까지 아무것도 저장되지 않습니다. 파일과 백업은 그대로 유지됩니다.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>취소</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>시료 ID</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>시료 ID를 입력하십시오</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>저장</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>교반 끄기</translation>
+            <source>Not Saved</source>
+            <translation>저장되지 않음</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>교반 켜기</translation>
+            <source>The reading could not be saved.</source>
+            <translation>측정값을 저장할 수 없습니다.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>교반기 켜짐</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>교반기 꺼짐</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>시료 ID</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: 디스크가 더 이상 없습니다</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>이 측정의 시료 ID를 입력하십시오.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: 쓸 수 없습니다</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>저장</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>파일 %1개: 처음 %2개만 읽습니다</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>취소</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>값을 비워 둘 수 없습니다.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: 다음 시작 시까지 보관됨</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>사이클 번호 </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>외 %1건</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB 장치가 연결되지 않음</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>처리 완료</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>복사 실패</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>데이터베이스 복사</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>내보내기</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>가져오기</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>공장 초기화</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>메서드를 유지할 수 없습니다: 백업 폴더가 없습니다</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>메서드</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>메서드를 유지할 수 없어 아무것도 초기화하지 않았습니다.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>데이터베이스를 초기화할 수 없습니다.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>완료</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>측정을 저장할 수 없습니다. 데이터베이스에 쓸 수 없습니다. 값은 계속 표시됩니다.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ been saved as - </source>
             <source>Back Titration</source>
             <translation>역적정</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>적정 설정은 3단계로 이루어집니다:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>전극 설정</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>적정액 설정</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>적정 설정</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>설정 시작</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV 범위 초과</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>범위 초과</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>-2 - 20 사이의 pH 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>-2.0 - 20.0 사이의 pH 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>-2.00 - 20.00 사이의 pH 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>-2.000 - 20.000 사이의 pH 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>-2000 - 2000 사이의 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>0 - 20000 사이의 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>80.0 - 120.0 % 사이의 기울기 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>-9999.99 - 9999.99 mV/dec 사이의 기울기 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>기울기가 범위를 벗어남</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>소수점 이하 최대
+2자리의 값을 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>설정값은 뷰렛 최대 용량보다
+작아야 합니다</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>설치 날짜는 미래일 수 없습니다.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>설치 날짜는 2000년 이전일 수 없습니다.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 0.0001 - 100.0 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 0.1 - 100000.0 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>잘못된 값입니다. 0.0001 - 100.0 사이의 값을 입력하십시오(소수점 이하 최대 4자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>잘못된 값입니다. 0.1 - 100000.0 사이의 값을 입력하십시오(소수점 이하 최대 4자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>잘못된 값입니다. 0.01 - 100,000 사이의 값을 입력하십시오(소수점 이하 최대 2자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>잘못된 값입니다. 0.01 - 100.00 사이의 값을 입력하십시오(소수점 이하 최대 2자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 
+0.00001 - 1000.0 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>잘못된 값입니다. 
+0.0001 - 100.0 사이의 값을 입력하십시오(소수점 이하 최대 4자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>잘못된 값입니다. 0 - 뷰렛 용량 사이의 값을 입력하십시오(소수점 이하 최대 2자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>잘못된 값입니다. 0 - 100 사이의 값을 입력하십시오(소수점 이하 최대 2자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>잘못된 값입니다. 0 - 10,000 사이의 값을 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>잘못된 값입니다. 0.1 - 100.0 사이의 값을 입력하십시오(소수점 이하 최대 1자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>잘못된 값입니다. 0.001 - 10.000 사이의 값을 입력하십시오(소수점 이하 최대 3자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>잘못된 값입니다. 0.1 - 200.0 사이의 값을 입력하십시오(소수점 이하 최대 1자리).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>잘못된 값입니다. 1 - 150 사이의 값을 입력하십시오(소수점 없이).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>잘못된 값입니다. 1 - 15000 사이의 값을 입력하십시오(소수점 없이).</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>잘못된 값입니다. 1 - 20000 사이의 값을 입력하십시오(소수점 없이).</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>0.00 - 14.00 사이의 pH 값을 입력하십시오</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>적정액 농도</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 0.00001 - 10,000 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>적정액 분자량</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>잘못된 값입니다. 0.01 - 100,000 사이의 값을 입력하십시오(소수점 이하 최대 2자리).</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>공칭 농도</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>종말점 값</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>- 2000.0 - +2000.0 mV 사이의 mV 값을 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>표정 반응비</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>표준액 양</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>표준액 분자량</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>표준액 순도</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>표준액 농도</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>적정액 사전 주입량</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>최대 적정액 총량</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>사전 교반 시간</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>-2000.0 - +2000.0 mV 사이의 mV 값을 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>고정 블랭크 값</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 0.00000 - 1000 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">결과 단위(F*소비량 mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>잘못된 값입니다. 0.0001 - 1000 사이의 값을 입력하십시오(소수점 이하 최대 4자리).</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>반응비</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 
+0.00001 - 1000.0 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>시약량</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>잘못된 값입니다. 0.001 - 10,000 사이의 값을 입력하십시오(소수점 이하 최대 3자리).</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>시약 분자량</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>시약 순도</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>고정 시약 무게</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>시약 부피</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 0.00001 - 1000.0 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>시약 농도</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>시료 분자량</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>시료량</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>잘못된 값입니다. 
+0.001 - 1000.0 사이의 값을 입력하십시오(소수점 이하 최대 3자리).</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>시료 밀도</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>잘못된 값입니다. 0.001 - 100.0 사이의 값을 입력하십시오
+(소수점 이하 최대 3자리).</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>1회 제공량</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>총 용액 부피</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>잘못된 값입니다. 1 - 10000 사이의 값을 입력하십시오(소수점 이하 최대 3자리).</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>정밀도 수준</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>잘못된 값입니다. 0.1 - 20 사이의 값을 입력하십시오(소수점 이하 최대 1자리).</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>목표 ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>최소 주입량 ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>최대 주입량 ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>안정 기준 dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>최소 응답 시간 tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>최대 응답 시간 tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>임계값</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>일정 증분</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>측정 안정성</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>특수 문자는 사용할 수 없습니다</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>전극 이름</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>잘못된 이름입니다. 최대 14자의 영숫자를 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>사용자 정의 적정액 이름</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>적정액 ID</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>잘못된 이름입니다. 영숫자 14자 이내로 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>사용자 정의 표준액 이름</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>잘못된 이름입니다. 영숫자 14자 
+이내로 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>시료 ID - 수동</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>시료 ID는 비워 둘 수 없습니다</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>시료 ID - 자동 증가</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>잘못된 이름입니다. 영숫자 10자 이내로 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>메서드 이름은 비워 둘 수 없습니다</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>잘못된 이름입니다. 영숫자 14자 이내로 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>암호와 암호 확인이 같아야 합니다</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>잘못된 암호입니다. 영숫자 14자 이내로 입력하십시오.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>메서드 이름은 비워 둘 수 없습니다</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>이 이름의 메서드가 이미 있습니다.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>메서드 기록이 가득 차서 새 메서드를 저장할 수 없습니다.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>메서드를 저장할 수 없습니다. 다시 시도하십시오.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>1차 사이클 실행</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>2차 사이클 실행</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>3차 사이클 실행</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>4차 사이클 실행</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>5차 사이클 실행</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>잘못된 값입니다. 0.00001 - 1000.0 사이의 값을 입력하십시오(소수점 이하 최대 5자리).</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>전극 종류</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>분해능</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>버퍼 그룹</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>ISE 종류</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>적정액 이름</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>농도 입력 방식</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>표정 방식</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>종말점 수</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>결과 단위</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>표정 반응비</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>표준액 이름</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>표준액 분자량</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>표정 공정 제어</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>교반 속도</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>적정액 이름 및 농도</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>적정 방식</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>표시 단위</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>적정 종류</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>블랭크 필요</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>시약 분자량</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>시약 무게</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>적정 공정 제어</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>시료 ID</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>자동 증가 접두어</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">블랭크 농도 필요</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>MKA 공정 제어</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>반응비는 비워 둘 수 없습니다!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>시료 분자량은 비워 둘 수 없습니다!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>시료량은 비워 둘 수 없습니다!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>시료 밀도는 비워 둘 수 없습니다!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ been saved as - </source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>설정 | 13단계 중 12단계</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>뷰렛</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>데이터베이스</translation>
         </message>
     </context>
 </TS>

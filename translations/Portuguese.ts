@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>O escravo não responde: não foi possível definir o volume da bureta (%1 mL) após %2 tentativas.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>Concluído</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Não guardado</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Não foi possível guardar a calibração. Os seus valores são mostrados, mas não será mantida após esta sessão.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Concluído</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Não é possível ler o ficheiro de base de dados %1: está danificado ou não é uma base de dados.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Não foi possível trazer o ficheiro de base de dados %1 para esta versão, e a sua cópia de segurança não pôde ser escrita.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>O ficheiro de base de dados %1 não tem nenhuma versão conhecida por este programa: pertence a um programa mais recente ou a outro programa.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>O ficheiro de base de dados %1 pertence a um programa mais recente (versão da base de dados %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Não é possível escrever o ficheiro de base de dados %1 (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>O ficheiro de base de dados %1 é uma pasta.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Não é possível abrir o ficheiro de base de dados %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Os seus métodos e registos podem ser lidos, mas nada do que for feito agora é guardado até ser reparado.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> Nada é guardado até ser reparado; o ficheiro e a sua cópia de segurança ficam intactos.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>Cancelar</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID da amostra</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Introduza um ID de amostra</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>Guardar</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitação desligada</translation>
+            <source>Not Saved</source>
+            <translation>Não guardado</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitação ligada</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Não foi possível guardar a leitura.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Agitador ligado</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Agitador desligado</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>ID da amostra</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: o disco já não está presente</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Introduza o ID da amostra desta medição.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: não foi possível escrever</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Guardar</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 ficheiros: só os primeiros %2 são lidos</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>Cancelar</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>O valor não pode estar vazio.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: guardado para o próximo arranque</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Ciclo n.º </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>e mais %1</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Dispositivo USB não ligado</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Processo concluído</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Falha na cópia</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Cópia da base de dados</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importar</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Reposição de fábrica</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Não foi possível manter os métodos: sem pasta de cópia de segurança</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Métodos</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Não foi possível manter os métodos; nada foi reposto.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Não foi possível repor a base de dados.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>Concluir</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Não foi possível guardar a análise: a base de dados não pode ser escrita. Os seus valores continuam visíveis.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ guardado como - </translation>
             <source>Back Titration</source>
             <translation>Titulação de retorno</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>A configuração de uma titulação tem 3 passos:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Configurar elétrodo</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Configurar titulante</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Configurar titulação</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Iniciar configuração</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV fora do intervalo</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Fora do intervalo</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Introduza um valor de pH entre -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Introduza um valor de pH entre -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Introduza um valor de pH entre -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Introduza um valor de pH entre -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Introduza um valor entre -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Introduza um valor entre 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Introduza um declive entre 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Introduza um declive entre -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Declive fora do intervalo</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Introduza um valor com no máximo 
+2 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>O valor predefinido deve ser inferior ao 
+volume máximo da bureta</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>A data de instalação não pode ser no futuro.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>A data de instalação não pode ser anterior a 2000.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.0001 - 100.0 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.1 - 100000.0 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.0001 - 100.0 com no máximo 4 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.1 - 100000.0 com no máximo 4 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.01 - 100,000 com no máximo 2 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.01 - 100.00 com no máximo 2 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 
+0.00001 - 1000.0 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 
+0.0001 - 100.0 com no máximo 4 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0 - volume da bureta com no máximo 2 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0 - 100 com no máximo 2 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Valor inválido. Introduza um valor entre 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.1 - 100.0 com no máximo 1 casa decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.001 - 10.000 com no máximo 3 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.1 - 200.0 com no máximo 1 casa decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Valor inválido. Introduza um valor entre 1 - 150 sem casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Valor inválido. Introduza um valor entre 1 - 15000 sem casas decimais.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Valor inválido. Introduza um valor entre 1 - 20000 sem casas decimais.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Introduza um valor de pH entre 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Concentração do titulante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.00001 - 10,000 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Massa molecular do titulante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.01 - 100,000 com no máximo 2 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Concentração nominal</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Valores do ponto final</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Introduza um valor em mV entre - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Razão de reação da padronização</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Quantidade de padrão</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Massa molecular do padrão</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Pureza do padrão</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Concentração do padrão</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Volume de pré-dosagem</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Volume total máx.</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Duração da pré-agitação</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Introduza um valor em mV entre -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Valor de branco fixo</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.00000 - 1000 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Unidades do resultado (F*consumo mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.0001 - 1000 com no máximo 4 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Razão de reação</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 
+0.00001 - 1000.0 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Quantidade de reagente</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.001 - 10,000 com no máximo 3 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Massa molecular do reagente</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Pureza do reagente</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Massa fixa de reagente</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Volume de reagente</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.00001 - 1000.0 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Concentração do reagente</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Massa mol. amostra</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Quantidade de amostra</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 
+0.001 - 1000.0 com no máximo 3 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Densidade da amostra</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.001 - 100.0
+com no máximo 3 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Tamanho da porção</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Volume total da solução</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 1 - 10000 com no máximo 3 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Nível de precisão</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.1 - 20 com no máximo 1 casa decimal.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>ΔE alvo</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Dose mínima ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Dose máxima ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Critério de estabilidade dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Tempo de resposta mínimo tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Tempo de resposta máximo tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Limiar</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Incremento constante</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Estabilidade da medição</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Não são permitidos carateres especiais</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Nome do elétrodo</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Nome inválido. Introduza até 14 carateres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Nome do titulante definido pelo utilizador</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>ID do titulante</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Nome inválido. Introduza até 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Nome do padrão definido pelo utilizador</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Nome inválido. Introduza até 14 caracteres 
+alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>ID da amostra - manual</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>O ID da amostra não pode estar vazio</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>ID da amostra - automático</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Nome inválido. Introduza até 10 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>O nome do método não pode estar vazio</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Nome inválido. Introduza até 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>A palavra-passe e a confirmação devem ser iguais</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Palavra-passe inválida. Introduza até 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>O nome do método não pode estar vazio</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Já existe um método com este nome.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>O registo de métodos está cheio; não é possível guardar um novo método.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>Não foi possível guardar o método. Tente novamente.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Executar o 1.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Executar o 2.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Executar o 3.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Executar o 4.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Executar o 5.º ciclo</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valor inválido. Introduza um valor entre 0.00001 - 1000.0 com no máximo 5 casas decimais.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Tipo de elétrodo</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Resolução</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Grupo de tampões</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Tipo de ISE</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Nome do titulante</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Modo de introdução da conc.</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Técnica de padronização</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Número de pontos finais</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Unidades do resultado</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Razão de reação padron.</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Nome do padrão</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Massa mol. do padrão</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Controlo da padronização</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Velocidade de agitação</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Titulante e concentração</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Técnica de titulação</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Unidades de visualização</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Tipo de titulação</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Branco necessário</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Massa mol. do reagente</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Massa de reagente</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Controlo da titulação</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID da amostra</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Prefixo autoincremental</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Conc. do branco necessária</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>Controlo do processo MKA</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>A razão de reação não pode estar vazia!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>A massa molecular da amostra não pode estar vazia!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>A quantidade de amostra não pode estar vazia!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>A densidade da amostra não pode estar vazia!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ guardado como - </translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configuração | Passo 12 de 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Bureta</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Base de dados</translation>
         </message>
     </context>
 </TS>

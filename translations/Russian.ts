@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>Ведомый модуль не отвечает: не удалось задать объём бюретки (%1 mL) после %2 попыток.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>Готово</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>Не сохранено</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>Калибровку не удалось сохранить. Её значения показаны, но после этого сеанса она не сохранится.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Готово</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>Не удаётся прочитать файл базы данных %1: он повреждён или не является базой данных.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>Файл базы данных %1 не удалось привести к этой версии, и его резервную копию не удалось записать.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>Файл базы данных %1 не имеет версии, известной этой программе: он принадлежит более новой или другой программе.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>Файл базы данных %1 принадлежит более новой программе (версия базы данных %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>Запись в файл базы данных %1 невозможна (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>Файл базы данных %1 является папкой.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>Не удаётся открыть файл базы данных %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Его методы и журналы можно читать, но ничего из сделанного сейчас не сохраняется до обслуживания.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> До обслуживания ничего не сохраняется; файл и его резервная копия остаются нетронутыми.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>Отмена</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID пробы</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Введите ID пробы</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>Сохранить</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Мешалка выкл.</translation>
+            <source>Not Saved</source>
+            <translation>Не сохранено</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Мешалка вкл.</translation>
+            <source>The reading could not be saved.</source>
+            <translation>Показание не удалось сохранить.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Мешалка включена</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Мешалка выключена</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>ID пробы</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: диск больше не подключён</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Введите ID пробы для этого измерения.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: не удалось записать</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Сохранить</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>Файлов: %1; читаются только первые %2</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>Отмена</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>Значение не может быть пустым.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: сохранено до следующего запуска</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Цикл № </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>и ещё %1</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>USB-устройство не подключено</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Операция завершена</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Ошибка копирования</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Копирование базы данных</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Экспорт</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Импорт</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Сброс к заводским настройкам</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>Не удалось сохранить методы: нет папки резервных копий</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Методы</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>Не удалось сохранить методы; ничего не сброшено.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>Не удалось сбросить базу данных.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>Завершить</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>Измерение не удалось сохранить: запись в базу данных невозможна. Его значения остаются на экране.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ been saved as - </source>
             <source>Back Titration</source>
             <translation>Обратное титрование</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>Настройка титрования состоит из 3 шагов:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Настройка электрода</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Настройка титранта</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Настройка титрования</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Начать настройку</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>мВ вне диапазона</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Вне диапазона</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Введите значение pH в диапазоне -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Введите значение pH в диапазоне -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Введите значение pH в диапазоне -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Введите значение pH в диапазоне -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Введите значение в диапазоне -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Введите значение в диапазоне 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Введите крутизну в диапазоне 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Введите крутизну в диапазоне -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Наклон вне диапазона</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Введите значение не более чем 
+с 2 знаками после запятой.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>Заданное значение должно быть меньше 
+максимального объёма бюретки</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>Дата установки не может быть в будущем.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>Дата установки не может быть раньше 2000 года.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.0001 - 100.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 100000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.0001 - 100.0, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 100000.0, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.01 - 100,000, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.01 - 100.00, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.0001 - 100.0, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0 - объём бюретки, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0 - 100, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 100.0, не более 1 знака после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.001 - 10.000, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 200.0, не более 1 знака после запятой.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 150, без десятичных знаков.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 15000, без десятичных знаков.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 20000, без десятичных знаков.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Введите значение pH в диапазоне 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Концентрация титранта</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00001 - 10,000, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Молярная масса титранта</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.01 - 100,000, не более 2 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Номинальная концентрация</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Значения конечной точки</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Введите значение в мВ в диапазоне - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Стехиометрия стандартизации</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Количество стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Молярная масса стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Чистота стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Концентрация стандарта</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Объём предв. дозы</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Макс. общий объём титранта</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Предв. перемешивание</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Введите значение в мВ в диапазоне -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Фикс. холостой опыт</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00000 - 1000, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Единицы результата (F*расход, ммоль)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.0001 - 1000, не более 4 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Стехиометрия</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Количество реагента</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.001 - 10,000, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Молярная масса реагента</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Чистота реагента</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Фиксированная масса реагента</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Объём реагента</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Концентрация реагента</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Мол. масса пробы</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Количество пробы</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 
+0.001 - 1000.0, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Плотность пробы</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.001 - 100.0
+не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Размер порции</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Общий объём раствора</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 1 - 10000, не более 3 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Уровень точности</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.1 - 20, не более 1 знака после запятой.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>Целевое ΔE</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Минимальная доза ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Максимальная доза ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Критерий стабильности dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Минимальное время отклика tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Максимальное время отклика tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Порог</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Постоянный шаг</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Стабильность измерения</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Специальные символы не допускаются</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Имя электрода</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Неверное имя. Введите до 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Название титранта пользователя</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>ID титранта</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Недопустимое имя. Введите не более 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Название стандарта пользователя</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Недопустимое имя. Введите не более 14 
+буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>ID пробы - вручную</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>ID пробы не может быть пустым</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>ID пробы - автоматически</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Недопустимое имя. Введите не более 10 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>Название метода не может быть пустым</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Недопустимое имя. Введите не более 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>Пароль и подтверждение должны совпадать</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Недопустимый пароль. Введите не более 14 буквенно-цифровых символов.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>Название метода не может быть пустым</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Метод с таким названием уже существует.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>Журнал методов заполнен, новый метод сохранить нельзя.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>Метод не удалось сохранить. Повторите попытку.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Запустить 1-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Запустить 2-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Запустить 3-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Запустить 4-й цикл</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Запустить 5-й цикл</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Недопустимое значение. Введите значение в диапазоне 0.00001 - 1000.0, не более 5 знаков после запятой.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Тип электрода</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Разрешение</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Группа буферов</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Тип ИСЭ</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Название титранта</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Ввод концентрации</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Метод стандартизации</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Число конечных точек</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Единицы результата</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Стехиометрия стандартизации</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Название стандарта</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Мол. масса стандарта</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Управление стандартизацией</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Скорость перемешивания</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Титрант и концентрация</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Метод титрования</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Единицы отображения</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Тип титрования</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Холостой опыт</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Мол. масса реагента</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Масса реагента</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Управление титрованием</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID пробы</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Префикс автоинкремента</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Конц. холостого опыта</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>Управление процессом MKA</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>Стехиометрия не может быть пустой!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>Молярная масса пробы не может быть пустой!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>Количество пробы не может быть пустым!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>Плотность пробы не может быть пустой!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ been saved as - </source>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Настройка | Шаг 12 из 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Бюретка</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>База данных</translation>
         </message>
     </context>
 </TS>

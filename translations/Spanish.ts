@@ -57,6 +57,13 @@
         </message>
     </context>
     <context>
+        <name>BuretteController</name>
+        <message>
+            <source>The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.</source>
+            <translation>El esclavo no responde: no se pudo ajustar el tamaño de la bureta (%1 mL) tras %2 intentos.</translation>
+        </message>
+    </context>
+    <context>
         <name>BuretteDispenseVolume</name>
         <message>
             <source>Dispense Volume</source>
@@ -206,6 +213,14 @@
             <source>Done</source>
             <translation>Hecho</translation>
         </message>
+        <message>
+            <source>Not Saved</source>
+            <translation>No guardado</translation>
+        </message>
+        <message>
+            <source>The calibration could not be saved. Its figures are shown, and it is not kept after this session.</source>
+            <translation>No se pudo guardar la calibración. Sus valores se muestran, pero no se conservará después de esta sesión.</translation>
+        </message>
     </context>
     <context>
         <name>CalibrationSlope</name>
@@ -335,6 +350,45 @@
         <message>
             <source>Done</source>
             <translation>Hecho</translation>
+        </message>
+    </context>
+    <context>
+        <name>DatabaseStartup</name>
+        <message>
+            <source>The database file %1 cannot be read: it is damaged or not a database.</source>
+            <translation>No se puede leer el archivo de base de datos %1: está dañado o no es una base de datos.</translation>
+        </message>
+        <message>
+            <source>The database file %1 could not be brought to this version, and its backup could not be written.</source>
+            <translation>No se pudo llevar el archivo de base de datos %1 a esta versión, y no se pudo escribir su copia de seguridad.</translation>
+        </message>
+        <message>
+            <source>The database file %1 carries no version this program knows: it belongs to a newer program, or to another one.</source>
+            <translation>El archivo de base de datos %1 no lleva ninguna versión que este programa conozca: pertenece a un programa más reciente o a otro programa.</translation>
+        </message>
+        <message>
+            <source>The database file %1 belongs to a newer program (database version %2).</source>
+            <translation>El archivo de base de datos %1 pertenece a un programa más reciente (versión de base de datos %2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be written (%2).</source>
+            <translation>No se puede escribir en el archivo de base de datos %1 (%2).</translation>
+        </message>
+        <message>
+            <source>The database file %1 is a folder.</source>
+            <translation>El archivo de base de datos %1 es una carpeta.</translation>
+        </message>
+        <message>
+            <source>The database file %1 cannot be opened: %2.</source>
+            <translation>No se puede abrir el archivo de base de datos %1: %2.</translation>
+        </message>
+        <message>
+            <source> Its methods and logs can be read, but nothing done now is stored until it is serviced.</source>
+            <translation> Sus métodos y registros se pueden leer, pero nada de lo que se haga ahora se guarda hasta que se repare.</translation>
+        </message>
+        <message>
+            <source> Nothing is stored until it is serviced; the file and its backup are left untouched.</source>
+            <translation> No se guarda nada hasta que se repare; el archivo y su copia de seguridad no se modifican.</translation>
         </message>
     </context>
     <context>
@@ -636,6 +690,14 @@
             <source>Cancel</source>
             <translation>Cancelar</translation>
         </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID de muestra</translation>
+        </message>
+        <message>
+            <source>Enter a sample ID</source>
+            <translation>Introduzca un ID de muestra</translation>
+        </message>
     </context>
     <context>
         <name>MeasureReadmode</name>
@@ -664,35 +726,39 @@
             <translation>Guardar</translation>
         </message>
         <message>
-            <source>Stir Off</source>
-            <translation>Agitación off</translation>
+            <source>Not Saved</source>
+            <translation>No guardado</translation>
         </message>
         <message>
-            <source>Stir On</source>
-            <translation>Agitación on</translation>
+            <source>The reading could not be saved.</source>
+            <translation>No se pudo guardar la lectura.</translation>
+        </message>
+        <message>
+            <source>Stirrer On</source>
+            <translation>Agitador encendido</translation>
+        </message>
+        <message>
+            <source>Stirrer Off</source>
+            <translation>Agitador apagado</translation>
         </message>
     </context>
     <context>
-        <name>MeasureSampleIdPopup</name>
+        <name>MethodBackup</name>
         <message>
-            <source>Sample ID</source>
-            <translation>ID de muestra</translation>
+            <source>%1: the disk is no longer there</source>
+            <translation>%1: el disco ya no está</translation>
         </message>
         <message>
-            <source>Enter the sample ID of this measurement.</source>
-            <translation>Introduzca el ID de muestra de esta medición.</translation>
+            <source>%1: could not be written</source>
+            <translation>%1: no se pudo escribir</translation>
         </message>
         <message>
-            <source>Save</source>
-            <translation>Guardar</translation>
+            <source>%1 files: only the first %2 are read</source>
+            <translation>%1 archivos: solo se leen los %2 primeros</translation>
         </message>
         <message>
-            <source>Cancel</source>
-            <translation>Cancelar</translation>
-        </message>
-        <message>
-            <source>Value cannot be empty.</source>
-            <translation>El valor no puede estar vacío.</translation>
+            <source>%1: kept for the next start</source>
+            <translation>%1: conservado para el próximo inicio</translation>
         </message>
     </context>
     <context>
@@ -859,6 +925,57 @@
         <message>
             <source>Cycle No </source>
             <translation>Ciclo n.º </translation>
+        </message>
+    </context>
+    <context>
+        <name>ResourceManager</name>
+        <message>
+            <source>and %1 more</source>
+            <translation>y %1 más</translation>
+        </message>
+        <message>
+            <source>USB Device not connected</source>
+            <translation>Dispositivo USB no conectado</translation>
+        </message>
+        <message>
+            <source>Process Complete</source>
+            <translation>Proceso completado</translation>
+        </message>
+        <message>
+            <source>Copy failed</source>
+            <translation>Error en la copia</translation>
+        </message>
+        <message>
+            <source>Database copy</source>
+            <translation>Copia de la base de datos</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Importar</translation>
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Restablecimiento de fábrica</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept: no backup folder</source>
+            <translation>No se pudieron conservar los métodos: no hay carpeta de copia de seguridad</translation>
+        </message>
+        <message>
+            <source>Methods</source>
+            <translation>Métodos</translation>
+        </message>
+        <message>
+            <source>The methods could not be kept; nothing was reset.</source>
+            <translation>No se pudieron conservar los métodos; no se restableció nada.</translation>
+        </message>
+        <message>
+            <source>The database could not be reset.</source>
+            <translation>No se pudo restablecer la base de datos.</translation>
         </message>
     </context>
     <context>
@@ -1113,6 +1230,10 @@
         <message>
             <source>Complete</source>
             <translation>Completar</translation>
+        </message>
+        <message>
+            <source>The run could not be saved: the database cannot be written. Its figures stay on show.</source>
+            <translation>No se pudo guardar el análisis: no se puede escribir en la base de datos. Sus valores siguen mostrándose.</translation>
         </message>
     </context>
     <context>
@@ -2502,6 +2623,610 @@ guardado como - </translation>
             <source>Back Titration</source>
             <translation>Titulación por retroceso</translation>
         </message>
+        <message>
+            <source>There are 3 steps to setting up a titration:</source>
+            <translation>Configurar una titulación consta de 3 pasos:</translation>
+        </message>
+        <message>
+            <source>Setup Electrode</source>
+            <translation>Configurar electrodo</translation>
+        </message>
+        <message>
+            <source>Setup Titrant</source>
+            <translation>Configurar titulante</translation>
+        </message>
+        <message>
+            <source>Setup Titration</source>
+            <translation>Configurar titulación</translation>
+        </message>
+        <message>
+            <source>Start Setup</source>
+            <translation>Iniciar configuración</translation>
+        </message>
+        <message>
+            <source>mV OverRange</source>
+            <translation>mV fuera de rango</translation>
+        </message>
+        <message>
+            <source>Out of Range</source>
+            <translation>Fuera de rango</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2 - 20</source>
+            <translation>Introduzca un valor de pH entre -2 - 20</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.0 - 20.0</source>
+            <translation>Introduzca un valor de pH entre -2.0 - 20.0</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.00 - 20.00</source>
+            <translation>Introduzca un valor de pH entre -2.00 - 20.00</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between -2.000 - 20.000</source>
+            <translation>Introduzca un valor de pH entre -2.000 - 20.000</translation>
+        </message>
+        <message>
+            <source>Enter a value between -2000 - 2000</source>
+            <translation>Introduzca un valor entre -2000 - 2000</translation>
+        </message>
+        <message>
+            <source>Enter a value between 0 - 20000</source>
+            <translation>Introduzca un valor entre 0 - 20000</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between 80.0 - 120.0 %</source>
+            <translation>Introduzca una pendiente entre 80.0 - 120.0 %</translation>
+        </message>
+        <message>
+            <source>Enter a slope value between -9999.99 - 9999.99 mV/dec</source>
+            <translation>Introduzca una pendiente entre -9999.99 - 9999.99 mV/dec</translation>
+        </message>
+        <message>
+            <source>Slope out of range</source>
+            <translation>Pendiente fuera de rango</translation>
+        </message>
+        <message>
+            <source>Please enter a value with maximum 
+2 decimals.</source>
+            <translation>Introduzca un valor con un máximo de 
+2 decimales.</translation>
+        </message>
+        <message>
+            <source>Preset value must be less than 
+maximum burette volume</source>
+            <translation>El valor predefinido debe ser menor que el 
+volumen máximo de la bureta</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be in the future.</source>
+            <translation>La fecha de instalación no puede ser futura.</translation>
+        </message>
+        <message>
+            <source>The installation date cannot be before 2000.</source>
+            <translation>La fecha de instalación no puede ser anterior a 2000.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.0001 - 100.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 100000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.0001 - 100.0, maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.0001 - 100.0 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 100000.0, maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 100000.0 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.01 - 100,000 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100.00 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.01 - 100.00 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.0001 - 100.0 with maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.0001 - 100.0 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - burette size with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0 - tamaño de la bureta con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 100 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0 - 100 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0 - 10,000.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0 - 10,000.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 100.0 with maximum 1 decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 100.0 con un máximo de 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10.000 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.001 - 10.000 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.1 - 200.0 with maximum 1 decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 200.0 con un máximo de 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 150 without decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 150 sin decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 15000 without decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 15000 sin decimales.</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 20000 without decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 20000 sin decimales.</translation>
+        </message>
+        <message>
+            <source>Enter a pH value between 0.00 - 14.00</source>
+            <translation>Introduzca un valor de pH entre 0.00 - 14.00</translation>
+        </message>
+        <message>
+            <source>Titrant Concentration</source>
+            <translation>Concentración del titulante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 10,000 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00001 - 10,000 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Titrant Molecular Weight</source>
+            <translation>Peso molecular del titulante</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.01 - 100,000 with maximum 2 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.01 - 100,000 con un máximo de 2 decimales.</translation>
+        </message>
+        <message>
+            <source>Nominal Concentration</source>
+            <translation>Concentración nominal</translation>
+        </message>
+        <message>
+            <source>Endpoint Values</source>
+            <translation>Valores del punto final</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between - 2000.0 - +2000.0 mV.</source>
+            <translation>Introduzca un valor en mV entre - 2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Standardization Reaction Ratio</source>
+            <translation>Relación de reacción de estandarización</translation>
+        </message>
+        <message>
+            <source>Standard Amount</source>
+            <translation>Cantidad de patrón</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Weight</source>
+            <translation>Peso molecular del patrón</translation>
+        </message>
+        <message>
+            <source>Standard Purity</source>
+            <translation>Pureza del patrón</translation>
+        </message>
+        <message>
+            <source>Standard Concentration</source>
+            <translation>Concentración del patrón</translation>
+        </message>
+        <message>
+            <source>Pre-dose Titrant Volume</source>
+            <translation>Volumen de predosificación</translation>
+        </message>
+        <message>
+            <source>Max Total Titrant Volume</source>
+            <translation>Volumen total máx.</translation>
+        </message>
+        <message>
+            <source>Pre-stir Duration</source>
+            <translation>Duración de preagitación</translation>
+        </message>
+        <message>
+            <source>Enter a mV value between -2000.0 - +2000.0 mV.</source>
+            <translation>Introduzca un valor en mV entre -2000.0 - +2000.0 mV.</translation>
+        </message>
+        <message>
+            <source>Fixed Blank Value</source>
+            <translation>Valor de blanco fijo</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.00000 - 1000 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00000 - 1000 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Result Units(F*Consumption mmol)</source>
+            <translation type="unfinished">Unidades del resultado (F*consumo mmol)</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.0001 - 1000 with maximum 4 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.0001 - 1000 con un máximo de 4 decimales.</translation>
+        </message>
+        <message>
+            <source>Reaction Ratio</source>
+            <translation>Relación de reacción</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+ 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Reagent Amount</source>
+            <translation>Cantidad de reactivo</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.001 - 10,000 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.001 - 10,000 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Weight</source>
+            <translation>Peso molecular del reactivo</translation>
+        </message>
+        <message>
+            <source>Reagent Purity</source>
+            <translation>Pureza del reactivo</translation>
+        </message>
+        <message>
+            <source>Fixed Reagent Weight</source>
+            <translation>Peso fijo del reactivo</translation>
+        </message>
+        <message>
+            <source>Reagent Volume</source>
+            <translation>Volumen de reactivo</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0 with maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Reagent Concentration</source>
+            <translation>Concentración del reactivo</translation>
+        </message>
+        <message>
+            <source>Sample Mol. Wt.</source>
+            <translation>Peso mol. muestra</translation>
+        </message>
+        <message>
+            <source>Sample Amount</source>
+            <translation>Cantidad de muestra</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 
+0.001 - 1000.0 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 
+0.001 - 1000.0 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Sample Density</source>
+            <translation>Densidad de la muestra</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.001 - 100.0 
+with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.001 - 100.0
+con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Serving Size</source>
+            <translation>Tamaño de la porción</translation>
+        </message>
+        <message>
+            <source>Total Solution Volume</source>
+            <translation>Volumen total de solución</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 1 - 10000 with maximum 3 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 1 - 10000 con un máximo de 3 decimales.</translation>
+        </message>
+        <message>
+            <source>Precision Level</source>
+            <translation>Nivel de precisión</translation>
+        </message>
+        <message>
+            <source>Invalid value.  Please enter a value between 0.1 - 20 with maximum 1 decimal.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.1 - 20 con un máximo de 1 decimal.</translation>
+        </message>
+        <message>
+            <source>Target ΔE</source>
+            <translation>ΔE objetivo</translation>
+        </message>
+        <message>
+            <source>Minimum Dose ΔVmin</source>
+            <translation>Dosis mínima ΔVmin</translation>
+        </message>
+        <message>
+            <source>Maximum Dose ΔVmax</source>
+            <translation>Dosis máxima ΔVmax</translation>
+        </message>
+        <message>
+            <source>Stability Criteria dE/dt</source>
+            <translation>Criterio de estabilidad dE/dt</translation>
+        </message>
+        <message>
+            <source>Minimum Response Time tmin</source>
+            <translation>Tiempo de respuesta mínimo tmin</translation>
+        </message>
+        <message>
+            <source>Maximum Response Time tmax</source>
+            <translation>Tiempo de respuesta máximo tmax</translation>
+        </message>
+        <message>
+            <source>Threshold</source>
+            <translation>Umbral</translation>
+        </message>
+        <message>
+            <source>Constant Increment</source>
+            <translation>Incremento constante</translation>
+        </message>
+        <message>
+            <source>Measurement Stability</source>
+            <translation>Estabilidad de la medición</translation>
+        </message>
+        <message>
+            <source>Tmin</source>
+            <translation>Tmin</translation>
+        </message>
+        <message>
+            <source>Tmax</source>
+            <translation>Tmax</translation>
+        </message>
+        <message>
+            <source>dVmin</source>
+            <translation>dVmin</translation>
+        </message>
+        <message>
+            <source>dVmax</source>
+            <translation>dVmax</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>No se permiten caracteres especiales</translation>
+        </message>
+        <message>
+            <source>Electrode Name</source>
+            <translation>Nombre del electrodo</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>User Defined Titrant Name</source>
+            <translation>Nombre del titulante definido por el usuario</translation>
+        </message>
+        <message>
+            <source>Titrant ID</source>
+            <translation>ID del titulante</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>User Defined Standard Name</source>
+            <translation>Nombre del patrón definido por el usuario</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric 
+characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres 
+alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Sample ID-Manual</source>
+            <translation>ID de muestra - manual</translation>
+        </message>
+        <message>
+            <source>Sample Id cannot be blank</source>
+            <translation>El ID de muestra no puede estar vacío</translation>
+        </message>
+        <message>
+            <source>Sample ID-Auto-Incremental</source>
+            <translation>ID de muestra - automático</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 10 alphanumeric characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 10 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Method name cannot be empty</source>
+            <translation>El nombre del método no puede estar vacío</translation>
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric  characters.</source>
+            <translation>Nombre no válido. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Password &amp; confirm password should be same</source>
+            <translation>La contraseña y su confirmación deben coincidir</translation>
+        </message>
+        <message>
+            <source>Invalid Password. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Contraseña no válida. Introduzca hasta 14 caracteres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Method Name can't be empty</source>
+            <translation>El nombre del método no puede estar vacío</translation>
+        </message>
+        <message>
+            <source>A method with this name already exists.</source>
+            <translation>Ya existe un método con este nombre.</translation>
+        </message>
+        <message>
+            <source>Method log is full, new method cannot be saved.</source>
+            <translation>El registro de métodos está lleno; no se puede guardar un método nuevo.</translation>
+        </message>
+        <message>
+            <source>The method could not be stored. Please try again.</source>
+            <translation>No se pudo guardar el método. Inténtelo de nuevo.</translation>
+        </message>
+        <message>
+            <source>Run 1st Cycle</source>
+            <translation>Iniciar el 1.er ciclo</translation>
+        </message>
+        <message>
+            <source>Run 2nd Cycle</source>
+            <translation>Iniciar el 2.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 3rd Cycle</source>
+            <translation>Iniciar el 3.er ciclo</translation>
+        </message>
+        <message>
+            <source>Run 4th Cycle</source>
+            <translation>Iniciar el 4.º ciclo</translation>
+        </message>
+        <message>
+            <source>Run 5th Cycle</source>
+            <translation>Iniciar el 5.º ciclo</translation>
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.</source>
+            <translation>Valor no válido. Introduzca un valor entre 0.00001 - 1000.0 con un máximo de 5 decimales.</translation>
+        </message>
+        <message>
+            <source>Electrode Type</source>
+            <translation>Tipo de electrodo</translation>
+        </message>
+        <message>
+            <source>Resolution</source>
+            <translation>Resolución</translation>
+        </message>
+        <message>
+            <source>Buffer Group</source>
+            <translation>Grupo de tampones</translation>
+        </message>
+        <message>
+            <source>ISE Type</source>
+            <translation>Tipo de ISE</translation>
+        </message>
+        <message>
+            <source>Titrant Name</source>
+            <translation>Nombre del titulante</translation>
+        </message>
+        <message>
+            <source>Conc. Input Mode</source>
+            <translation>Modo de entrada de conc.</translation>
+        </message>
+        <message>
+            <source>Standardize Tech.</source>
+            <translation>Técnica de estandarización</translation>
+        </message>
+        <message>
+            <source>Number of Endpoints</source>
+            <translation>Número de puntos finales</translation>
+        </message>
+        <message>
+            <source>Result Units</source>
+            <translation>Unidades del resultado</translation>
+        </message>
+        <message>
+            <source>Standardize Reaction Ratio</source>
+            <translation>Relación reacción estand.</translation>
+        </message>
+        <message>
+            <source>Standard Name</source>
+            <translation>Nombre del patrón</translation>
+        </message>
+        <message>
+            <source>Standard Molecular Wt</source>
+            <translation>Peso mol. del patrón</translation>
+        </message>
+        <message>
+            <source>Stand. Process Control</source>
+            <translation>Control estandarización</translation>
+        </message>
+        <message>
+            <source>Stir Speed</source>
+            <translation>Velocidad de agitación</translation>
+        </message>
+        <message>
+            <source>Titrant Name and Concentration</source>
+            <translation>Titulante y concentración</translation>
+        </message>
+        <message>
+            <source>Titration Technique</source>
+            <translation>Técnica de titulación</translation>
+        </message>
+        <message>
+            <source>Display Units</source>
+            <translation>Unidades de visualización</translation>
+        </message>
+        <message>
+            <source>Titration Type</source>
+            <translation>Tipo de titulación</translation>
+        </message>
+        <message>
+            <source>Blank Required</source>
+            <translation>Blanco requerido</translation>
+        </message>
+        <message>
+            <source>Reagent Molecular Wt</source>
+            <translation>Peso mol. del reactivo</translation>
+        </message>
+        <message>
+            <source>Reagent Weight</source>
+            <translation>Peso del reactivo</translation>
+        </message>
+        <message>
+            <source>Titration Process Control</source>
+            <translation>Control de la titulación</translation>
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID de muestra</translation>
+        </message>
+        <message>
+            <source>Auto-Incremental Prefix</source>
+            <translation>Prefijo autoincremental</translation>
+        </message>
+        <message>
+            <source>Blank Conc. Required</source>
+            <translation type="unfinished">Conc. del blanco requerida</translation>
+        </message>
+        <message>
+            <source>MKA Process Control</source>
+            <translation>Control del proceso MKA</translation>
+        </message>
+        <message>
+            <source> Reaction Ratio value can't be blank!</source>
+            <translation>¡La relación de reacción no puede estar vacía!</translation>
+        </message>
+        <message>
+            <source> Sample Weight value can't be blank!</source>
+            <translation>¡El peso molecular de la muestra no puede estar vacío!</translation>
+        </message>
+        <message>
+            <source> Sample Amount value can't be blank!</source>
+            <translation>¡La cantidad de muestra no puede estar vacía!</translation>
+        </message>
+        <message>
+            <source> Sample Density value can't be blank!</source>
+            <translation>¡La densidad de la muestra no puede estar vacía!</translation>
+        </message>
     </context>
     <context>
         <name>UserDefinedProcessControll</name>
@@ -2750,6 +3475,14 @@ guardado como - </translation>
         <message>
             <source>Setup | Step 12 of 13</source>
             <translation>Configuración | Paso 12 de 13</translation>
+        </message>
+        <message>
+            <source>Burette</source>
+            <translation>Bureta</translation>
+        </message>
+        <message>
+            <source>Database</source>
+            <translation>Base de datos</translation>
         </message>
     </context>
 </TS>

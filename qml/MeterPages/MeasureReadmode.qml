@@ -35,7 +35,7 @@ MainContentBackground {
     function updateReading() {
         header3Text = qsTr("Measure ") + measurement.readMode
                 + (measurement.readMode === "ISE" ? " " + measurement.iseType : "") + ls.translatedText
-        valueText.text = measValue()
+        valueText.text = qsTr(measValue()) + ls.translatedText
         mvText.text = measurement.mV.toFixed(1) + "  mV"
         temperatureLabel.text = temperatureText()
     }

@@ -20,11 +20,11 @@ function valueText(value, readMode, decimals, significantDigits) {
 // readMode, value, resolution, significantDigits.
 function readingText(r) {
     if (Math.abs(r.mV) > maxMv)
-        return "mV OverRange"
+        return QT_TRANSLATE_NOOP("TranslationListElements", "mV OverRange")
     if (r.message)
         return r.message
     if (r.outOfRange || Number(r.value) === outOfRangeValue)
-        return "Out of Range"
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Out of Range")
     return valueText(r.value, r.readMode, NumberFormat.countDecimal(r.resolution), r.significantDigits)
 }
 
@@ -53,18 +53,24 @@ function slopeUnit(electrodeType) {
     return ""
 }
 
+// The refusal of a pH standard's value by the number of decimals.
+var phStandardMessages = [QT_TRANSLATE_NOOP("TranslationListElements", "Enter a pH value between -2 - 20"),
+                          QT_TRANSLATE_NOOP("TranslationListElements", "Enter a pH value between -2.0 - 20.0"),
+                          QT_TRANSLATE_NOOP("TranslationListElements", "Enter a pH value between -2.00 - 20.00"),
+                          QT_TRANSLATE_NOOP("TranslationListElements", "Enter a pH value between -2.000 - 20.000")]
+
 // The pattern, range and refusal text of a standard's value by read mode.
 function standardLimits(readMode, decimals) {
     if (readMode === "pH") {
         var d = Math.max(1, decimals)
         return { pattern: new RegExp("^-?(0|([1-9]\\d{0,1})|(\\d{0,0}))(\\.\\d{1," + d + "})?$"), min: -2, max: 20,
-                 message: "Enter a pH value between " + (-2).toFixed(decimals) + " - " + (20).toFixed(decimals) }
+                 message: phStandardMessages[decimals] || "Enter a pH value between " + (-2).toFixed(decimals) + " - " + (20).toFixed(decimals) }
     }
     if (readMode === "Redox")
         return { pattern: /^-?(0|([1-9]\d{0,3})|(\d{0,0}))(\.\d{1,1})?$/, min: -2000, max: 2000,
-                 message: "Enter a value between -2000 - 2000" }
+                 message: QT_TRANSLATE_NOOP("TranslationListElements", "Enter a value between -2000 - 2000") }
     return { pattern: /^-?(0|([1-9]\d{0,4})|(\d{0,0}))(\.\d{1,5})?$/, min: 0, max: 20000,
-             message: "Enter a value between 0 - 20000" }
+             message: QT_TRANSLATE_NOOP("TranslationListElements", "Enter a value between 0 - 20000") }
 }
 
 // "" when the text is a standard's value for the mode, "empty" for no text,
@@ -83,8 +89,11 @@ function checkStandard(text, readMode, decimals) {
 // 120 %, the limits of a calibration's average slope; any other slope takes
 // four digits and two decimals.
 function slopeMessage(electrodeType) {
-    return electrodeType === "pH" ? "Enter a slope value between 80.0 - 120.0 %"
-                                  : "Enter a slope value between -9999.99 - 9999.99 " + slopeUnit(electrodeType)
+    if (electrodeType === "pH")
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Enter a slope value between 80.0 - 120.0 %")
+    if (electrodeType === "ISE")
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Enter a slope value between -9999.99 - 9999.99 mV/dec")
+    return "Enter a slope value between -9999.99 - 9999.99 " + slopeUnit(electrodeType)
 }
 // "" for a slope that is taken, "Slope out of range" for a pH slope beyond
 // its limits, else the message above (an empty field included).
@@ -93,7 +102,7 @@ function checkSlope(text, electrodeType) {
     if (!/^-?\d{1,4}(\.\d{1,2})?$/.test(text) || !isFinite(v))
         return slopeMessage(electrodeType)
     if (electrodeType === "pH" && (Math.abs(v) < 80 || Math.abs(v) > 120))
-        return "Slope out of range"
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Slope out of range")
     return ""
 }
 
@@ -103,11 +112,11 @@ function checkPreset(text, buretteSizeMl) {
         return "empty"
     var v = parseFloat(text)
     if (!/^\d{0,20}(\.\d{1,2})?$/.test(text) || isNaN(v) || v < 0)
-        return "Please enter a value with maximum \n2 decimals."
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Please enter a value with maximum \n2 decimals.")
     if (v > buretteSizeMl)
-        return "Preset value must be less than \nmaximum burette volume"
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Preset value must be less than \nmaximum burette volume")
     if (v === 0)
-        return "Please enter a value with maximum \n2 decimals."
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Please enter a value with maximum \n2 decimals.")
     return ""
 }
 
@@ -129,8 +138,8 @@ function stepRinseCycles(cycles, delta) {
 function checkInstallationDate(date, today) {
     var day = new Date(today.getFullYear(), today.getMonth(), today.getDate())
     if (date.getTime() > day.getTime())
-        return "The installation date cannot be in the future."
+        return QT_TRANSLATE_NOOP("TranslationListElements", "The installation date cannot be in the future.")
     if (date.getFullYear() < 2000)
-        return "The installation date cannot be before 2000."
+        return QT_TRANSLATE_NOOP("TranslationListElements", "The installation date cannot be before 2000.")
     return ""
 }

@@ -16,8 +16,12 @@ function nextSampleId(id) {
 // The text of the run button before cycle `cycleIndex`; "" from cycle 6 on,
 // when only Complete remains.
 function cycleButtonText(cycleIndex) {
-    var names = ["", "1st Cycle", "2nd Cycle", "3rd Cycle", "4th Cycle", "5th Cycle"]
-    return cycleIndex >= 1 && cycleIndex <= 5 ? "Run " + names[cycleIndex] : ""
+    var names = ["", QT_TRANSLATE_NOOP("TranslationListElements", "Run 1st Cycle"),
+                 QT_TRANSLATE_NOOP("TranslationListElements", "Run 2nd Cycle"),
+                 QT_TRANSLATE_NOOP("TranslationListElements", "Run 3rd Cycle"),
+                 QT_TRANSLATE_NOOP("TranslationListElements", "Run 4th Cycle"),
+                 QT_TRANSLATE_NOOP("TranslationListElements", "Run 5th Cycle")]
+    return cycleIndex >= 1 && cycleIndex <= 5 ? names[cycleIndex] : ""
 }
 
 // The message for a typed sample id, "" when it is good. `pattern` is the
@@ -25,11 +29,11 @@ function cycleButtonText(cycleIndex) {
 function sampleIdError(text, pattern) {
     var id = String(text).replace(/^\s+|\s+$/g, "")
     if (id.length < 1)
-        return "Sample Id cannot be blank"
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Sample Id cannot be blank")
     if (!pattern.test(id))
-        return "Special characters are not allowed"
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Special characters are not allowed")
     if (id.length > 14)
-        return "Invalid name. Please enter up to 14 alphanumeric characters."
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Invalid name. Please enter up to 14 alphanumeric characters.")
     return ""
 }
 
@@ -37,7 +41,7 @@ function sampleIdError(text, pattern) {
 function amountError(text) {
     var value = parseFloat(text)
     if (!/^\d{0,4}(\.\d{1,5})?$/.test(String(text)) || isNaN(value) || value < 1e-05 || value > 1000)
-        return "Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals."
+        return QT_TRANSLATE_NOOP("TranslationListElements", "Invalid value. Please enter a value between 0.00001 - 1000.0, maximum 5 decimals.")
     return ""
 }
 

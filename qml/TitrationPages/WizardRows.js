@@ -8,34 +8,56 @@ var resultUnits = ["M", "mM", "mg/100mL", "mg/L", "g/100mL", "g/L", "ppm", "ppb"
                    "ppm by weight", "% w/w", "TAN", "TBN", "Consumption mmol", "F*Consumption mmol"]
 var mkaResultUnits = ["M", "mM", "mg/100mL", "mg/L", "g/100mL", "g/L", "ppm", "ppb", "oz/gal", "% w/v",
                       "%w/w", "ppm(w)", "mg/100g", "mg/g", "mg/serving", "mg"]
-var mkaProcessRows = ["Constant Increment", "Measurement Stability", "Tmin", "Tmax", "dVmin", "dVmax"]
+var mkaProcessRows = [QT_TRANSLATE_NOOP("TranslationListElements", "Constant Increment"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "Measurement Stability"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "Tmin"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "Tmax"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "dVmin"),
+                      QT_TRANSLATE_NOOP("TranslationListElements", "dVmax")]
 
 function isWeight(amount) { return amount === "Fixed Weight" || amount === "Variable Weight" }
 function isVolume(amount) { return amount === "Fixed Volume" || amount === "Variable Volume" }
 
 function electrodeRows(type) {
     if (type === "pH")
-        return ["Electrode Type", "Electrode Name", "Resolution", "Buffer Group"]
+        return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Resolution"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Buffer Group")]
     if (type === "Redox")
-        return ["Electrode Type", "Electrode Name"]
-    return ["Electrode Type", "ISE Type", "Electrode Name"]
+        return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name")]
+    return [QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Type"),
+            QT_TRANSLATE_NOOP("TranslationListElements", "ISE Type"),
+            QT_TRANSLATE_NOOP("TranslationListElements", "Electrode Name")]
 }
 
 // s: concInputMode, standTechnique, standAmount
 function titrantRows(s) {
-    var rows = ["Titrant Name", "Titrant ID", "Conc. Input Mode"]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titrant ID"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Conc. Input Mode")]
     if (s.concInputMode !== "Standardization")
-        return rows.concat(["Titrant Concentration"])
-    rows = rows.concat(["Nominal Concentration", "Standardize Tech.", "Number of Endpoints"])
+        return rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Concentration")])
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Nominal Concentration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standardize Tech."),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Number of Endpoints")])
     if (s.standTechnique === "Preset End Pt.")
-        rows.push("Endpoint Values")
-    rows = rows.concat(["Result Units", "Standardize Reaction Ratio", "Standard Name", "Standard Amount"])
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Endpoint Values"))
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Result Units"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standardize Reaction Ratio"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standard Name"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Standard Amount")])
     if (isWeight(s.standAmount))
-        rows = rows.concat(["Standard Molecular Wt", "Standard Purity"])
+        rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Standard Molecular Wt"),
+                            QT_TRANSLATE_NOOP("TranslationListElements", "Standard Purity")])
     else
-        rows.push("Standard Concentration")
-    return rows.concat(["Pre-dose Titrant Volume", "Max Total Titrant Volume", "Stand. Process Control",
-                        "Pre-stir Duration", "Stir Speed"])
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Standard Concentration"))
+    return rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Pre-dose Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stand. Process Control"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed")])
 }
 
 // The end-point counts offered: the titrant's preset standardisation has
@@ -63,45 +85,57 @@ function checkSampleDensityCondition(unitIndex, sampleAmount) {
 // s: electrodeType, technique, titrationType, blankRequired, resultUnitsIndex,
 // sampleAmount, reagentAmount, processControl, sampleID
 function titrationRows(s) {
-    var rows = ["Titrant Name and Concentration", "Titration Technique", "Number of Endpoints"]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name and Concentration"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titration Technique"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Number of Endpoints")]
     var preset = s.technique === "Preset End Pt."
     if (preset && s.electrodeType === "pH")
-        rows.push("Display Units")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Display Units"))
     if (preset)
-        rows.push("Endpoint Values")
-    rows.push("Titration Type")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Endpoint Values"))
+    rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Titration Type"))
     var back = s.titrationType === "Back Titration"
     if (!back) {
-        rows.push("Blank Required")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Blank Required"))
         if (s.blankRequired === "Fixed")
-            rows.push("Fixed Blank Value")
+            rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Fixed Blank Value"))
     }
-    rows.push("Result Units")
+    rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Result Units"))
     if (hasReactionRatio(s.resultUnitsIndex))
-        rows = rows.concat(back ? ["Reagent Reaction Ratio", "Titrant Reaction Ratio"] : ["Reaction Ratio"])
+        rows = rows.concat(back ? [QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Reaction Ratio"),
+                                   QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Reaction Ratio")] : [QT_TRANSLATE_NOOP("TranslationListElements", "Reaction Ratio")])
     if (back) {
-        rows.push("Reagent Amount")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Amount"))
         if (s.reagentAmount === "Manual Volume")
-            rows = rows.concat(["Reagent Concentration", "Reagent Volume"])
+            rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Concentration"),
+                                QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Volume")])
         else if (s.reagentAmount === "Manual Weight")
-            rows = rows.concat(["Reagent Molecular Wt", "Reagent Purity", "Reagent Weight"])
+            rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Molecular Wt"),
+                                QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Purity"),
+                                QT_TRANSLATE_NOOP("TranslationListElements", "Reagent Weight")])
     }
     if (needsSampleMolWeight(s.resultUnitsIndex))
-        rows.push("Sample Mol. Wt.")
-    rows.push("Sample Amount")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Mol. Wt."))
+    rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Amount"))
     if (checkSampleDensityCondition(s.resultUnitsIndex, s.sampleAmount))
-        rows.push("Sample Density")
-    rows = rows.concat(["Pre-dose Titrant Volume", "Max Total Titrant Volume", "Titration Process Control",
-                        "Pre-stir Duration", "Stir Speed", "Sample ID"])
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Density"))
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Pre-dose Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Titration Process Control"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Sample ID")])
     if (s.sampleID === "Auto-Incremental")
-        rows.push("Auto-Incremental Prefix")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Auto-Incremental Prefix"))
     return rows
 }
 
 function mkaTitrantRows(concentrationUnit) {
-    var rows = ["Titrant Name", "Titrant ID", "Titrant Concentration"]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titrant ID"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Concentration")]
     if (concentrationUnit === "mg/L")
-        rows.push("Titrant Molecular Weight")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Molecular Weight"))
     return rows
 }
 
@@ -128,20 +162,27 @@ function mkaDensityCondition(unitIndex, sampleAmount) {
 // s: resultUnits, sampleAmount, servingUnit, processControl, sampleID
 function mkaTitrationRows(s) {
     var unitIndex = mkaResultUnits.indexOf(s.resultUnits)
-    var rows = ["Titrant Name and Concentration", "Result Units"]
+    var rows = [QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Name and Concentration"),
+                QT_TRANSLATE_NOOP("TranslationListElements", "Result Units")]
     if (s.resultUnits === "mg/serving")
-        rows.push("Serving Size")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Serving Size"))
     if (["M", "mM", "oz/gal"].indexOf(s.resultUnits) < 0)
-        rows.push("Sample Mol. Wt.")
-    rows.push("Sample Amount")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Mol. Wt."))
+    rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Amount"))
     if (mkaDensityCondition(unitIndex, s.sampleAmount))
-        rows.push("Sample Density")
-    rows = rows.concat(["Total Solution Volume", "Max Total Titrant Volume", "Blank Conc. Required", "MKA Process Control"])
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Sample Density"))
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Total Solution Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Max Total Titrant Volume"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Blank Conc. Required"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "MKA Process Control")])
     if (s.processControl === "User Defined")
         rows = rows.concat(mkaProcessRows)
-    rows = rows.concat(["Precision Level", "Pre-stir Duration", "Stir Speed", "Sample ID"])
+    rows = rows.concat([QT_TRANSLATE_NOOP("TranslationListElements", "Precision Level"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Pre-stir Duration"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Stir Speed"),
+                        QT_TRANSLATE_NOOP("TranslationListElements", "Sample ID")])
     if (s.sampleID === "Auto-Incremental")
-        rows.push("Auto-Incremental Prefix")
+        rows.push(QT_TRANSLATE_NOOP("TranslationListElements", "Auto-Incremental Prefix"))
     return rows
 }
 
@@ -167,13 +208,13 @@ var massUnits = ["mg/100mL", "mg/L", "g/100mL", "g/L", "ppm", "ppb", "oz/gal", "
 // sampleAmountValue, sampleDensity; mka: no reaction ratio to check.
 function finishCheck(t, mka) {
     if (!mka && hasReactionRatio(resultUnits.indexOf(t.resultUnits)) && !(t.reactionRatio > 0))
-        return " Reaction Ratio value can't be blank!"
+        return QT_TRANSLATE_NOOP("TranslationListElements", " Reaction Ratio value can't be blank!")
     if (massUnits.indexOf(t.resultUnits) >= 0 && !(t.sampleMolecularWeight > 0))
-        return " Sample Weight value can't be blank!"
+        return QT_TRANSLATE_NOOP("TranslationListElements", " Sample Weight value can't be blank!")
     var variable = t.sampleAmount === "Variable Weight" || t.sampleAmount === "Variable Volume"
     if (!variable && !(t.sampleAmountValue > 0))
-        return " Sample Amount value can't be blank!"
+        return QT_TRANSLATE_NOOP("TranslationListElements", " Sample Amount value can't be blank!")
     if (isWeight(t.sampleAmount) && !(t.sampleDensity > 0))
-        return " Sample Density value can't be blank!"
+        return QT_TRANSLATE_NOOP("TranslationListElements", " Sample Density value can't be blank!")
     return ""
 }

@@ -157,11 +157,9 @@ void BuretteController::sizeHandshake()
         // comes back, never a stream of them.
         ++m_sizeTries;
         m_sizeWait = kQuietTicks;
-        const QString text = QStringLiteral("The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.")
-                                 .arg(configured)
-                                 .arg(kSizeTries);
-        qDebug().noquote() << "BuretteController:" << text;
-        emit buretteErrorOccured(text);
+        const char *noAnswer = QT_TR_NOOP("The slave does not answer: the burette size (%1 mL) could not be set after %2 tries.");
+        qDebug().noquote() << "BuretteController:" << QString::fromLatin1(noAnswer).arg(configured).arg(kSizeTries);
+        emit buretteErrorOccured(tr(noAnswer).arg(configured).arg(kSizeTries));
         return;
     }
     m_msp->setBuretteSize(configured);

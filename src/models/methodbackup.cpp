@@ -4,6 +4,7 @@
 #include "models/methodfilevalidator.h"
 #include "models/methodmodel.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -58,7 +59,7 @@ int MethodBackup::exportMethods(const QDir &dir, const QString &suffix)
         if (entry->id() == MethodModel::scratchMethodId)
             continue;
         if (m_writable && !m_writable()) {
-            m_messages << QStringLiteral("%1: the disk is no longer there").arg(entry->methodName());
+            m_messages << QCoreApplication::translate("MethodBackup", "%1: the disk is no longer there").arg(entry->methodName());
             failed = true;
             break;
         }
@@ -73,7 +74,7 @@ int MethodBackup::exportMethods(const QDir &dir, const QString &suffix)
         if (io.exportQueries(queries, tables, suffix)) {
             ++written;
         } else {
-            m_messages << QStringLiteral("%1: could not be written").arg(entry->methodName());
+            m_messages << QCoreApplication::translate("MethodBackup", "%1: could not be written").arg(entry->methodName());
             failed = true;
         }
     }
@@ -85,7 +86,7 @@ QStringList MethodBackup::jsonFiles(const QDir &dir)
     QStringList files = dir.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Readable, QDir::Name);
     qDebug() << "MethodBackup: files" << files.mid(0, maxFiles).join(QStringLiteral(", "));
     if (files.size() > maxFiles) {
-        m_messages << QStringLiteral("%1 files: only the first %2 are read").arg(files.size()).arg(maxFiles);
+        m_messages << QCoreApplication::translate("MethodBackup", "%1 files: only the first %2 are read").arg(files.size()).arg(maxFiles);
         files = files.mid(0, maxFiles);
     }
     return files;
@@ -152,7 +153,7 @@ int MethodBackup::restoreFolder(const QDir &dir)
         if (installed > before && installed - before == m_list->methodList().size())
             QFile::remove(path);
         else
-            m_messages << QStringLiteral("%1: kept for the next start").arg(file.left(40));
+            m_messages << QCoreApplication::translate("MethodBackup", "%1: kept for the next start").arg(file.left(40));
     }
     m_list->clearMethods();
     return installed;

@@ -1,0 +1,1 @@
+UPDATE setupTable SET isDataUpdated = 1, instrumentName = '@INSTRUMENT@', language = 'Deutsch';
