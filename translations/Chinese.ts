@@ -1893,6 +1893,83 @@ been saved as - </source>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>校准传感器</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>是否要校准
+传感器？</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>强烈建议校准传感器，以获得准确的读数。</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>是</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>否</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>传感器已校准</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>传感器已成功校准。</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>是否要标定滴定剂？</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>是</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>否</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>标定滴定剂</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>是否要
+标定滴定剂？</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>强烈建议标定滴定剂，以获得准确的读数。</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>是</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>否</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>手动输入</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ been saved as - </source>
         <message>
             <source>Standardize</source>
             <translation>标定</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>滴定剂已标定</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>滴定剂已成功标定。</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>继续</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ been saved as - </source>
         <message>
             <source>Start Titration</source>
             <translation>开始滴定</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>校准</translation>
         </message>
     </context>
     <context>

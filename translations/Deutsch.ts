@@ -1893,6 +1893,83 @@ gespeichert als - </translation>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>Sensor kalibrieren</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>Möchten Sie den Sensor
+kalibrieren?</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>Eine Kalibrierung des Sensors wird für eine genaue Messung dringend empfohlen.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Ja</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Nein</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>Sensor kalibriert</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>Der Sensor wurde erfolgreich kalibriert.</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>Möchten Sie das Titriermittel standardisieren?</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Ja</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Nein</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>Titriermittel standardisieren</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>Möchten Sie das Titriermittel
+standardisieren?</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>Eine Standardisierung des Titriermittels wird für eine genaue Messung dringend empfohlen.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Ja</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Nein</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>Manuell eingeben</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ gespeichert als - </translation>
         <message>
             <source>Standardize</source>
             <translation>Standardisieren</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>Titriermittel standardisiert</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>Das Titriermittel wurde erfolgreich standardisiert.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Weiter</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ gespeichert als - </translation>
         <message>
             <source>Start Titration</source>
             <translation>Titration starten</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>Kalibrieren</translation>
         </message>
     </context>
     <context>

@@ -1893,6 +1893,83 @@ been saved as - </translation>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>Calibrate Sensor</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>Would you like to calibrate
+the sensor?</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>Calibrating the sensor is strongly encouraged to provide an accurate reading.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Yes</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>Sensor Calibrated</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>The sensor has been successfully calibrated.</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>Would you like to standardize the titrant?</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Yes</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>Standardize the Titrant</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>Would you like to
+standardize the titrant?</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>Standardizing the titrant is strongly encouraged to provide an accurate reading.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Yes</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>Manually Enter</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ been saved as - </translation>
         <message>
             <source>Standardize</source>
             <translation>Standardize</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>Titrant Standardized</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>The titrant has been successfully standardized.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continue</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ been saved as - </translation>
         <message>
             <source>Start Titration</source>
             <translation>Start Titration</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>Calibrate</translation>
         </message>
     </context>
     <context>

@@ -1893,6 +1893,83 @@ been saved as - </source>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>Étalonner le capteur</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>Voulez-vous étalonner
+le capteur ?</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>Il est vivement conseillé d'étalonner le capteur pour obtenir une mesure exacte.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Oui</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Non</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>Capteur étalonné</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>Le capteur a été étalonné avec succès.</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>Voulez-vous standardiser le titrant ?</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Oui</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Non</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>Standardiser le titrant</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>Voulez-vous
+standardiser le titrant ?</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>Il est vivement conseillé de standardiser le titrant pour obtenir une mesure exacte.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Oui</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Non</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>Saisir manuellement</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ been saved as - </source>
         <message>
             <source>Standardize</source>
             <translation>Standardiser</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>Titrant standardisé</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>Le titrant a été standardisé avec succès.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continuer</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ been saved as - </source>
         <message>
             <source>Start Titration</source>
             <translation>Démarrer le titrage</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>Étalonner</translation>
         </message>
     </context>
     <context>

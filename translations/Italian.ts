@@ -1893,6 +1893,83 @@ salvato come - </translation>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>Calibra sensore</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>Vuoi calibrare
+il sensore?</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>Si consiglia vivamente di calibrare il sensore per ottenere una lettura accurata.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sì</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>Sensore calibrato</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>Il sensore è stato calibrato correttamente.</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>Vuoi standardizzare il titolante?</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sì</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>Standardizza il titolante</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>Vuoi standardizzare
+il titolante?</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>Si consiglia vivamente di standardizzare il titolante per ottenere una lettura accurata.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sì</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>Inserisci manualmente</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ salvato come - </translation>
         <message>
             <source>Standardize</source>
             <translation>Standardizza</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>Titolante standardizzato</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>Il titolante è stato standardizzato correttamente.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continua</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ salvato come - </translation>
         <message>
             <source>Start Titration</source>
             <translation>Avvia titolazione</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>Calibra</translation>
         </message>
     </context>
     <context>

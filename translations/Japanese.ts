@@ -1893,6 +1893,83 @@ been saved as - </source>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>センサーを校正</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>センサーを
+校正しますか？</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>正確な測定のため、センサーの校正を強くお勧めします。</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>はい</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>いいえ</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>センサーを校正しました</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>センサーの校正に成功しました。</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>滴定液を標定しますか？</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>はい</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>いいえ</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>滴定液を標定</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>滴定液を
+標定しますか？</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>正確な測定のため、滴定液の標定を強くお勧めします。</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>はい</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>いいえ</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>手入力</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ been saved as - </source>
         <message>
             <source>Standardize</source>
             <translation>標定</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>滴定液を標定しました</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>滴定液の標定に成功しました。</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>続行</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ been saved as - </source>
         <message>
             <source>Start Titration</source>
             <translation>滴定を開始</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>校正</translation>
         </message>
     </context>
     <context>

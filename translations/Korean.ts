@@ -1893,6 +1893,83 @@ been saved as - </source>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>센서 교정</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>센서를
+교정하시겠습니까?</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>정확한 측정을 위해 센서 교정을 적극 권장합니다.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>예</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>아니요</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>센서 교정됨</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>센서가 성공적으로 교정되었습니다.</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>적정액을 표정하시겠습니까?</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>예</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>아니요</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>적정액 표정</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>적정액을
+표정하시겠습니까?</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>정확한 측정을 위해 적정액 표정을 적극 권장합니다.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>예</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>아니요</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>직접 입력</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ been saved as - </source>
         <message>
             <source>Standardize</source>
             <translation>표정</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>적정액 표정됨</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>적정액이 성공적으로 표정되었습니다.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>계속</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ been saved as - </source>
         <message>
             <source>Start Titration</source>
             <translation>적정 시작</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>교정</translation>
         </message>
     </context>
     <context>

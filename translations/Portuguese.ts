@@ -1893,6 +1893,83 @@ guardado como - </translation>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>Calibrar sensor</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>Deseja calibrar
+o sensor?</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>Recomenda-se vivamente calibrar o sensor para obter uma leitura exata.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sim</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Não</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>Sensor calibrado</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>O sensor foi calibrado com sucesso.</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>Deseja padronizar o titulante?</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sim</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Não</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>Padronizar o titulante</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>Deseja padronizar
+o titulante?</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>Recomenda-se vivamente padronizar o titulante para obter uma leitura exata.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sim</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>Não</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>Introduzir manualmente</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ guardado como - </translation>
         <message>
             <source>Standardize</source>
             <translation>Padronizar</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>Titulante padronizado</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>O titulante foi padronizado com sucesso.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continuar</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ guardado como - </translation>
         <message>
             <source>Start Titration</source>
             <translation>Iniciar titulação</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>Calibrar</translation>
         </message>
     </context>
     <context>

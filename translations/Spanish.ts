@@ -1893,6 +1893,83 @@ guardado como - </translation>
         </message>
     </context>
     <context>
+        <name>Titration10</name>
+        <message>
+            <source>Calibrate Sensor</source>
+            <translation>Calibrar sensor</translation>
+        </message>
+        <message>
+            <source>Would you like to calibrate
+the sensor?</source>
+            <translation>¿Desea calibrar
+el sensor?</translation>
+        </message>
+        <message>
+            <source>Calibrating the sensor is strongly encouraged to provide an accurate reading.</source>
+            <translation>Se recomienda encarecidamente calibrar el sensor para obtener una lectura exacta.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sí</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration12</name>
+        <message>
+            <source>Sensor Calibrated</source>
+            <translation>Sensor calibrado</translation>
+        </message>
+        <message>
+            <source>The sensor has been successfully calibrated.</source>
+            <translation>El sensor se ha calibrado correctamente.</translation>
+        </message>
+        <message>
+            <source>Would you like to standardize the titrant?</source>
+            <translation>¿Desea estandarizar el titulante?</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sí</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration13</name>
+        <message>
+            <source>Standardize the Titrant</source>
+            <translation>Estandarizar el titulante</translation>
+        </message>
+        <message>
+            <source>Would you like to
+standardize the titrant?</source>
+            <translation>¿Desea estandarizar
+el titulante?</translation>
+        </message>
+        <message>
+            <source>Standardizing the titrant is strongly encouraged to provide an accurate reading.</source>
+            <translation>Se recomienda encarecidamente estandarizar el titulante para obtener una lectura exacta.</translation>
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sí</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+        <message>
+            <source>Manually Enter</source>
+            <translation>Introducir manualmente</translation>
+        </message>
+    </context>
+    <context>
         <name>Titration14</name>
         <message>
             <source>Standardize Titrant | Pre-Check</source>
@@ -1913,6 +1990,21 @@ guardado como - </translation>
         <message>
             <source>Standardize</source>
             <translation>Estandarizar</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration15</name>
+        <message>
+            <source>Titrant Standardized</source>
+            <translation>Titulante estandarizado</translation>
+        </message>
+        <message>
+            <source>The titrant has been successfully standardized.</source>
+            <translation>El titulante se ha estandarizado correctamente.</translation>
+        </message>
+        <message>
+            <source>Continue</source>
+            <translation>Continuar</translation>
         </message>
     </context>
     <context>
@@ -2048,6 +2140,10 @@ guardado como - </translation>
         <message>
             <source>Start Titration</source>
             <translation>Iniciar titulación</translation>
+        </message>
+        <message>
+            <source>Calibrate</source>
+            <translation>Calibrar</translation>
         </message>
     </context>
     <context>
