@@ -403,11 +403,7 @@ ApplicationWindow {
         if (!currentStack || !currentStack.currentItem)
             return
         var page = currentStack.currentItem
-        // The run screens cover every stack while they are on show (not
-        // while one fades out, already left).
-        if (fullscreenContainer.visible && fullscreenContainer.opacity > 0)
-            page = { objectName: "Cycle screen", hasInfo: true }
-        else if (page.objectName === "processStack")
+        if (page.objectName === "processStack")
             page = page.currentItem
         if (page && page.hasInfo)
             tips.presentTipsFor(page.objectName)
@@ -707,7 +703,6 @@ ApplicationWindow {
         onActiveChanged: {
             if (!active && mainWindow.currentEdit)
                 mainWindow.currentEdit.focus = false
-            tipsClickReceiver.enabled = !active
         }
         states: State {
             name: "visible"
@@ -724,6 +719,9 @@ ApplicationWindow {
     // ---- 10. tip hot spot ---------------------------------------------------
     MouseArea {
         id: tipsClickReceiver
+        // Off under the keyboard, and over the run screens (they carry their
+        // tip's mark in their header; the corner would take Complete's taps).
+        enabled: !inputPanel.active && !(fullscreenContainer.visible && fullscreenContainer.opacity > 0)
         width: 64
         height: 64
         anchors.right: parent.right

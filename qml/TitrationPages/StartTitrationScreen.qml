@@ -373,12 +373,29 @@ Rectangle {
             objectName: "runHeader"
             anchors.left: parent.left
             anchors.leftMargin: 16
-            anchors.right: closeButton.left
+            anchors.right: infoButton.left
             anchors.verticalCenter: parent.verticalCenter
             elide: Text.ElideRight
             color: Colors.whiteColor
             font.pixelSize: 17
             font.weight: Font.Medium
+        }
+        // The run screen's tip: its mark sits in the header, since the window's
+        // tip corner would lie over the Complete button.
+        Text {
+            id: infoButton
+            objectName: "runInfoButton"
+            anchors.right: closeButton.left
+            anchors.verticalCenter: parent.verticalCenter
+            width: 40
+            height: 40
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            font.family: Icons.fontFamily
+            font.pixelSize: 26
+            color: Colors.whiteColor
+            text: Icons.info
+            MouseArea { anchors.fill: parent; onClicked: tips.presentTipsFor("Cycle screen") }
         }
         Text {
             id: closeButton
