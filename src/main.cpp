@@ -182,7 +182,7 @@ int main(int argc, char *argv[])
         [dm] {
             ReportController::Instrument instrument;
             instrument.model = dm->titratorModelString();
-            instrument.serialNumber = dm->getMfgSerialNum();
+            instrument.serialNumber = ReportController::storedSerialNumber();
             instrument.dateFormat = dm->setupModel()->dateFormat_Index();
             instrument.timeFormat = dm->setupModel()->timeFormat_Index();
             return instrument;

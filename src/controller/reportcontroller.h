@@ -72,6 +72,8 @@ public:
     // disk, no printer, no move.
     void setStageOnly(bool stageOnly) { m_stageOnly = stageOnly; }
 
+    // The newest serial number stored in `systemInfo` ("" when none).
+    static QString storedSerialNumber();
     // The staging folder of a kind ("Titration Log"...), full path.
     static QString stagingFolder(const QString &reportFor);
     // The disk's folder of a kind ("/VantorPro/TitrationReport/").
