@@ -17,6 +17,7 @@ import "CustomComponent"
 import "LogPages"
 import "MeterPages"
 import "Popup"
+import "ReportPages"
 import "SettingsPages"
 import "Setup"
 import "TitrationPages"
@@ -592,6 +593,7 @@ ApplicationWindow {
         Item { id: popupContainer; anchors.fill: parent }
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
+        ExportSummaryScreen { id: exportSummaryScreen }
         Titration07 { id: titration07 }
         Titration08 { id: titration08 }
         Titration10 { id: titration10 }

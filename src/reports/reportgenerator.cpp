@@ -244,7 +244,7 @@ QString ReportGenerator::createCalMeasurePdf(const StoredReport &report) const
         if (!pdf.isOpen())
             return QString();
         pdf.title(isCalibration(report) ? QStringLiteral("Report: Calibration Results") : QStringLiteral("Report: Measurement Results"),
-                  16, 75);
+                  16, 75, 128);
         // Rows carry their own y; a row past the page's end goes to the top
         // of the next page, and the rows after it follow it there.
         double shift = 0;
