@@ -113,10 +113,11 @@ bool ReportController::handleScreenShotImage()
 QString ReportController::storedSerialNumber()
 {
     QSqlQuery query;
-    if (query.exec(QStringLiteral("SELECT mfgSerialNum FROM systemInfo ORDER BY datetime(timestamp) DESC"))) {
+    // Rows that never learnt the serial say "UNKNOWN" or nothing.
+    if (query.exec(QStringLiteral("SELECT mfgSerialNum FROM systemInfo ORDER BY datetime(timestamp) DESC, rowid DESC"))) {
         while (query.next()) {
             const QString serial = query.value(0).toString();
-            if (!serial.isEmpty())
+            if (!serial.isEmpty() && serial != QLatin1String("UNKNOWN"))
                 return serial;
         }
     }
