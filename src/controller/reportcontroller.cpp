@@ -279,6 +279,13 @@ void ReportController::finish(const QString &fileType, const QString &moveKind)
     qDebug() << "Report Created Time===================" << Clock::now().toString(Qt::ISODate);
     if (m_stageOnly)
         return;
+    if (m_outcome.recordsFound == 0) {
+        // "No Record Found" stays on show; what an earlier export left
+        // staged still goes to a disk that is there.
+        if (m_isCSV || fileType != QLatin1String("CSV"))
+            m_outcome.moved = moveReportsToUSB(moveKind);
+        return;
+    }
     if (fileType == QLatin1String("CSV") && !m_isCSV) {
         emit dismissPopup(QStringLiteral("printCompleted"));
         return;
