@@ -155,8 +155,11 @@ void ReportController::exportInput(const QJsonObject &params)
             from = today.addDays(-days).toString(Qt::ISODate);
             to = today.toString(Qt::ISODate);
         } else {
-            from = params.value(QLatin1String("fromDate")).toString(from);
-            to = params.value(QLatin1String("toDate")).toString(to);
+            // A date left empty keeps its end of the default range.
+            const QString given[2] = {params.value(QLatin1String("fromDate")).toString(),
+                                      params.value(QLatin1String("toDate")).toString()};
+            from = given[0].isEmpty() ? from : given[0];
+            to = given[1].isEmpty() ? to : given[1];
         }
     }
     const char *limitKeys[][2] = {{"titrationLimitMin", "titrationLimitMax"},
