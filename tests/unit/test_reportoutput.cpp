@@ -294,6 +294,7 @@ TEST_F(ReportExportTest, TheBatchTakesTheDateRangeAndSaysWhenNothingIsFound)
     QSignalSpy shown(controller.get(), &ReportController::showPopupMultiInput);
     const struct { const char *from; const char *to; const char *state; int found; } rows[] = {
         {"2026-11-25", "2026-11-25", "recordFound", 1}, {"2026-11-26", "2030-01-01", "noRecordFound", 0},
+        {"", "2026-11-25", "recordFound", 1}, {"2026-11-26", "", "noRecordFound", 0},
     };
     controller->setStageOnly(true);
     for (const auto &row : rows) {
