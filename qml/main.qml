@@ -17,6 +17,7 @@ import "CustomComponent"
 import "LogPages"
 import "MeterPages"
 import "Popup"
+import "ReportPages"
 import "SettingsPages"
 import "Setup"
 import "TitrationPages"
@@ -592,6 +593,7 @@ ApplicationWindow {
         Item { id: popupContainer; anchors.fill: parent }
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
+        ExportSummaryScreen { id: exportSummaryScreen }
         Titration07 { id: titration07 }
         Titration08 { id: titration08 }
         Titration10 { id: titration10 }
@@ -714,6 +716,16 @@ ApplicationWindow {
     // ---- 9. version page, busy popup, tips ---------------------------------
     VersionPopup { id: versionPopup }
     PopupWithBusyIndicator { id: busy_popup }
+    // The report flow's popups: records found, the outcome, "USB is not ready".
+    Connections {
+        target: reportController
+        function onShowPopupMultiInput(popupState, logCount, fileName) {
+            busy_popup.showPopupMultiInput(popupState, logCount, fileName)
+        }
+        function onDismissPopup(popupState) {
+            busy_popup.dismissPopup(popupState)
+        }
+    }
     Tips { id: tips }
 
     // ---- 10. tip hot spot ---------------------------------------------------
