@@ -500,6 +500,16 @@ ApplicationWindow {
         initialItem: log01
         onCurrentItemChanged: sideBar.resetBackButton()
         Log01 { id: log01; visible: false }
+        NoDataLogScreen { id: nodataLogScreen; visible: false }
+        TitrationLog { id: titrationLog; visible: false }
+        TitrantLog { id: titrantLog; visible: false }
+        CalibrationLog { id: calibrationLog; visible: false }
+        MeasureLog { id: measureLog; visible: false }
+        LogEntrySummary { id: logEntrySummary; visible: false }
+        ExportLogScreen { id: exportLogScreen; visible: false }
+        ExportLogScreen { id: printLogScreen; printLog: true; visible: false }
+        ExportSummaryScreen { id: exportSummaryScreen; visible: false }
+        ExportDateRange { id: exportDateRange; visible: false }
     }
     CustomStackView {
         id: methodStack
@@ -507,6 +517,7 @@ ApplicationWindow {
         onCurrentItemChanged: sideBar.resetBackButton()
         Titration21 { id: titration21; visible: false }
         MethodPrecheck { id: methodPrecheck; visible: false }
+        TempTableView { id: titration22; visible: false }
     }
     CustomStackView {
         id: buretteStack
@@ -599,6 +610,15 @@ ApplicationWindow {
         Titration13 { id: titration13 }
         Titration15 { id: titration15 }
         PasswordVerificationPopUp { id: passwordVerificationPopUp }
+        Titration28 { id: titration28 }
+        Titration26 { id: titration26 }
+        InstallMethodsPopUp { id: installMethodsPopUp }
+        InstallProgressPopUp { id: installProgressPopUp }
+        InstallationCompletePopUp { id: installationCompletePopUp }
+        SelectExportMethodsPopup { id: selectExportMethodsPopup }
+        ExportinProgressPopUp { id: exportinProgressPopUp }
+        ExportCompletePopUp { id: exportCompletePopUp }
+        DeleteLogConfirmPopup { id: deleteConfirmPopUp }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
         ManualSampleIdPopup { id: manualSampleIdPopup }
         VariableSampleAmountPopup { id: variableSampleAmountPopup }
