@@ -734,6 +734,16 @@ ApplicationWindow {
     // ---- 9. version page, busy popup, tips ---------------------------------
     VersionPopup { id: versionPopup }
     PopupWithBusyIndicator { id: busy_popup }
+    // The report flow's popups: records found, the outcome, "USB is not ready".
+    Connections {
+        target: reportController
+        function onShowPopupMultiInput(popupState, logCount, fileName) {
+            busy_popup.showPopupMultiInput(popupState, logCount, fileName)
+        }
+        function onDismissPopup(popupState) {
+            busy_popup.dismissPopup(popupState)
+        }
+    }
     Tips { id: tips }
 
     // ---- 10. tip hot spot ---------------------------------------------------

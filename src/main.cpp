@@ -177,7 +177,17 @@ int main(int argc, char *argv[])
     engine.rootContext()->setContextProperty(QStringLiteral("standardisationLogModel"), standardisationLogModel);
     engine.rootContext()->setContextProperty(QStringLiteral("titrationLogModel"), titrationLogModel);
     auto *ls = new LanguageSelector();
-    auto *reportController = new ReportController();
+    // Reports show the instrument as it is at each export.
+    auto *reportController = new ReportController(
+        [dm] {
+            ReportController::Instrument instrument;
+            instrument.model = dm->titratorModelString();
+            instrument.serialNumber = ReportController::storedSerialNumber();
+            instrument.dateFormat = dm->setupModel()->dateFormat_Index();
+            instrument.timeFormat = dm->setupModel()->timeFormat_Index();
+            return instrument;
+        },
+        rm->printer, rm->usbDisk);
     engine.rootContext()->setContextProperty(QStringLiteral("ls"), ls);
     engine.rootContext()->setContextProperty(QStringLiteral("reportController"), reportController);
     engine.rootContext()->setContextProperty(QStringLiteral("reportModel"), dm->reports()->model());

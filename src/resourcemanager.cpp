@@ -5,6 +5,7 @@
 #include "models/methodbackup.h"
 #include "models/methodmodel.h"
 #include "system/platform.h"
+#include "system/printer.h"
 #include "system/usb.h"
 #include "system/usbdir.h"
 #include "system/usbdisk.h"
@@ -25,8 +26,12 @@ ResourceManager::ResourceManager(QObject *parent)
     : QObject(parent)
     , usb(new USB(this))
     , usbDisk(new USBDisk(usb, this))
+    , printer(new Printer(QStringLiteral("/dev/ttyPOS"), this))
     , m_usbHost(new USBHost(usb, this))
 {
+    connect(usb, &USB::usbPOSPrinterAttached, printer, &Printer::printerAttached);
+    connect(usb, &USB::usbPOSPrinterDetached, printer, &Printer::printerDetached);
+    connect(printer, &Printer::readyChanged, this, &ResourceManager::printerIsReadyChanged);
     connect(usb, &USB::usbDiskDetached, usbDisk, &USBDisk::resetState);
     connect(usb, &USB::usbDiskDetached, this, &ResourceManager::usbIsReadyChanged);
     connect(usb, &USB::usbDiskAttached, usbDisk, &USBDisk::startDebounceTimer);
@@ -40,6 +45,11 @@ ResourceManager::ResourceManager(QObject *parent)
 bool ResourceManager::usbIsReady() const
 {
     return usb->isDiskPresent() && usbDisk->isChecked() && !usbDisk->hasError();
+}
+
+bool ResourceManager::printerIsReady() const
+{
+    return printer->isReady();
 }
 
 bool ResourceManager::usbNoError() const

@@ -5,6 +5,7 @@
 #include <QVariant>
 
 class MethodModel;
+class Printer;
 class USB;
 class USBDisk;
 class USBHost;
@@ -18,6 +19,8 @@ class ResourceManager : public QObject
     Q_OBJECT
     Q_PROPERTY(bool usbIsReady READ usbIsReady NOTIFY usbIsReadyChanged)
     Q_PROPERTY(bool usbNoError READ usbNoError NOTIFY usbIsReadyChanged)
+    // The receipt printer's port is open (the screens offer printing then).
+    Q_PROPERTY(bool printerIsReady READ printerIsReady NOTIFY printerIsReadyChanged)
     Q_PROPERTY(QString ipAddress READ ipAddress NOTIFY ipAddressChanged)
     Q_PROPERTY(QString versionStatusQml READ versionStatusQml WRITE setVersionStatusQml NOTIFY versionStatusQmlChanged)
     Q_PROPERTY(int versionProgressQml READ versionProgressQml NOTIFY versionProgressQmlChanged)
@@ -27,6 +30,7 @@ public:
 
     USB *usb;
     USBDisk *usbDisk;
+    Printer *printer;
 
     // The list that imports fill (the method list the screens show); not owned.
     void setMethodList(MethodModel *list) { m_methodList = list; }
@@ -34,6 +38,7 @@ public:
     // The stick is there, has passed its arrival test and shows no error.
     bool usbIsReady() const;
     bool usbNoError() const;
+    bool printerIsReady() const;
     QString ipAddress() const { return m_ipAddress; }
     QString versionStatusQml() const { return m_versionStatus; }
     void setVersionStatusQml(const QString &text);
@@ -72,6 +77,7 @@ public slots:
 
 signals:
     void usbIsReadyChanged();
+    void printerIsReadyChanged();
     void ipAddressChanged();
     void versionStatusQmlChanged();
     void versionProgressQmlChanged();

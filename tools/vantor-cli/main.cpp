@@ -5,16 +5,20 @@
 #include "meterrunner.h"
 #include "methodcommand.h"
 #include "remoteportcommand.h"
+#include "reportcommand.h"
 #include "titrateoptions.h"
 #include "titraterunner.h"
 #include "transfercommand.h"
 #include "uiscript.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextStream>
 
 #include <cstdio>
 #include <exception>
+#include <memory>
+#include <cstring>
 
 namespace {
 
@@ -39,17 +43,25 @@ QString mainUsage()
                           "  backup    copy the database file\n"
                           "  ui        run a UI driver script against the running application\n"
                           "  discover  list the instruments that answer on the network\n"
-                          "  remote    send commands to an instrument's remote port\n\n")
+                          "  remote    send commands to an instrument's remote port\n"
+                          "  report    export the stored reports of a log as PDF or CSV files\n\n")
            + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n")
            + TransferCommand::usage() + QStringLiteral("\n") + UiScript::usage() + QStringLiteral("\n")
-           + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage();
+           + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage() + QStringLiteral("\n")
+           + ReportCommand::usage();
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
+    // Reports are painted (fonts, images, PDF): that needs the GUI library,
+    // on its screenless platform unless another is asked for.
+    const bool paints = argc > 1 && std::strcmp(argv[1], "report") == 0;
+    if (paints && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    std::unique_ptr<QCoreApplication> application(paints ? new QGuiApplication(argc, argv) : new QCoreApplication(argc, argv));
+    QCoreApplication &app = *application;
     QCoreApplication::setApplicationName(QStringLiteral("vantor-cli"));
     qInstallMessageHandler(filterMessages);
     QTextStream out(stdout);
@@ -99,6 +111,13 @@ int main(int argc, char *argv[])
             return 0;
         }
         return discover ? DiscoverCommand::run(args, out, err) : RemotePortCommand::run(args, out, err);
+    }
+    if (command == QLatin1String("report")) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << ReportCommand::usage();
+            return 0;
+        }
+        return ReportCommand::run(args, out, err);
     }
     if (command == QLatin1String("ui")) {
         if (args.contains(QStringLiteral("--help"))) {
