@@ -735,13 +735,17 @@ ApplicationWindow {
     VersionPopup { id: versionPopup }
     PopupWithBusyIndicator { id: busy_popup }
     // The report flow's popups: records found, the outcome, "USB is not ready".
+    // During an export of steps its progress popup shows the work, and the
+    // page that started it tells the outcome once all steps have run.
     Connections {
         target: reportController
         function onShowPopupMultiInput(popupState, logCount, fileName) {
-            busy_popup.showPopupMultiInput(popupState, logCount, fileName)
+            if (!exportinProgressPopUp.visible)
+                busy_popup.showPopupMultiInput(popupState, logCount, fileName)
         }
         function onDismissPopup(popupState) {
-            busy_popup.dismissPopup(popupState)
+            if (!exportinProgressPopUp.visible)
+                busy_popup.dismissPopup(popupState)
         }
     }
     Tips { id: tips }

@@ -22,6 +22,8 @@ MainContentBackground {
     property string fromDate: ""
     property string toDate: ""
     property int records: 0
+    // The first failure the report output told during the steps.
+    property var failure: null
 
     function today() { return Qt.formatDate(new Date(), "yyyy-MM-dd") }
 
@@ -89,6 +91,7 @@ MainContentBackground {
         reportController.isCSV = !printLog && fileType.current === 0
         reportController.fileType = format.current === 0 ? "short" : "Long"
         records = 0
+        failure = null
         var requests = LogRows.requestsOf(config())
         var steps = requests.map(function (r) {
             return function () { return page.runRequest(r) }
@@ -103,12 +106,23 @@ MainContentBackground {
         return records > before
     }
 
+    // The outcome: a failure, no record, or the records found over the
+    // completion message.
     function finished() {
+        if (failure) {
+            busy_popup.showPopupMultiInput(failure[0], 0, failure[1])
+            return
+        }
         if (records === 0) {
             busy_popup.showPopupMultiInput("noRecordFound", 0, "")
             return
         }
-        mainWindow.showPopup(exportCompletePopUp)
+        if (printLog) {
+            exportImportErrorPopUp.changeText(14)
+            mainWindow.showPopup(exportImportErrorPopUp)
+        } else {
+            mainWindow.showPopup(exportCompletePopUp)
+        }
         busy_popup.showPopupMultiInput("recordFound", records, "")
     }
 
@@ -116,8 +130,12 @@ MainContentBackground {
         target: reportController
         ignoreUnknownSignals: true
         function onShowPopupMultiInput(popupState, logCount, fileName) {
-            if (page.visible && popupState === "recordFound")
+            if (!page.visible)
+                return
+            if (popupState === "recordFound")
                 page.records += logCount
+            else if (popupState === "usbNotReady" || popupState === "fileNotCreated")
+                page.failure = [popupState, fileName]
         }
     }
 

@@ -11,6 +11,8 @@ MainContentBackground {
     property string modeValue: ""
     property int entryId: 0
     property int records: 0
+    // The first failure the report output told during the steps.
+    property var failure: null
 
     function open(mode, id) {
         modeValue = mode
@@ -33,10 +35,15 @@ MainContentBackground {
         var kind = modeValue
         var type = csv ? "CSV" : (kind === "Direct Measure Log" ? "PDF" : "Report")
         records = 0
+        failure = null
         exportinProgressPopUp.start([function () {
             reportController.exportReportFromSummary(page.entryId, type, reportController.fileType, kind)
             return page.records > 0
         }], function (written) {
+            if (page.failure) {
+                busy_popup.showPopupMultiInput(page.failure[0], 0, page.failure[1])
+                return
+            }
             if (written === 0) {
                 busy_popup.showPopupMultiInput("noRecordFound", 0, "")
                 return
@@ -49,8 +56,12 @@ MainContentBackground {
         target: reportController
         ignoreUnknownSignals: true
         function onShowPopupMultiInput(popupState, logCount, fileName) {
-            if (page.visible && popupState === "recordFound")
+            if (!page.visible)
+                return
+            if (popupState === "recordFound")
                 page.records += logCount
+            else if (popupState === "usbNotReady" || popupState === "fileNotCreated")
+                page.failure = [popupState, fileName]
         }
     }
 

@@ -33,7 +33,8 @@ MainContentBackground {
     Flickable {
         id: flick
         x: 20
-        y: 10
+        anchors.top: parent.top
+        anchors.topMargin: 10
         width: parent.width - 40 - (scroller.needed ? 52 : 0)
         anchors.bottom: done.top
         anchors.bottomMargin: 8
