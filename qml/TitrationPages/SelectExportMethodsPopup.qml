@@ -4,6 +4,7 @@ import "../Buttons"
 import "../Popup"
 import "../Constants/Colors.js" as Colors
 import "MethodList.js" as MethodList
+import "MethodReport.js" as MethodReport
 
 // The stored methods with check boxes: the reports of those checked go to
 // the USB disk ("Export Selected", beside the method files the export has
@@ -27,13 +28,45 @@ PopupBackground {
         mainWindow.showPopup(popup)
     }
 
-    // One method's report to the disk or the printer; false when it was not made.
+    // The first failure the report output told while the reports were made.
+    property var failure: null
+
+    // One method's report to the disk or the printer; false when the method
+    // is not stored.
     function sendReport(id) {
-        if (typeof reportController.methodTextReport !== "function") {
-            console.log("Method report not available for method", id)
+        var parts = dm.library.partsOf(id)
+        if (!parts.method)
             return false
+        var m = parts.method
+        var type = parts.electrode.electrodeType
+        var display = parts.titration.displayUnits
+        var custom = {
+            methodEdited: displayValues.formattedDateTime(m.mupdatedAt),
+            calibrationDate: m.lastCalibration || "",
+            standardizeDate: m.lastStandardization || "",
+            titrantDate: displayValues.formattedDateTime(parts.titrant.mupdatedAt),
+            blankRequiredValue: parts.titration.blankRequired === "No" ? "" : String(parts.titration.blankRequiredValue),
+            blank_Unit: parts.titration.blankRequired === "No" ? "" : "mmol"
         }
-        return false
+        reportController.methodTextReport(id,
+                                          JSON.stringify(MethodReport.withUnits(parts.electrode, type, display)),
+                                          JSON.stringify(MethodReport.withUnits(parts.titrant, type, display)),
+                                          JSON.stringify(MethodReport.withUnits(parts.titration, type, display)),
+                                          JSON.stringify({ instrumentName: setup.instrumentName }),
+                                          JSON.stringify(custom),
+                                          JSON.stringify(MethodReport.rows(function (t) { return qsTr(t) })),
+                                          m.mupdatedAt, m.methodName)
+        return failure === null
+    }
+
+    Connections {
+        target: reportController
+        ignoreUnknownSignals: true
+        function onShowPopupMultiInput(popupState, logCount, fileName) {
+            if (exportinProgressPopUp.visible && popup.failure === null
+                    && (popupState === "usbNotReady" || popupState === "fileNotCreated"))
+                popup.failure = [popupState, fileName]
+        }
     }
 
     function createArr() {
@@ -47,11 +80,14 @@ PopupBackground {
             return
         }
         mainWindow.hidePopup()
+        failure = null
         var steps = ids.map(function (id) {
             return function () { return popup.sendReport(id) }
         })
         exportinProgressPopUp.start(steps, function (written) {
-            if (mode === "print") {
+            if (popup.failure) {
+                busy_popup.showPopupMultiInput(popup.failure[0], 0, popup.failure[1])
+            } else if (mode === "print") {
                 exportImportErrorPopUp.changeText(18)
                 mainWindow.showPopup(exportImportErrorPopUp)
             } else {
