@@ -245,7 +245,7 @@ MainContentBackground {
     PopupButton {
         objectName: "startExport"
         anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.rightMargin: 80
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 12
         text: (page.printLog ? qsTr("Print") : qsTr("Export")) + ls.translatedText

@@ -88,7 +88,7 @@ MainContentBackground {
     PopupButton {
         objectName: "startSummaryExport"
         anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.rightMargin: 80
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 12
         text: qsTr("Export") + ls.translatedText

@@ -19,7 +19,12 @@ MainContentBackground {
     property string modeValue: ""
     property int entryId: 0
 
+    // The tip of the page on show follows the kind of entry.
+    readonly property var tipKeys: ({ "Titration Log": "Titration Summary", "Titrant Log": "Standardization Summary",
+                                      "Calibration Log": "Calibration Summary", "Direct Measure Log": "Direct Measure Log Summary" })
+
     function show(title, values, heading, rows, mode, id) {
+        objectName = tipKeys[mode] || "Log Summary"
         header3Text = title
         pairs = values
         cycleHeading = heading
@@ -98,7 +103,7 @@ MainContentBackground {
     Row {
         id: done
         anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.rightMargin: 80
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 12
         spacing: 14

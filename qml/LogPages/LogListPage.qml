@@ -119,7 +119,7 @@ MainContentBackground {
     Row {
         id: tools
         anchors.right: parent.right
-        anchors.rightMargin: 20
+        anchors.rightMargin: 80
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 12
         spacing: 14

@@ -5,7 +5,7 @@ import "../Constants/Temperature.js" as Temperature
 // The measurement log: read mode and sensor; a tap shows the reading as
 // stored (DirectMeasureDetailLog).
 LogListPage {
-    objectName: "Measurement Log"
+    objectName: "Direct Measure Log"
     header3Text: qsTr("Measurement Log") + ls.translatedText
     logIndex: 4
     entries: dm.measures
