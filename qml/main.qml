@@ -440,7 +440,11 @@ ApplicationWindow {
     Timer {
         id: usbTime
         interval: 1000
-        onTriggered: console.log("USB disk ready; method import offered:", rm.methodImport())
+        // A disk with methods on it offers to install them.
+        onTriggered: {
+            if (rm.methodImport() && method.importedMethodCount > 0)
+                mainWindow.showPopup(usbDetectionPopUp)
+        }
     }
     Timer {
         id: screenshotconfirmation
@@ -613,6 +617,7 @@ ApplicationWindow {
         Titration28 { id: titration28 }
         Titration26 { id: titration26 }
         InstallMethodsPopUp { id: installMethodsPopUp }
+        USBDetectionPopUp { id: usbDetectionPopUp }
         InstallProgressPopUp { id: installProgressPopUp }
         InstallationCompletePopUp { id: installationCompletePopUp }
         SelectExportMethodsPopup { id: selectExportMethodsPopup }

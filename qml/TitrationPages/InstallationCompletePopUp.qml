@@ -9,7 +9,10 @@ MessagePopup {
     secondButtonText: qsTr("Return to Home") + ls.translatedText
     onFirstClicked: {
         mainWindow.hidePopup()
-        titration21.populateModel()
+        if (mainWindow.currentStack === methodStack)
+            titration21.populateModel()
+        else
+            sideBar.switchToMethods(false)
     }
     onSecondClicked: {
         mainWindow.hidePopup()
