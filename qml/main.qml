@@ -17,6 +17,7 @@ import "CustomComponent"
 import "LogPages"
 import "MeterPages"
 import "Popup"
+import "ReportPages"
 import "SettingsPages"
 import "Setup"
 import "TitrationPages"
@@ -512,7 +513,6 @@ ApplicationWindow {
         LogEntrySummary { id: logEntrySummary; visible: false }
         ExportLogScreen { id: exportLogScreen; visible: false }
         ExportLogScreen { id: printLogScreen; printLog: true; visible: false }
-        ExportSummaryScreen { id: exportSummaryScreen; visible: false }
         ExportDateRange { id: exportDateRange; visible: false }
     }
     CustomStackView {
@@ -607,6 +607,7 @@ ApplicationWindow {
         Item { id: popupContainer; anchors.fill: parent }
 
         ExportImportErrorPopUp { id: exportImportErrorPopUp }
+        ExportSummaryScreen { id: exportSummaryScreen }
         Titration07 { id: titration07 }
         Titration08 { id: titration08 }
         Titration10 { id: titration10 }

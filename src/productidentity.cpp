@@ -87,6 +87,10 @@ void ProductIdentity::setMfgSerialNum(const QString &serial)
     if (m_serial == serial)
         return;
     m_serial = serial;
+    // Kept with the versions, so that reports written without the slave
+    // (vantor-cli) are named by the same serial.
+    if (!serial.isEmpty())
+        m_sysInfo->setMfgSerialNum(serial);
     emit serialChanged();
 }
 

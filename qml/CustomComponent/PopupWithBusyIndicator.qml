@@ -91,6 +91,7 @@ Rectangle {
         State { name: "fileCreated"; PropertyChanges { target: busy; header: qsTr("Report Creation") + ls.translatedText } },
         State { name: "fileNotCreated"; PropertyChanges { target: busy; header: qsTr("Report Creation") + ls.translatedText } },
         State { name: "reportsMoved"; PropertyChanges { target: busy; header: qsTr("Report Moved") + ls.translatedText } },
+        State { name: "printerNotReady"; PropertyChanges { target: busy; header: qsTr("Error") + ls.translatedText; message: qsTr("Printer not connected") + ls.translatedText } },
         State { name: "usbNotReady"; PropertyChanges { target: busy; header: qsTr("Error") + ls.translatedText; message: qsTr("USB is not ready") + ls.translatedText } },
         State { name: "methodFull"; PropertyChanges { target: busy; header: qsTr("Error") + ls.translatedText; message: qsTr("Method log is full, new method cannot be saved.") + ls.translatedText; buttonText: qsTr("Continue") + ls.translatedText } },
         State { name: "copyMethodError"; PropertyChanges { target: busy; header: qsTr("Error") + ls.translatedText; message: qsTr("Method log is full, new method cannot be saved.") + ls.translatedText } },

@@ -31,6 +31,6 @@ LogListPage {
             [qsTr("Date/Time"), displayValues.formattedDateTime(e.createdAt)],
             [qsTr("Avg Slope (%)"), isNaN(avg) ? "" : avg.toFixed(1)]
         ], [qsTr("Point"), qsTr("Buffer"), qsTr("mV"), qsTr("Slope (%)"), qsTr("Temp")], rows,
-        "Calibration Log", e.calId)
+        2, e.calId)
     }
 }

@@ -6,7 +6,7 @@ import "../Constants/Colors.js" as Colors
 
 // One log entry's summary with the figures as they were stored: the method
 // and setup of the run (or the calibration, the reading) and its cycles.
-// Export opens the entry's export page; Done goes back to the log.
+// Print and Export offer the entry's report; Done goes back to the log.
 MainContentBackground {
     id: page
     objectName: "Log Summary"
@@ -15,21 +15,22 @@ MainContentBackground {
     property var pairs: []
     property var cycleHeading: []
     property var cycleRows: []
-    // What the export page of this entry exports.
-    property string modeValue: ""
+    // The kind of entry (0 titration, 1 standardisation, 2 calibration,
+    // 3 measurement) and the id its report row is stored under.
+    property int kind: 0
     property int entryId: 0
 
     // The tip of the page on show follows the kind of entry.
-    readonly property var tipKeys: ({ "Titration Log": "Titration Summary", "Titrant Log": "Standardization Summary",
-                                      "Calibration Log": "Calibration Summary", "Direct Measure Log": "Direct Measure Log Summary" })
+    readonly property var tipKeys: ["Titration Summary", "Standardization Summary", "Calibration Summary",
+                                    "Direct Measure Log Summary"]
 
-    function show(title, values, heading, rows, mode, id) {
-        objectName = tipKeys[mode] || "Log Summary"
+    function show(title, values, heading, rows, entryKind, id) {
+        objectName = tipKeys[entryKind] || "Log Summary"
         header3Text = title
         pairs = values
         cycleHeading = heading
         cycleRows = rows
-        modeValue = mode
+        kind = entryKind
         entryId = id
         flick.contentY = 0
         logStack.push(page)
@@ -108,11 +109,14 @@ MainContentBackground {
         anchors.bottomMargin: 12
         spacing: 14
         PopupAlternateButton {
+            objectName: "summaryPrint"
+            text: qsTr("Print") + ls.translatedText
+            onClicked: exportSummaryScreen.loadModelData(page.kind, page.entryId, true)
+        }
+        PopupAlternateButton {
             objectName: "summaryExport"
             text: qsTr("Export") + ls.translatedText
-            onClicked: {
-                exportSummaryScreen.open(page.modeValue, page.entryId)
-            }
+            onClicked: exportSummaryScreen.loadModelData(page.kind, page.entryId, false)
         }
         PopupButton {
             objectName: "summaryDone"

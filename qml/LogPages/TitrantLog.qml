@@ -37,6 +37,6 @@ LogListPage {
             [qsTr("Avg Conc.") + " (" + unit + ")", String(e.AvgConc).split("|")[0]],
             [qsTr("RSD"), String(e.RSD).split("|")[0]]
         ], [qsTr("Cycle"), qsTr("Conc. (") + unit + ")", qsTr("Volume (mL)"), qsTr("In Avg")], rows,
-        "Titrant Log", e.runValues.id)
+        1, e.id)
     }
 }

@@ -48,6 +48,6 @@ LogListPage {
             [qsTr("Avg Conc.") + " (" + unit + ")", averageOf(e)],
             [qsTr("RSD"), String(e.rsd).split("|").join(" ")]
         ], [qsTr("Cycle"), qsTr("Conc. (") + unit + ")", qsTr("Volume (mL)"), qsTr("In Avg")], rows,
-        "Titration Log", e.runValues.id)
+        0, e.id)
     }
 }

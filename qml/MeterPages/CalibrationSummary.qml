@@ -193,9 +193,14 @@ MainContentBackground {
         y: 300
         spacing: 16
         PopupAlternateButton {
+            objectName: "summaryPrintButton"
             text: qsTr("Print") + ls.translatedText
-            onClicked: mainWindow.showMessage(qsTr("Report") + ls.translatedText,
-                                              qsTr("Calibration reports are not available yet; the calibration is stored in the log.") + ls.translatedText)
+            onClicked: exportSummaryScreen.loadModelData(2, page.cid, true)
+        }
+        PopupAlternateButton {
+            objectName: "summaryExportButton"
+            text: qsTr("Export") + ls.translatedText
+            onClicked: exportSummaryScreen.loadModelData(2, page.cid, false)
         }
         PopupButton {
             objectName: "summaryDone"

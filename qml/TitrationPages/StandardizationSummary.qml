@@ -98,4 +98,20 @@ MainContentBackground {
         text: qsTr("Next") + ls.translatedText
         onClicked: page.next()
     }
+    Row {
+        anchors.left: nextButton.right
+        anchors.leftMargin: 12
+        anchors.bottom: nextButton.bottom
+        spacing: 12
+        PopupAlternateButton {
+            objectName: "summaryPrintButton"
+            text: qsTr("Print") + ls.translatedText
+            onClicked: exportSummaryScreen.loadModelData(1, standardisationLogModel.id, true)
+        }
+        PopupAlternateButton {
+            objectName: "summaryExportButton"
+            text: qsTr("Export") + ls.translatedText
+            onClicked: exportSummaryScreen.loadModelData(1, standardisationLogModel.id, false)
+        }
+    }
 }

@@ -138,5 +138,15 @@ MainContentBackground {
             text: (page.blankMode ? qsTr("Next") : page.isMka ? qsTr("Repeat MKA") : qsTr("Repeat Titration")) + ls.translatedText
             onClicked: page.repeatButtonAction()
         }
+        PopupAlternateButton {
+            objectName: "summaryPrintButton"
+            text: qsTr("Print") + ls.translatedText
+            onClicked: exportSummaryScreen.loadModelData(0, titrationLogModel.id, true)
+        }
+        PopupAlternateButton {
+            objectName: "summaryExportButton"
+            text: qsTr("Export") + ls.translatedText
+            onClicked: exportSummaryScreen.loadModelData(0, titrationLogModel.id, false)
+        }
     }
 }

@@ -1,6 +1,7 @@
 #include "controller/reportcontroller.h"
 
 #include "meter/cmeasurementise.h"
+#include "reports/methodreport.h"
 #include "reports/reportfiles.h"
 #include "reports/reportgenerator.h"
 #include "system/clock.h"
@@ -113,10 +114,11 @@ bool ReportController::handleScreenShotImage()
 QString ReportController::storedSerialNumber()
 {
     QSqlQuery query;
-    if (query.exec(QStringLiteral("SELECT mfgSerialNum FROM systemInfo ORDER BY datetime(timestamp) DESC"))) {
+    // Rows that never learnt the serial say "UNKNOWN" or nothing.
+    if (query.exec(QStringLiteral("SELECT mfgSerialNum FROM systemInfo ORDER BY datetime(timestamp) DESC, rowid DESC"))) {
         while (query.next()) {
             const QString serial = query.value(0).toString();
-            if (!serial.isEmpty())
+            if (!serial.isEmpty() && serial != QLatin1String("UNKNOWN"))
                 return serial;
         }
     }
@@ -278,8 +280,18 @@ void ReportController::finish(const QString &fileType, const QString &moveKind)
     qDebug() << "Report Created Time===================" << Clock::now().toString(Qt::ISODate);
     if (m_stageOnly)
         return;
+    if (m_outcome.recordsFound == 0) {
+        // "No Record Found" stays on show; what an earlier export left
+        // staged still goes to a disk that is there.
+        if (m_isCSV || fileType != QLatin1String("CSV"))
+            m_outcome.moved = moveReportsToUSB(moveKind);
+        return;
+    }
     if (fileType == QLatin1String("CSV") && !m_isCSV) {
-        emit dismissPopup(QStringLiteral("printCompleted"));
+        if (m_outcome.printed && m_outcome.error.isEmpty())
+            emit dismissPopup(QStringLiteral("printCompleted"));
+        else
+            emit showPopupMultiInput(QStringLiteral("printerNotReady"), 0, QString());
         return;
     }
     m_outcome.moved = moveReportsToUSB(moveKind);
@@ -327,56 +339,55 @@ void ReportController::methodTextReport(int id, const QString &electrodeObj, con
                                         const QString &reportValueObject, const QDateTime &mUpdatedAt,
                                         const QString &methodName)
 {
-    Q_UNUSED(mUpdatedAt)
     setDateAndTimeFormat();
     const Instrument instrument = m_instrument ? m_instrument() : Instrument();
     auto object = [](const QString &text) { return QJsonDocument::fromJson(text.toUtf8()).object(); };
-    const QJsonObject sources[7] = {QJsonObject(), object(electrodeObj), object(titrantObj), object(titrationObj),
-                                    QJsonObject(), object(setupObj), object(custumObject)};
-    const QJsonObject rows = object(reportValueObject);
-    QString text = QStringLiteral("      Method Report\n");
+    const MethodReport::Parts parts{object(electrodeObj), object(titrantObj), object(titrationObj), object(setupObj),
+                                    object(custumObject)};
     const QDateTime now = Clock::now();
-    for (int key = 1; key < 104; ++key) {
-        const QJsonObject row = rows.value(QString::number(key)).toObject();
-        const QString heading = row.value(QLatin1String("heading")).toString();
-        if (heading.isEmpty())
-            continue;
-        const int index = row.value(QLatin1String("index")).toInt();
-        const QJsonObject source = index >= 0 && index < 7 ? sources[index] : QJsonObject();
-        QString value;
-        if (heading == QLatin1String("Titrator Model"))
-            value = instrument.model.mid(11);
-        else if (heading == QLatin1String("Serial Number"))
-            value = instrument.serialNumber;
-        else if (heading == QLatin1String("Software Rev."))
-            value = returnBuildNumber();
-        else if (heading == QLatin1String("Report Date"))
-            value = getFormattedDateString(now);
-        else if (heading == QLatin1String("Report Time"))
-            value = getFormattedTimeString(now);
-        else if (heading == QLatin1String("Method Name"))
-            value = methodName;
-        else {
-            const QJsonValue v = source.value(row.value(QLatin1String("value")).toString());
-            if (v.isDouble()) {
-                const int digit = row.value(QLatin1String("digit")).toInt(-1);
-                value = index == 1 || digit < 0 ? QString::number(v.toDouble(), 'g', 6)
-                      : digit == 4              ? getSigFigs(v.toDouble(), 4)
-                                                : QString::number(v.toDouble(), 'f', digit == 7 ? 2 : digit);
-            } else {
-                value = v.toVariant().toString();
-            }
-            const QString unit = source.value(row.value(QLatin1String("unitValue")).toString()).toVariant().toString();
-            if (!unit.isEmpty())
-                value += QLatin1Char(' ') + unit;
-        }
-        if (value.isEmpty())
-            continue;
-        text += returnTextSpace(heading, 15) + QStringLiteral(" : ") + value + QLatin1Char('\n');
+    QHash<QString, QString> filled{{"Titrator Model", instrument.model.mid(11)},
+                                   {"Software Rev.", returnBuildNumber()},
+                                   {"Report Date", getFormattedDateString(now)},
+                                   {"Report Time", getFormattedTimeString(now)},
+                                   {"Method Name", methodName}};
+    const QString setupSerial = parts.setup.value(QLatin1String("mfgSerialNo")).toString();
+    filled.insert(QStringLiteral("Serial Number"), setupSerial.isEmpty() ? instrument.serialNumber : setupSerial);
+    if (mUpdatedAt.isValid())
+        filled.insert(QStringLiteral("Method Edited"), getPDFformattedDateTimeString(mUpdatedAt));
+    // The newest pH calibration, for a pH electrode's rows.
+    QSqlQuery cal;
+    if (cal.exec(QStringLiteral("SELECT id, mcreatedAt, avgSlope FROM calibrationTable WHERE electrodeType='pH' "
+                                "ORDER BY datetime(mcreatedAt) DESC, id DESC LIMIT 1"))
+        && cal.next()) {
+        const QDateTime at = cal.value(1).toDateTime();
+        filled.insert(QStringLiteral("Calibrate Log #"), cal.value(0).toString());
+        filled.insert(QStringLiteral("Calibrate Date"), getFormattedDateString(at));
+        filled.insert(QStringLiteral("Calibrate Time"), getFormattedTimeString(at));
+        filled.insert(QStringLiteral("Slope Value"), QString::number(cal.value(2).toDouble(), 'f', 1) + QStringLiteral(" %"));
+        QSqlQuery offset;
+        offset.prepare(QStringLiteral("SELECT avg(offset) FROM calibrationCycleTable WHERE calibrationID = :id"));
+        offset.bindValue(QStringLiteral(":id"), cal.value(0).toString());
+        if (offset.exec() && offset.next())
+            filled.insert(QStringLiteral("Offset Value"), QString::number(offset.value(0).toDouble(), 'f', 1) + QStringLiteral(" mV"));
     }
+    QSqlQuery stand;
+    stand.prepare(QStringLiteral("SELECT lastStandardization FROM methodSetupTable WHERE id = :id"));
+    stand.bindValue(QStringLiteral(":id"), id);
+    if (stand.exec() && stand.next()) {
+        const QDateTime at = stand.value(0).toDateTime();
+        if (at.isValid()) {
+            filled.insert(QStringLiteral("StandardizeDate"), getFormattedDateString(at));
+            filled.insert(QStringLiteral("StandardizeTime"), getFormattedTimeString(at));
+        }
+    }
+    const QString text = MethodReport::text(object(reportValueObject), parts, filled,
+                                            [this](double v, int digits) { return getSigFigs(v, digits); });
     if (!m_isCSV) {
-        if (m_printer)
-            m_printer->printReport(text);
+        const bool printed = m_printer && m_printer->printReport(text);
+        if (printed)
+            emit dismissPopup(QStringLiteral("printCompleted"));
+        else
+            emit showPopupMultiInput(QStringLiteral("printerNotReady"), 0, QString());
         return;
     }
     USBDir dir(QStringLiteral("/VantorPro/MethodReport/"), m_disk);
@@ -385,9 +396,7 @@ void ReportController::methodTextReport(int id, const QString &electrodeObj, con
         emit showPopupMultiInput(QStringLiteral("usbNotReady"), 0, QString());
         return;
     }
-    QString safeName = methodName;
-    safeName.remove(QRegularExpression(QStringLiteral("[^A-Za-z0-9 ._\\-]")));
-    const QString name = ReportFiles::runName(instrument.serialNumber, now, id, QLatin1Char('_') + safeName + QStringLiteral("_method.csv"));
+    const QString name = ReportFiles::methodFileName(instrument.serialNumber, now, methodName);
     if (ReportFiles::writeFile(dir.absoluteFilePath(name), text.toUtf8()))
         emit dismissPopup(QStringLiteral("exportCompleted"));
     else

@@ -72,7 +72,7 @@ public:
     // disk, no printer, no move.
     void setStageOnly(bool stageOnly) { m_stageOnly = stageOnly; }
 
-    // The newest serial number stored in `systemInfo` ("" when none).
+    // The newest serial number stored in `systemInfo` ("" when none is known).
     static QString storedSerialNumber();
     // The staging folder of a kind ("Titration Log"...), full path.
     static QString stagingFolder(const QString &reportFor);

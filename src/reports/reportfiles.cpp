@@ -67,13 +67,26 @@ QString ReportFiles::stagingFolder(const QString &kind)
     return folder.isEmpty() ? QString() : Platform::path(QStringLiteral("/var/Kestrum/VantorPro/") + folder);
 }
 
+namespace {
+QString kept(const QString &text, const char *allowed)
+{
+    QString safe = text;
+    safe.remove(QRegularExpression(QLatin1String(allowed)));
+    while (safe.startsWith(QLatin1Char('.')))
+        safe.remove(0, 1);
+    return safe;
+}
+} // namespace
+
+QString ReportFiles::methodFileName(const QString &serial, const QDateTime &time, const QString &methodName)
+{
+    return kept(serial, "[^A-Za-z0-9.\\-]") + QLatin1Char('_') + stamp(time) + QLatin1Char('_')
+        + kept(methodName, "[^A-Za-z0-9 ._\\-]") + QStringLiteral("_method.csv");
+}
+
 QString ReportFiles::runName(const QString &serial, const QDateTime &timeStamp, int logId, const QString &suffix)
 {
-    QString safe = serial;
-    safe.remove(QRegularExpression(QStringLiteral("[^A-Za-z0-9.\\-]")));
-    if (safe.startsWith(QLatin1Char('.')))
-        safe.remove(0, 1);
-    return safe + QLatin1Char('_') + stamp(timeStamp) + QLatin1Char('_') + number(logId) + suffix;
+    return kept(serial, "[^A-Za-z0-9.\\-]") + QLatin1Char('_') + stamp(timeStamp) + QLatin1Char('_') + number(logId) + suffix;
 }
 
 QString ReportFiles::meterName(const QDateTime &timeStamp, int logId, const QString &suffix)

@@ -23,6 +23,9 @@ QString stagingFolder(const QString &kind);
 // digits, "-" and "." so that it never names another folder.
 QString runName(const QString &serial, const QDateTime &timeStamp, int logId, const QString &suffix);
 QString meterName(const QDateTime &timeStamp, int logId, const QString &suffix);
+// "serial_yyyyMMdd_HHmm_NAME_method.csv", the name kept to letters, digits,
+// blanks, ".", "_" and "-".
+QString methodFileName(const QString &serial, const QDateTime &time, const QString &methodName);
 
 // One cell of a CSV line: a text a spreadsheet would run as a formula
 // (beginning with "=", "+", "-" or "@" and not a number) gets a leading

@@ -132,6 +132,19 @@ QString ReportGenerator::createTitrationPdf(const StoredReport &report) const
             const QJsonArray rows = run.cycles.at(c);
             if (pdf.y() > ReportPdf::pageBottom && rows.size() == 7)
                 pdf.breakPage();
+            // The chart stands beside its rows: at the block's top less 10
+            // once the block is taller than 124, at the top of a new page
+            // when the rows break first, else where the block ends up.
+            const QImage chart = !mka && c < 5 ? QImage::fromData(report.images[c], "PNG") : QImage();
+            bool placed = chart.isNull();
+            double chartBottom = 0;
+            int chartPage = 0;
+            auto place = [&](double y) {
+                pdf.image(QRectF(450, y, 170, 150), chart);
+                placed = true;
+                chartBottom = y + 150;
+                chartPage = pdf.pages();
+            };
             double top = pdf.y();
             for (const QJsonValue &v : rows) {
                 const Row row = rowOf(v);
@@ -140,13 +153,17 @@ QString ReportGenerator::createTitrationPdf(const StoredReport &report) const
                 const bool fullRule = mka || row.longHeading.endsWith(QLatin1String("Duration (Minutes)"));
                 if (pdf.row(row.longHeading, row.value, fullRule ? ReportPdf::ruleRight : 440)) {
                     top = ReportPdf::sectionTop;
+                    if (!placed)
+                        place(ReportPdf::sectionTop);
+                } else if (!placed && pdf.y() - top > 124) {
+                    place(top - 10);
                 }
             }
-            const QImage chart = !mka && c < 5 ? QImage::fromData(report.images[c], "PNG") : QImage();
-            if (!chart.isNull()) {
-                pdf.image(QRectF(450, top + 2, 170, 150), chart);
-                pdf.setY(qMax(pdf.y(), top + 152));
-            }
+            if (!placed)
+                place(rows.size() == 7 ? top : (top + (top + pdf.y()) / 2) / 2);
+            // What follows starts below the chart.
+            if (chartPage == pdf.pages() && chartBottom > pdf.y())
+                pdf.setY(chartBottom + 2);
         }
         pdf.band(QStringLiteral("Result Summary"));
         for (const QJsonValue &v : run.summary) {
@@ -244,7 +261,7 @@ QString ReportGenerator::createCalMeasurePdf(const StoredReport &report) const
         if (!pdf.isOpen())
             return QString();
         pdf.title(isCalibration(report) ? QStringLiteral("Report: Calibration Results") : QStringLiteral("Report: Measurement Results"),
-                  16, 75);
+                  16, 75, 128);
         // Rows carry their own y; a row past the page's end goes to the top
         // of the next page, and the rows after it follow it there.
         double shift = 0;

@@ -71,10 +71,10 @@ void ReportPdf::rule(double y, double right)
     m_painter.drawLine(QPointF(ruleLeft, y), QPointF(right, y));
 }
 
-void ReportPdf::title(const QString &title, int pointSize, int weight)
+void ReportPdf::title(const QString &title, int pointSize, int weight, double y)
 {
     setFont(pointSize, weight);
-    text(70, 140, title);
+    text(70, y, title);
 }
 
 bool ReportPdf::row(const QString &heading, const QString &value, double ruleEnd)
@@ -147,8 +147,8 @@ void ReportPdf::frame()
         m_painter.drawImage(QRectF(QPointF(60, 53), QSizeF(logo.size()) / 4), logo);
     setFont(16, 75);
     // A long model name ends at the rules' right end rather than past the border.
-    const double width = QFontMetricsF(m_painter.font()).horizontalAdvance(m_model);
-    text(qMin(400.0, ruleRight - width), 88, m_model);
+    const double width = QFontMetricsF(m_painter.font(), m_painter.device()).horizontalAdvance(m_model);
+    text(qMin(400.0, ruleRight - 10 - width), 88, m_model);
     setFont(10, 50);
     text(560, page.height() - 40, QStringLiteral("Page %1").arg(m_pages));
 }

@@ -34,7 +34,7 @@ public:
     void text(double x, double y, const QString &text);
     void rule(double y, double right = ruleRight);
     // The page's title under the frame.
-    void title(const QString &text, int pointSize = 13, int weight = 63);
+    void title(const QString &text, int pointSize = 13, int weight = 63, double y = 140);
     // A row: heading at x 70, value at x 350, a rule above; true when it
     // went onto a new page.
     bool row(const QString &heading, const QString &value, double ruleEnd = ruleRight);

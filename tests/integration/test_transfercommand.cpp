@@ -47,3 +47,28 @@ TEST(TransferCommand, MethodsTravelBetweenSandboxesAndTheCopyIsSound)
     EXPECT_EQ(LogRecords::sqlite(copy, names), QStringLiteral("Acidity,Base two"));
     EXPECT_EQ(LogRecords::sqlite(copy, QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
 }
+
+TEST(TransferCommand, ReportExportSaysWhatItFoundAndRefusesWhatItCannotDo)
+{
+    QTemporaryDir sandbox;
+    QTemporaryDir out;
+    const struct {
+        QStringList args;
+        int exitCode;
+        const char *says;
+    } steps[] = {
+        {{"--log", "titration"}, 0, "Records found: 0"},
+        {{"--log", "measurement", "--format", "csv", "--form", "Short", "--from", "2026-01-01"}, 0, "Records found: 0"},
+        {{"--log", "titrations"}, 2, "unknown log \"titrations\""},
+        {{"--log", "calibration", "--format", "xls"}, 2, "--format is pdf or csv"},
+        {{"--log", "calibration", "--to", "2026-13-01"}, 2, "dates are written yyyy-MM-dd"},
+        {{"--out"}, 2, "--out needs a value"},
+    };
+    for (const auto &step : steps) {
+        int exitCode = -1;
+        const QStringList args = QStringList{"report", "export", "--sandbox", sandbox.path(), "--out", out.path()} + step.args;
+        const QString text = runVantorCli(args, &exitCode);
+        EXPECT_EQ(exitCode, step.exitCode) << text.toStdString();
+        EXPECT_TRUE(text.contains(QLatin1String(step.says))) << text.toStdString();
+    }
+}

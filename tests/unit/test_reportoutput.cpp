@@ -5,6 +5,7 @@
 #include "models/reportmodel.h"
 #include "pseudoterminal.h"
 #include "reports/meterreport.h"
+#include "reports/methodreport.h"
 #include "reports/reportfiles.h"
 #include "reports/reportgenerator.h"
 #include "reports/reportrows.h"
@@ -21,6 +22,9 @@
 #include <QRegularExpression>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -134,6 +138,41 @@ TEST(ReportText, TheShortFormOmitsTheRowsWithoutAShortPlace)
             EXPECT_TRUE(text.contains("Average Conc. 1 , 0.1001 M\n") && text.contains("'=HYPERLINK")
                         && text.contains("\"Acid, \"\"lot\"\" [7]\"")) << qPrintable(text);
     }
+}
+
+TEST(MethodReport, ARowIsPrintedOnlyWhenTheMethodUsesWhatItShows)
+{
+    QJsonObject rows;
+    const QStringList headings{"Method Name", "Slope Value", "ISE Type", "Titrant Conc.", "StandardizeDate",
+                               "Stdz Technique", "DE", "Stdz Stir Speed", "Titration Tech.", "Blank Value",
+                               "Reagent MW", "Process Control", "DE", "Titrate Prestir", "Constant Increment",
+                               "Precision Level"};
+    for (int i = 0; i < headings.size(); ++i)
+        rows.insert(QString::number(i + 1), QJsonObject{{"heading", headings.at(i)}, {"index", 3}, {"value", "v"}});
+    auto parts = [](const char *electrode, const char *input, const char *blank, const char *type) {
+        return MethodReport::Parts{QJsonObject{{"electrodeType", electrode}}, QJsonObject{{"concInputMode", input}},
+                                   QJsonObject{{"blankRequired", blank}, {"titrationType", type}}, {}, {}};
+    };
+    const struct { const char *tag; MethodReport::Parts parts; const char *shown; } cases[] = {
+        {"pH, manual, direct", parts("pH", "Manual Entry", "No", "Direct Titration"),
+         "Method Name|Slope Value|Titrant Conc.|Titration Tech.|Process Control|DE|Titrate Prestir"},
+        {"ISE, standardised, blank, back", parts("ISE-Titration", "Standardization", "Fixed", "Back Titration"),
+         "Method Name|ISE Type|StandardizeDate|Stdz Technique|DE|Stdz Stir Speed|Titration Tech.|Blank Value|Reagent MW|"
+         "Process Control|DE|Titrate Prestir"},
+        {"known addition", parts("ISE-MKA", "Manual Entry", "No", "Direct Titration"),
+         "Method Name|ISE Type|Titrant Conc.|Titration Tech.|Constant Increment|Precision Level"},
+    };
+    for (const auto &c : cases) {
+        QStringList shown;
+        for (int key = 1; key <= headings.size(); ++key) {
+            if (MethodReport::applies(rows, key, c.parts))
+                shown << headings.at(key - 1);
+        }
+        EXPECT_EQ(shown.join('|'), QString::fromUtf8(c.shown)) << c.tag;
+    }
+    const QString text = MethodReport::text(rows, parts("pH", "Manual Entry", "No", "Direct Titration"),
+                                            {{"Method Name", "Acid, 7"}}, nullptr);
+    EXPECT_TRUE(text.startsWith("      Method Report\nMethod Name     : Acid, 7\n")) << qPrintable(text);
 }
 
 TEST(ReportFiles, RawCurvesHaveTheirHeaderAndOneLinePerPointOfEachCycle)
@@ -266,6 +305,23 @@ TEST_F(ReportExportTest, TheBatchTakesTheDateRangeAndSaysWhenNothingIsFound)
         EXPECT_EQ(shown.at(0).at(0), row.state) << row.from;
         EXPECT_EQ(controller->lastOutcome().recordsFound, row.found);
     }
+}
+
+TEST_F(ReportExportTest, TheScreensRequestObjectReachesTheBatchFromJavaScript)
+{
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty("reportController", controller.get());
+    controller->setStageOnly(true);
+    QQmlExpression call(engine.rootContext(), nullptr,
+                        "reportController.fileType = 'short'; reportController.isCSV = true;"
+                        "reportController.exportInput({exportOf: 'All Logs', fileType: 'CSV', format: reportController.fileType,"
+                        " exportBy: 'Data Set', recordOffsetMin: '9', recordOffsetMax: '1', titrationLimitMin: 7,"
+                        " titrationLimitMax: 7, standLimitMin: -1, standLimitMax: -1, calLimitMin: -1, calLimitMax: -1,"
+                        " measureLimitMin: -1, measureLimitMax: -1})");
+    call.evaluate();
+    EXPECT_FALSE(call.hasError()) << qPrintable(call.error().toString());
+    EXPECT_EQ(controller->lastOutcome().recordsFound, 1);
+    EXPECT_EQ(controller->lastOutcome().filesWritten.size(), 3) << "the short text and two raw curves";
 }
 
 TEST_F(ReportExportTest, APrintedReportReachesTheTerminalInitialisedInItsCodePageAndCutOnce)

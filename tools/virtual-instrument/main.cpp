@@ -9,6 +9,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
@@ -19,9 +20,10 @@
 
 namespace {
 
-// The links this program made (the slave's line, and with --remote-host the
-// remote port's two ends) and where each points.
-constexpr int kLinks = 3;
+// The links this program made (the slave's line, with --remote-host the
+// remote port's two ends, with --printer the printer's port) and where each
+// points.
+constexpr int kLinks = 4;
 char g_link[kLinks][4096];
 char g_target[kLinks][4096];
 
@@ -77,7 +79,11 @@ int main(int argc, char *argv[])
                        "end of that line (for vantor-cli remote --port PATH). Standard input then also takes "
                        "\"remote detach\" and \"remote attach\"."),
         QStringLiteral("PATH"));
-    parser.addOptions({deviceOpt, scenarioOpt, speedOpt, traceOpt, remoteOpt});
+    const QCommandLineOption printerOpt(QStringLiteral("printer"),
+        QStringLiteral("Plug in the receipt printer: the sandbox's /dev/ttyPOS appears, and every byte the "
+                       "application sends to it is appended to FILE."),
+        QStringLiteral("FILE"));
+    parser.addOptions({deviceOpt, scenarioOpt, speedOpt, traceOpt, remoteOpt, printerOpt});
     parser.process(app);
 
     bool ok = false;
@@ -147,6 +153,21 @@ int main(int argc, char *argv[])
             return 1;
         }
         rememberLink(1, remoteHost.linkPath(), remoteHost.slaveName());
+    }
+    // The receipt printer: a terminal that keeps what it receives.
+    PseudoTerminal printerPort;
+    QFile paper(parser.value(printerOpt));
+    if (parser.isSet(printerOpt)) {
+        const QString printerLink = Platform::path(QStringLiteral("/dev/ttyPOS"));
+        if (!paper.open(QIODevice::WriteOnly | QIODevice::Append) || !printerPort.open(printerLink)) {
+            err << "virtual-instrument: printer: " << (paper.isOpen() ? printerPort.errorString() : paper.errorString()) << "\n";
+            return 1;
+        }
+        QObject::connect(&printerPort, &PseudoTerminal::received, [&paper](const QByteArray &bytes) {
+            paper.write(bytes);
+            paper.flush();
+        });
+        rememberLink(3, printerLink, printerPort.slaveName());
     }
     std::signal(SIGTERM, onTerminate);
     std::signal(SIGINT, onTerminate);
