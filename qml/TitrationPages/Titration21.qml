@@ -105,7 +105,9 @@ MainContentBackground {
             mainWindow.showPopup(exportImportErrorPopUp)
             return
         }
-        rm.methodExport()
+        // Every method as a method file; a failure has said why already.
+        if (rm.methodExport() === 0)
+            return
         reportController.isCSV = true
         selectExportMethodsPopup.open("export")
     }
