@@ -54,10 +54,12 @@ MainContentBackground {
         exportDateRange.open(page, from, from ? fromDate : toDate)
     }
 
-    function idsOf(list) {
+    // The ids a log's report rows are stored under, newest first: the
+    // entry's, a calibration's own.
+    function idsOf(list, key) {
         var ids = []
         for (var i = 0; list && i < list.count; ++i)
-            ids.push(list.get(i).id)
+            ids.push(list.get(i)[key || "id"])
         return ids
     }
 
@@ -73,7 +75,7 @@ MainContentBackground {
             lastDays: days.current < 3 ? ["10", "30", "60"][days.current] : "",
             fromDate: fromDate,
             toDate: toDate,
-            ids: [idsOf(dm.titrationLogList), idsOf(dm.standLogList), idsOf(dm.calibratoinLogList), idsOf(dm.measures)]
+            ids: [idsOf(dm.titrationLogList), idsOf(dm.standLogList), idsOf(dm.calibratoinLogList, "calId"), idsOf(dm.measures)]
         }
     }
 

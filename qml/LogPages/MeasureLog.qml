@@ -38,6 +38,6 @@ LogListPage {
         rows.push([qsTr("mV"), m.mV.toFixed(1) + " mV"])
         rows.push([qsTr("Temperature"), Number(displayValues.getConvertedTemp(m.temp)).toFixed(1) + " " + Temperature.unitText(setup.temperatureFormat_Index) + (m.isATC ? " ATC" : " MAN")])
         logEntrySummary.show(qsTr("Measurement Detail") + ls.translatedText, rows, [], [],
-                             3, m.id)
+                             3, entry.id)
     }
 }
