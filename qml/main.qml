@@ -441,7 +441,11 @@ ApplicationWindow {
     Timer {
         id: usbTime
         interval: 1000
-        onTriggered: console.log("USB disk ready; method import offered:", rm.methodImport())
+        // A disk with methods on it offers to install them.
+        onTriggered: {
+            if (rm.methodImport() && method.importedMethodCount > 0)
+                mainWindow.showPopup(usbDetectionPopUp)
+        }
     }
     Timer {
         id: screenshotconfirmation
@@ -501,6 +505,15 @@ ApplicationWindow {
         initialItem: log01
         onCurrentItemChanged: sideBar.resetBackButton()
         Log01 { id: log01; visible: false }
+        NoDataLogScreen { id: nodataLogScreen; visible: false }
+        TitrationLog { id: titrationLog; visible: false }
+        TitrantLog { id: titrantLog; visible: false }
+        CalibrationLog { id: calibrationLog; visible: false }
+        MeasureLog { id: measureLog; visible: false }
+        LogEntrySummary { id: logEntrySummary; visible: false }
+        ExportLogScreen { id: exportLogScreen; visible: false }
+        ExportLogScreen { id: printLogScreen; printLog: true; visible: false }
+        ExportDateRange { id: exportDateRange; visible: false }
     }
     CustomStackView {
         id: methodStack
@@ -508,6 +521,7 @@ ApplicationWindow {
         onCurrentItemChanged: sideBar.resetBackButton()
         Titration21 { id: titration21; visible: false }
         MethodPrecheck { id: methodPrecheck; visible: false }
+        TempTableView { id: titration22; visible: false }
     }
     CustomStackView {
         id: buretteStack
@@ -601,6 +615,16 @@ ApplicationWindow {
         Titration13 { id: titration13 }
         Titration15 { id: titration15 }
         PasswordVerificationPopUp { id: passwordVerificationPopUp }
+        Titration28 { id: titration28 }
+        Titration26 { id: titration26 }
+        InstallMethodsPopUp { id: installMethodsPopUp }
+        USBDetectionPopUp { id: usbDetectionPopUp }
+        InstallProgressPopUp { id: installProgressPopUp }
+        InstallationCompletePopUp { id: installationCompletePopUp }
+        SelectExportMethodsPopup { id: selectExportMethodsPopup }
+        ExportinProgressPopUp { id: exportinProgressPopUp }
+        ExportCompletePopUp { id: exportCompletePopUp }
+        DeleteLogConfirmPopup { id: deleteConfirmPopUp }
         ProcessDestroyConfirmation { id: processDestroyConfirmationPopup }
         ManualSampleIdPopup { id: manualSampleIdPopup }
         VariableSampleAmountPopup { id: variableSampleAmountPopup }
@@ -717,13 +741,17 @@ ApplicationWindow {
     VersionPopup { id: versionPopup }
     PopupWithBusyIndicator { id: busy_popup }
     // The report flow's popups: records found, the outcome, "USB is not ready".
+    // During an export of steps its progress popup shows the work, and the
+    // page that started it tells the outcome once all steps have run.
     Connections {
         target: reportController
         function onShowPopupMultiInput(popupState, logCount, fileName) {
-            busy_popup.showPopupMultiInput(popupState, logCount, fileName)
+            if (!exportinProgressPopUp.visible)
+                busy_popup.showPopupMultiInput(popupState, logCount, fileName)
         }
         function onDismissPopup(popupState) {
-            busy_popup.dismissPopup(popupState)
+            if (!exportinProgressPopUp.visible)
+                busy_popup.dismissPopup(popupState)
         }
     }
     Tips { id: tips }

@@ -1,6 +1,7 @@
 #include "methodlibrary.h"
 
 #include "models/dbutil.h"
+#include "models/loglayout.h"
 #include "models/electrodesetupmodel.h"
 #include "models/methodmodel.h"
 #include "models/modelproperty.h"
@@ -101,4 +102,17 @@ QString MethodLibrary::saveCurrent(const QString &name, const QString &password)
     }
     m_current->saveMethodValues(name, password);
     return m_current->success() == 1 ? QString() : databaseError;
+}
+
+QVariantMap MethodLibrary::partsOf(int id) const
+{
+    MethodModel method(nullptr, false);
+    QVariantMap parts;
+    if (!method.loadMethod(id, QString(), false))
+        return parts;
+    parts.insert(QStringLiteral("method"), LogLayout::rowOf(&method, MethodModel::columnTable()));
+    parts.insert(QStringLiteral("electrode"), LogLayout::rowOf(method.electrodeSetupModel(), ElectrodeSetupModel::columnTable()));
+    parts.insert(QStringLiteral("titrant"), LogLayout::rowOf(method.titrantSetupModel(), TitrantSetupModel::columnTable()));
+    parts.insert(QStringLiteral("titration"), LogLayout::rowOf(method.titrationSetupModel(), TitrationSetupModel::columnTable()));
+    return parts;
 }

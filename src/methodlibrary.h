@@ -3,6 +3,7 @@
 #include "models/objectlistmodel.h"
 
 #include <QList>
+#include <QVariantMap>
 #include <QObject>
 
 #include <functional>
@@ -49,6 +50,10 @@ public:
     Q_INVOKABLE QString saveCurrent(const QString &name, const QString &password);
     // Whether a stored method (the working method included) has this name.
     static bool nameTaken(const QString &name);
+    // A stored method's values as the method report reads them, by column
+    // name: "method", "electrode", "titrant", "titration" (empty maps for a
+    // method that isn't stored). The current method stays as it is.
+    Q_INVOKABLE QVariantMap partsOf(int id) const;
 
 signals:
     void changed();

@@ -33,7 +33,7 @@ PopupBackground {
         field.focus = false
         Qt.inputMethod.hide()
         mainWindow.hidePopup()
-        titration21.editMethod(methodId)
+        titration21.editMethod()
     }
 
     Column {

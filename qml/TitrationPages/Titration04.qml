@@ -10,9 +10,6 @@ WizardListPage {
     header3Text: qsTr("Setup Electrode") + ls.translatedText
     nextText: qsTr("Next: Setup Titrant") + ls.translatedText
 
-    // The stored method being changed in place (0: a new method).
-    property int editingMethodId: 0
-
     function rowTitles() {
         return WizardRows.electrodeRows(electrode.electrodeType)
     }
@@ -68,7 +65,6 @@ WizardListPage {
 
     // A new method: the working method 99999 from the defaults.
     function startNewMethod() {
-        editingMethodId = 0
         setup.currentMethodId = 99999
         method.id = setup.currentMethodId
         method.newTitration()
@@ -76,14 +72,6 @@ WizardListPage {
         dm.reInitializeMethodModel(99999)
         method.blankConcentration = 0
         titration.reagentWeightType = ""
-        wizardFlow.reInitializeWizard()
-        loadModelData()
-    }
-
-    // A stored method changed in place through the same pages.
-    function startEditing(methodId) {
-        editingMethodId = methodId
-        dm.reInitializeMethodModel(methodId)
         wizardFlow.reInitializeWizard()
         loadModelData()
     }

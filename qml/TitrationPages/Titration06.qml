@@ -8,7 +8,7 @@ WizardListPage {
     id: page
     objectName: "Setup Titration"
     header3Text: qsTr("Setup Titration") + ls.translatedText
-    nextText: titration04.editingMethodId > 0 || mainWindow.currentStack === methodStack
+    nextText: mainWindow.currentStack === methodStack
               ? qsTr("Save") + ls.translatedText : qsTr("Next") + ls.translatedText
 
     property string electrodeType: electrode.electrodeType

@@ -5,9 +5,10 @@ import "../Buttons"
 import "../Constants/Colors.js" as Colors
 import "EntryRules.js" as EntryRules
 
-// Name and password of a method ("Create Method" at the end of the wizard
-// from the Methods section). Save stores the method and its three parts
-// and makes it the current method.
+// Name and password of a method: "Create Method" at the end of the wizard
+// from the Methods section (the method and its three parts stored and made
+// the current method), a copy of the selected method ("Copy Method") and a
+// new name or password for it ("Edit Name and Password").
 MainContentBackground {
     id: page
     objectName: "Create Method"
@@ -17,12 +18,56 @@ MainContentBackground {
     property string errorMessage: ""
 
     function openCreate() {
-        mode = "Create Method"
-        nameField.text = ""
+        open("Create Method", "")
+    }
+
+    function openRename() {
+        open("Edit Name and Password", method.methodName)
+    }
+
+    function openCopy() {
+        open("Copy Method", method.methodName)
+    }
+
+    function open(title, name) {
+        mode = title
+        nameField.text = name
         passwordField.text = ""
         confirmField.text = ""
         errorMessage = ""
         mainWindow.currentStack.push(page)
+    }
+
+    function rename(name) {
+        method.updateMethodModel(method.id, name, passwordField.text)
+        if (method.success !== 1) {
+            errorMessage = EntryRules.saveRefusalMessage("databaseError")
+            return
+        }
+        dm.reInitializeMethodModel(method.id)
+        titration21.populateModel()
+        methodStack.pop()
+        dynamicLoader.loadSuccessPopUp(qsTr("Method Updated") + ls.translatedText,
+                                       name + qsTr(" - has been saved with your new settings.") + ls.translatedText, "")
+    }
+
+    // The copy is stored as a new method with the standardisation of its
+    // original, and becomes the method on the edit page.
+    function copy(name) {
+        var original = method.id
+        var refusal = dm.library.saveCurrent(name, passwordField.text)
+        if (refusal !== "") {
+            errorMessage = EntryRules.saveRefusalMessage(refusal)
+            return
+        }
+        setup.currentMethodId = method.id
+        setup.setSetupValues()
+        dm.copyStandardization(original, method.id)
+        dm.reInitializeMethodModel(method.id)
+        titration21.populateModel()
+        // The success message's end goes back to the edit page.
+        dynamicLoader.loadSuccessPopUp(qsTr("Method Saved") + ls.translatedText,
+                                       qsTr("Your method has\nbeen saved as - ") + ls.translatedText + name, "")
     }
 
     function save() {
@@ -36,6 +81,14 @@ MainContentBackground {
         nameField.focus = false
         passwordField.focus = false
         Qt.inputMethod.hide()
+        if (mode === "Edit Name and Password") {
+            rename(name)
+            return
+        }
+        if (mode === "Copy Method") {
+            copy(name)
+            return
+        }
         var refusal = dm.library.saveCurrent(name, passwordField.text)
         if (refusal !== "") {
             errorMessage = EntryRules.saveRefusalMessage(refusal)

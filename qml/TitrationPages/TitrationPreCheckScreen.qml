@@ -130,7 +130,9 @@ MainContentBackground {
         offerChain.calibrate(inMethodStack ? method.electrodeSetupModel.electrodeName : electrode.electrodeName)
     }
 
-    onVisibleChanged: if (visible) { changeHeaderButtonText(); checkList.model = checkLines() }
+    // The buttons stand where they belong from the first frame on show, so a
+    // tap at once lands on the button it aims at.
+    onVisibleChanged: if (visible) { changeHeaderButtonText(); checkList.model = checkLines(); buttonFlow.forceLayout() }
 
     Column {
         id: checkColumn
@@ -187,6 +189,7 @@ MainContentBackground {
     // Up to four buttons: a second line above when they do not fit beside
     // the tip corner.
     Flow {
+        id: buttonFlow
         anchors.left: parent.left
         anchors.leftMargin: 20
         anchors.bottom: parent.bottom

@@ -8,7 +8,7 @@ WizardListPage {
     id: page
     objectName: "MKA-Setup Titration"
     header3Text: qsTr("MKA-Setup Titration") + ls.translatedText
-    nextText: titration04.editingMethodId > 0 || mainWindow.currentStack === methodStack
+    nextText: mainWindow.currentStack === methodStack
               ? qsTr("Save") + ls.translatedText : qsTr("Run Titration") + ls.translatedText
 
     readonly property var processKeys: ({ "Constant Increment": "mkaConstant", "Measurement Stability": "mkaMeasurement",

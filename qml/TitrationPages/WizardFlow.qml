@@ -81,16 +81,7 @@ QtObject {
     function finish(mka) {
         if (!check(mka))
             return
-        var stack = mainWindow.currentStack
-        if (titration04.editingMethodId > 0) {
-            saveParts()
-            titration04.editingMethodId = 0
-            titration21.populateModel()
-            stack.pop(null)
-            methodUpdated()
-            return
-        }
-        if (stack === methodStack) {
+        if (mainWindow.currentStack === methodStack) {
             titration24.openCreate()
             return
         }

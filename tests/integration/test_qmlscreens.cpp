@@ -311,15 +311,16 @@ TEST_F(Screens, BusyPopupStates)
 // (its objectName is the key); the one entry page shows the tip of the value
 // or name it asks for, the radio list the tip of the row whose options it
 // offers. The run's pages (the pre-checks, the cycle screen) and the pages
-// of a state (a redox or ion-selective calibration, a stable reading) are
-// the run's and the calibration's; the others belong to settings and log
-// pages still to be built.
+// of a state (a redox or ion-selective calibration, a stable reading, a log
+// entry's summary) are the run's, the calibration's and the logs'; the
+// others belong to settings pages still to be built.
 const char *const kTipPages[] = {
     "Burette", "Burette Installation Date", "Calibrate Electrode", "Calibrate pH(Calibration Point Successful screen)",
     "Calibrate pH(Calibration Result screen)", "Calibrate pH(Calibration Solution Standard Value Save screen)",
-    "Calibrate pH(Override screen)", "Calibration Summary", "Create Method", "Data Logs", "Dispense Volume", "Display",
-    "Home", "MKA-Setup Titration", "Measure", "Measure ReadMode", "Methods", "New Titration Setup Process", "Settings",
-    "Setup Electrode", "Setup Titrant", "Setup Titration", "Standardization Summary", "Titration Summary"};
+    "Calibrate pH(Override screen)", "Calibration Log", "Calibration Summary", "Create Method", "Data Logs",
+    "Direct Measure Log", "Dispense Volume", "Display", "Edit Method", "Home", "MKA-Setup Titration", "Measure",
+    "Measure ReadMode", "Methods", "New Titration Setup Process", "Settings", "Setup Electrode", "Setup Titrant",
+    "Setup Titration", "Standardization Summary", "Titrant Log", "Titration Log", "Titration Summary"};
 const char *const kTipEntries[][2] = { // key, the value asked for ("name:" a name)
     {"Blank Required", "blankRequiredValue"}, {"Conc. Input Mode", "concInputModeM"}, {"Endpoint Values", "endPointpH"},
     {"Fixed Reagent Weight", "reagentWeight"}, {"Max Total Titrant Volume", "titrationMaxVolume"},
@@ -340,12 +341,12 @@ const char *const kTipEntries[][2] = { // key, the value asked for ("name:" a na
     {"User Defined Titrant Name", "name:titrantName"}};
 const char *const kTipOptions[] = {"ISE Type", "Result Units", "Standard Name", "Stir Speed", "Titrant Name"};
 const char *const kTipsElsewhere[] = {"Cycle screen", "Titration Pre-Check", "Standardize Titrant Pre-Check",
-                                      "Calibrate ISE", "Calibrate Redox", "Calibrate pH(Edit and Accept)"};
+                                      "Calibrate ISE", "Calibrate Redox", "Calibrate pH(Edit and Accept)",
+                                      "Direct Measure Log Summary"};
 const char *const kTipsNotYet[] = {
-    "Blank Conc. Required", "Calibration Due", "Calibration Log", "Date", "Diagnostics", "Direct Measure Log",
-    "Direct Measure Log Summary", "Direct Measure Units", "Display Brightness", "Edit Method", "Factory Reset",
-    "Files and Info", "Firmware", "Instrument Name", "Language", "Maintenance Due", "Notifications",
-    "Sample ID-Manual", "Screen Calibration", "Temperature Input", "Time", "Titrant Log", "Titration Log"};
+    "Blank Conc. Required", "Calibration Due", "Date", "Diagnostics", "Direct Measure Units", "Display Brightness",
+    "Factory Reset", "Files and Info", "Firmware", "Instrument Name", "Language", "Maintenance Due", "Notifications",
+    "Sample ID-Manual", "Screen Calibration", "Temperature Input", "Time"};
 
 TEST_F(Screens, EveryTipHasThePageThatShowsIt)
 {

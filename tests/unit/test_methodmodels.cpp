@@ -306,6 +306,25 @@ TEST_P(SaveOutcome, TheLibraryNamesTheReasonOfARefusal)
 INSTANTIATE_TEST_SUITE_P(Reasons, SaveOutcome, ::testing::ValuesIn(kSaveCases),
                          [](const ::testing::TestParamInfo<SaveCase> &info) { return std::string(info.param.name); });
 
+// A stored method's values for its report come from its rows; the method
+// in hand stays as it is, and a method that isn't stored gives nothing.
+TEST_F(MethodModels, PartsOfAStoredMethodLeaveTheCurrentMethodAlone)
+{
+    MethodLibrary library;
+    library.current()->electrodeSetupModel()->setElectrodeName(QStringLiteral("Stored electrode"));
+    ASSERT_EQ(library.saveCurrent(QStringLiteral("Stored"), QStringLiteral("pw")), QString());
+    const int stored = library.current()->id();
+    library.current()->electrodeSetupModel()->setElectrodeName(QStringLiteral("In hand"));
+    const QVariantMap parts = library.partsOf(stored);
+    EXPECT_EQ(parts.value(QStringLiteral("method")).toMap().value(QStringLiteral("methodName")).toString(), QStringLiteral("Stored"));
+    EXPECT_EQ(parts.value(QStringLiteral("electrode")).toMap().value(QStringLiteral("electrodeName")).toString(),
+              QStringLiteral("Stored electrode"));
+    EXPECT_TRUE(parts.value(QStringLiteral("titrant")).toMap().contains(QStringLiteral("nominalConc")));
+    EXPECT_TRUE(parts.value(QStringLiteral("titration")).toMap().contains(QStringLiteral("titrationTechnique")));
+    EXPECT_EQ(library.current()->electrodeSetupModel()->electrodeName(), QStringLiteral("In hand"));
+    EXPECT_TRUE(library.partsOf(stored + 100).isEmpty());
+}
+
 TEST_F(MethodModels, ImportedMethodsInstallUnderFreeNamesWithPasswordAndWithoutHistory)
 {
     MethodModel method;
