@@ -180,6 +180,57 @@
         </message>
     </context>
     <context>
+        <name>CalibrationLog</name>
+        <message>
+            <source>Calibration Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Calibration Summary</source>
+            <translation>Resumen de la calibración</translation>
+        </message>
+        <message>
+            <source>No.</source>
+            <translation>N.º</translation>
+        </message>
+        <message>
+            <source>Electrode</source>
+            <translation>Electrodo</translation>
+        </message>
+        <message>
+            <source>Type</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Date/Time</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Avg Slope (%)</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Point</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Buffer</source>
+            <translation>Tampón</translation>
+        </message>
+        <message>
+            <source>mV</source>
+            <translation>mV</translation>
+        </message>
+        <message>
+            <source>Slope (%)</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Temp</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
         <name>CalibrationPointSuccessfull</name>
         <message>
             <source>Points calibrated: %1 of 5</source>
@@ -340,16 +391,12 @@
             <translation>Imprimir</translation>
         </message>
         <message>
-            <source>Report</source>
-            <translation>Informe</translation>
-        </message>
-        <message>
-            <source>Calibration reports are not available yet; the calibration is stored in the log.</source>
-            <translation>Los informes de calibración aún no están disponibles; la calibración está guardada en el registro.</translation>
-        </message>
-        <message>
             <source>Done</source>
             <translation>Hecho</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
         </message>
     </context>
     <context>
@@ -443,6 +490,25 @@
         </message>
     </context>
     <context>
+        <name>DeleteLogConfirmPopup</name>
+        <message>
+            <source>Delete Data Confirm</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Are you sure you want to delete the entire log? This action cannot be undone.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+    </context>
+    <context>
         <name>DirectMeasure</name>
         <message>
             <source>Direct Measure</source>
@@ -531,6 +597,40 @@
         <message>
             <source>Save</source>
             <translation>Guardar</translation>
+        </message>
+    </context>
+    <context>
+        <name>ExportCompletePopUp</name>
+        <message>
+            <source>Export Complete</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Export completed!</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>You may now remove your USB drive.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Close</source>
+            <translation>Cerrar</translation>
+        </message>
+    </context>
+    <context>
+        <name>ExportDateRange</name>
+        <message>
+            <source>Date Range</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Set From Date</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Set To Date</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -645,6 +745,119 @@
         </message>
     </context>
     <context>
+        <name>ExportLogScreen</name>
+        <message>
+            <source>Print Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Export Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Please enter the first and the last number</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Imprimir</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>File Type</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Export to</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Export by</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>No.</source>
+            <translation>N.º</translation>
+        </message>
+        <message>
+            <source>to No.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Range</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>From</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>To</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Format</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>ExportSummaryScreen</name>
+        <message>
+            <source>Print</source>
+            <translation>Imprimir</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Informe</translation>
+        </message>
+        <message>
+            <source>This entry has no stored report.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>File Type</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Format</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Short</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Long</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+    </context>
+    <context>
+        <name>ExportinProgressPopUp</name>
+        <message>
+            <source>Export in Progress</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Please do not remove your USB drive until transfer is complete.</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -656,6 +869,71 @@
         <message>
             <source>Calibrated</source>
             <translation>Calibrado</translation>
+        </message>
+    </context>
+    <context>
+        <name>InstallMethodsPopUp</name>
+        <message>
+            <source>Install Methods</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Select up to </source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source> methods to install</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>No method is selected</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+        <message>
+            <source>Install Selected</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>InstallProgressPopUp</name>
+        <message>
+            <source>Installing Methods</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Installing methods: </source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+    </context>
+    <context>
+        <name>InstallationCompletePopUp</name>
+        <message>
+            <source>Installation Complete</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Your methods have been installed.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>You may now remove your USB drive.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>View Methods</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Return to Home</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -674,6 +952,64 @@
         <message>
             <source>Data Logs</source>
             <translation>Registros de datos</translation>
+        </message>
+        <message>
+            <source>Titration Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Measurement Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>There is no data to display</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>LogEntrySummary</name>
+        <message>
+            <source>Print</source>
+            <translation>Imprimir</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>Done</source>
+            <translation>Hecho</translation>
+        </message>
+    </context>
+    <context>
+        <name>LogListPage</name>
+        <message>
+            <source>No.</source>
+            <translation>N.º</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Date/Time</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Avg</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
         </message>
     </context>
     <context>
@@ -697,6 +1033,57 @@
         <message>
             <source>Enter a sample ID</source>
             <translation>Introduzca un ID de muestra</translation>
+        </message>
+    </context>
+    <context>
+        <name>MeasureLog</name>
+        <message>
+            <source>Measurement Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>No.</source>
+            <translation>N.º</translation>
+        </message>
+        <message>
+            <source>Read Mode</source>
+            <translation>Modo de lectura</translation>
+        </message>
+        <message>
+            <source>Date/Time</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Sensor</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Sample ID</source>
+            <translation>ID de muestra</translation>
+        </message>
+        <message>
+            <source>Value</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Slope Value</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Offset Value</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>mV</source>
+            <translation>mV</translation>
+        </message>
+        <message>
+            <source>Temperature</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Measurement Detail</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -762,10 +1149,28 @@
         </message>
     </context>
     <context>
+        <name>MethodDelegate</name>
+        <message>
+            <source>Delete</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
         <name>MultipleOptionsPage</name>
         <message>
             <source>Save</source>
             <translation>Guardar</translation>
+        </message>
+    </context>
+    <context>
+        <name>NoDataLogScreen</name>
+        <message>
+            <source>Data Logs</source>
+            <translation>Registros de datos</translation>
+        </message>
+        <message>
+            <source>There is no data to display</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -888,6 +1293,10 @@
             <source>Restarting Application...</source>
             <translation>Reiniciando la aplicación...</translation>
         </message>
+        <message>
+            <source>Printer not connected</source>
+            <translation>Impresora no conectada</translation>
+        </message>
     </context>
     <context>
         <name>ProcessDestroyConfirmation</name>
@@ -976,6 +1385,37 @@
         <message>
             <source>The database could not be reset.</source>
             <translation>No se pudo restablecer la base de datos.</translation>
+        </message>
+    </context>
+    <context>
+        <name>SelectExportMethodsPopup</name>
+        <message>
+            <source>Print Methods</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Export Methods</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Please select at least one method to print</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Please select at least one method to export</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+        <message>
+            <source>Print Selected</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Export Selected</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -1164,6 +1604,14 @@
             <source>Next</source>
             <translation>Siguiente</translation>
         </message>
+        <message>
+            <source>Print</source>
+            <translation>Imprimir</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
     </context>
     <context>
         <name>StartTitrationScreen</name>
@@ -1284,6 +1732,41 @@
         <message>
             <source>%1 of %2 cycles in the average</source>
             <translation>%1 de %2 ciclos en el promedio</translation>
+        </message>
+    </context>
+    <context>
+        <name>TempTableView</name>
+        <message>
+            <source>Edit Method | </source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Edit Name and Password</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Edit Electrode</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Edit Titrant</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Edit Titration</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Copy Method</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Delete Method</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Done Editing</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -1685,6 +2168,69 @@
         </message>
     </context>
     <context>
+        <name>TitrantLog</name>
+        <message>
+            <source>Titrant Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sí</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+        <message>
+            <source>Standardization Summary</source>
+            <translation>Resumen de la estandarización</translation>
+        </message>
+        <message>
+            <source>No.</source>
+            <translation>N.º</translation>
+        </message>
+        <message>
+            <source>Titrant</source>
+            <translation>Titulante</translation>
+        </message>
+        <message>
+            <source>Method Name</source>
+            <translation>Nombre del método</translation>
+        </message>
+        <message>
+            <source>Date/Time</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Electrode</source>
+            <translation>Electrodo</translation>
+        </message>
+        <message>
+            <source>Avg Conc.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>RSD</source>
+            <translation>RSD</translation>
+        </message>
+        <message>
+            <source>Cycle</source>
+            <translation>Ciclo</translation>
+        </message>
+        <message>
+            <source>Conc. (</source>
+            <translation>Conc. (</translation>
+        </message>
+        <message>
+            <source>Volume (mL)</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>In Avg</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
         <name>TitrantSetupDynamic</name>
         <message>
             <source>Save</source>
@@ -2021,6 +2567,18 @@ el titulante?</translation>
             <source>New Method</source>
             <translation>Método nuevo</translation>
         </message>
+        <message>
+            <source>Import</source>
+            <translation>Importar</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Imprimir</translation>
+        </message>
     </context>
     <context>
         <name>Titration24</name>
@@ -2049,6 +2607,159 @@ guardado como - </translation>
         <message>
             <source>Confirm Password</source>
             <translation>Confirmar contraseña</translation>
+        </message>
+        <message>
+            <source>Method Updated</source>
+            <translation>Método actualizado</translation>
+        </message>
+        <message>
+            <source> - has been saved with your new settings.</source>
+            <translation> - se ha guardado con sus nuevos ajustes.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Titration26</name>
+        <message>
+            <source>Delete Method</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Are you sure you want to delete this method?</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>You will not be able to undo this action.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+        <message>
+            <source>Method Deleted</source>
+            <translation>Método eliminado</translation>
+        </message>
+        <message>
+            <source>Your method has been deleted</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>Titration28</name>
+        <message>
+            <source>Method Quick View</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Method Name</source>
+            <translation>Nombre del método</translation>
+        </message>
+        <message>
+            <source>Titrant</source>
+            <translation>Titulante</translation>
+        </message>
+        <message>
+            <source>Electrode</source>
+            <translation>Electrodo</translation>
+        </message>
+        <message>
+            <source>Technique</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Type</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Close</source>
+            <translation>Cerrar</translation>
+        </message>
+        <message>
+            <source>Edit Method</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Use Method</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>TitrationLog</name>
+        <message>
+            <source>Titration Log</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sí</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
+        </message>
+        <message>
+            <source>Titration Summary</source>
+            <translation>Resumen de la titulación</translation>
+        </message>
+        <message>
+            <source>No.</source>
+            <translation>N.º</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Method Name</source>
+            <translation>Nombre del método</translation>
+        </message>
+        <message>
+            <source>Date/Time</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Electrode</source>
+            <translation>Electrodo</translation>
+        </message>
+        <message>
+            <source>Titrant</source>
+            <translation>Titulante</translation>
+        </message>
+        <message>
+            <source>Technique</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Type</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Avg Conc.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>RSD</source>
+            <translation>RSD</translation>
+        </message>
+        <message>
+            <source>Cycle</source>
+            <translation>Ciclo</translation>
+        </message>
+        <message>
+            <source>Conc. (</source>
+            <translation>Conc. (</translation>
+        </message>
+        <message>
+            <source>Volume (mL)</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>In Avg</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -2232,6 +2943,14 @@ guardado como - </translation>
         <message>
             <source>Repeat Titration</source>
             <translation>Repetir titulación</translation>
+        </message>
+        <message>
+            <source>Print</source>
+            <translation>Imprimir</translation>
+        </message>
+        <message>
+            <source>Export</source>
+            <translation>Exportar</translation>
         </message>
     </context>
     <context>
@@ -3322,6 +4041,29 @@ alfanuméricos.</translation>
         <message>
             <source> Sample Density value can't be blank!</source>
             <translation>¡La densidad de la muestra no puede estar vacía!</translation>
+        </message>
+    </context>
+    <context>
+        <name>USBDetectionPopUp</name>
+        <message>
+            <source>USB Drive Detected</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>A USB drive with methods has been detected. Do you want to install these methods?</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>You may choose which methods to install on the next screen.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Yes</source>
+            <translation>Sí</translation>
+        </message>
+        <message>
+            <source>No</source>
+            <translation>No</translation>
         </message>
     </context>
     <context>
