@@ -183,7 +183,7 @@
         <name>CalibrationLog</name>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>校准记录</translation>
         </message>
         <message>
             <source>Calibration Summary</source>
@@ -199,19 +199,19 @@
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>类型</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日期/时间</translation>
         </message>
         <message>
             <source>Avg Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>平均斜率 (%)</translation>
         </message>
         <message>
             <source>Point</source>
-            <translation type="unfinished" />
+            <translation>校准点</translation>
         </message>
         <message>
             <source>Buffer</source>
@@ -223,11 +223,11 @@
         </message>
         <message>
             <source>Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>斜率 (%)</translation>
         </message>
         <message>
             <source>Temp</source>
-            <translation type="unfinished" />
+            <translation>温度</translation>
         </message>
     </context>
     <context>
@@ -493,15 +493,15 @@
         <name>DeleteLogConfirmPopup</name>
         <message>
             <source>Delete Data Confirm</source>
-            <translation type="unfinished" />
+            <translation>确认删除数据</translation>
         </message>
         <message>
             <source>Are you sure you want to delete the entire log? This action cannot be undone.</source>
-            <translation type="unfinished" />
+            <translation>确定要删除整个记录吗？此操作无法撤消。</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>删除</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -603,15 +603,15 @@
         <name>ExportCompletePopUp</name>
         <message>
             <source>Export Complete</source>
-            <translation type="unfinished" />
+            <translation>导出完成</translation>
         </message>
         <message>
             <source>Export completed!</source>
-            <translation type="unfinished" />
+            <translation>导出完成！</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>现在可以移除 USB 驱动器。</translation>
         </message>
         <message>
             <source>Close</source>
@@ -622,15 +622,15 @@
         <name>ExportDateRange</name>
         <message>
             <source>Date Range</source>
-            <translation type="unfinished" />
+            <translation>日期范围</translation>
         </message>
         <message>
             <source>Set From Date</source>
-            <translation type="unfinished" />
+            <translation>设置开始日期</translation>
         </message>
         <message>
             <source>Set To Date</source>
-            <translation type="unfinished" />
+            <translation>设置结束日期</translation>
         </message>
     </context>
     <context>
@@ -748,19 +748,19 @@
         <name>ExportLogScreen</name>
         <message>
             <source>Print Log</source>
-            <translation type="unfinished" />
+            <translation>打印记录</translation>
         </message>
         <message>
             <source>Export Log</source>
-            <translation type="unfinished" />
+            <translation>导出记录</translation>
         </message>
         <message>
             <source>Data Set</source>
-            <translation type="unfinished" />
+            <translation>数据集</translation>
         </message>
         <message>
             <source>Please enter the first and the last number</source>
-            <translation type="unfinished" />
+            <translation>请输入起始编号和结束编号</translation>
         </message>
         <message>
             <source>Print</source>
@@ -772,15 +772,15 @@
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>文件类型</translation>
         </message>
         <message>
             <source>Export to</source>
-            <translation type="unfinished" />
+            <translation>导出到</translation>
         </message>
         <message>
             <source>Export by</source>
-            <translation type="unfinished" />
+            <translation>导出方式</translation>
         </message>
         <message>
             <source>No.</source>
@@ -788,23 +788,23 @@
         </message>
         <message>
             <source>to No.</source>
-            <translation type="unfinished" />
+            <translation>至编号</translation>
         </message>
         <message>
             <source>Range</source>
-            <translation type="unfinished" />
+            <translation>时间段</translation>
         </message>
         <message>
             <source>From</source>
-            <translation type="unfinished" />
+            <translation>从</translation>
         </message>
         <message>
             <source>To</source>
-            <translation type="unfinished" />
+            <translation>至</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>格式</translation>
         </message>
     </context>
     <context>
@@ -823,23 +823,23 @@
         </message>
         <message>
             <source>This entry has no stored report.</source>
-            <translation type="unfinished" />
+            <translation>此条目没有已保存的报告。</translation>
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>文件类型</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>格式</translation>
         </message>
         <message>
             <source>Short</source>
-            <translation type="unfinished" />
+            <translation>简要</translation>
         </message>
         <message>
             <source>Long</source>
-            <translation type="unfinished" />
+            <translation>详细</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -850,11 +850,11 @@
         <name>ExportinProgressPopUp</name>
         <message>
             <source>Export in Progress</source>
-            <translation type="unfinished" />
+            <translation>正在导出</translation>
         </message>
         <message>
             <source>Please do not remove your USB drive until transfer is complete.</source>
-            <translation type="unfinished" />
+            <translation>传输完成前请勿移除 USB 驱动器。</translation>
         </message>
     </context>
     <context>
@@ -875,19 +875,19 @@
         <name>InstallMethodsPopUp</name>
         <message>
             <source>Install Methods</source>
-            <translation type="unfinished" />
+            <translation>安装方法</translation>
         </message>
         <message>
             <source>Select up to </source>
-            <translation type="unfinished" />
+            <translation>最多选择 </translation>
         </message>
         <message>
             <source> methods to install</source>
-            <translation type="unfinished" />
+            <translation> 个要安装的方法</translation>
         </message>
         <message>
             <source>No method is selected</source>
-            <translation type="unfinished" />
+            <translation>未选择方法</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -895,18 +895,18 @@
         </message>
         <message>
             <source>Install Selected</source>
-            <translation type="unfinished" />
+            <translation>安装所选</translation>
         </message>
     </context>
     <context>
         <name>InstallProgressPopUp</name>
         <message>
             <source>Installing Methods</source>
-            <translation type="unfinished" />
+            <translation>正在安装方法</translation>
         </message>
         <message>
             <source>Installing methods: </source>
-            <translation type="unfinished" />
+            <translation>正在安装方法: </translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -917,23 +917,23 @@
         <name>InstallationCompletePopUp</name>
         <message>
             <source>Installation Complete</source>
-            <translation type="unfinished" />
+            <translation>安装完成</translation>
         </message>
         <message>
             <source>Your methods have been installed.</source>
-            <translation type="unfinished" />
+            <translation>方法已安装。</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>现在可以移除 USB 驱动器。</translation>
         </message>
         <message>
             <source>View Methods</source>
-            <translation type="unfinished" />
+            <translation>查看方法</translation>
         </message>
         <message>
             <source>Return to Home</source>
-            <translation type="unfinished" />
+            <translation>返回主页</translation>
         </message>
     </context>
     <context>
@@ -955,23 +955,23 @@
         </message>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>滴定记录</translation>
         </message>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>滴定剂记录</translation>
         </message>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>校准记录</translation>
         </message>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>测量记录</translation>
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>没有可显示的数据</translation>
         </message>
     </context>
     <context>
@@ -997,15 +997,15 @@
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>名称</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日期/时间</translation>
         </message>
         <message>
             <source>Avg</source>
-            <translation type="unfinished" />
+            <translation>平均</translation>
         </message>
         <message>
             <source>Export</source>
@@ -1039,7 +1039,7 @@
         <name>MeasureLog</name>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>测量记录</translation>
         </message>
         <message>
             <source>No.</source>
@@ -1051,11 +1051,11 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日期/时间</translation>
         </message>
         <message>
             <source>Sensor</source>
-            <translation type="unfinished" />
+            <translation>传感器</translation>
         </message>
         <message>
             <source>Sample ID</source>
@@ -1063,15 +1063,15 @@
         </message>
         <message>
             <source>Value</source>
-            <translation type="unfinished" />
+            <translation>数值</translation>
         </message>
         <message>
             <source>Slope Value</source>
-            <translation type="unfinished" />
+            <translation>斜率值</translation>
         </message>
         <message>
             <source>Offset Value</source>
-            <translation type="unfinished" />
+            <translation>偏移值</translation>
         </message>
         <message>
             <source>mV</source>
@@ -1079,11 +1079,11 @@
         </message>
         <message>
             <source>Temperature</source>
-            <translation type="unfinished" />
+            <translation>温度</translation>
         </message>
         <message>
             <source>Measurement Detail</source>
-            <translation type="unfinished" />
+            <translation>测量详情</translation>
         </message>
     </context>
     <context>
@@ -1152,7 +1152,7 @@
         <name>MethodDelegate</name>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>删除</translation>
         </message>
     </context>
     <context>
@@ -1170,7 +1170,7 @@
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>没有可显示的数据</translation>
         </message>
     </context>
     <context>
@@ -1391,19 +1391,19 @@
         <name>SelectExportMethodsPopup</name>
         <message>
             <source>Print Methods</source>
-            <translation type="unfinished" />
+            <translation>打印方法</translation>
         </message>
         <message>
             <source>Export Methods</source>
-            <translation type="unfinished" />
+            <translation>导出方法</translation>
         </message>
         <message>
             <source>Please select at least one method to print</source>
-            <translation type="unfinished" />
+            <translation>请至少选择一个要打印的方法</translation>
         </message>
         <message>
             <source>Please select at least one method to export</source>
-            <translation type="unfinished" />
+            <translation>请至少选择一个要导出的方法</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1411,11 +1411,11 @@
         </message>
         <message>
             <source>Print Selected</source>
-            <translation type="unfinished" />
+            <translation>打印所选</translation>
         </message>
         <message>
             <source>Export Selected</source>
-            <translation type="unfinished" />
+            <translation>导出所选</translation>
         </message>
     </context>
     <context>
@@ -1738,35 +1738,35 @@
         <name>TempTableView</name>
         <message>
             <source>Edit Method | </source>
-            <translation type="unfinished" />
+            <translation>编辑方法 | </translation>
         </message>
         <message>
             <source>Edit Name and Password</source>
-            <translation type="unfinished" />
+            <translation>编辑名称和密码</translation>
         </message>
         <message>
             <source>Edit Electrode</source>
-            <translation type="unfinished" />
+            <translation>编辑电极</translation>
         </message>
         <message>
             <source>Edit Titrant</source>
-            <translation type="unfinished" />
+            <translation>编辑滴定剂</translation>
         </message>
         <message>
             <source>Edit Titration</source>
-            <translation type="unfinished" />
+            <translation>编辑滴定</translation>
         </message>
         <message>
             <source>Copy Method</source>
-            <translation type="unfinished" />
+            <translation>复制方法</translation>
         </message>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>删除方法</translation>
         </message>
         <message>
             <source>Done Editing</source>
-            <translation type="unfinished" />
+            <translation>完成编辑</translation>
         </message>
     </context>
     <context>
@@ -2171,7 +2171,7 @@
         <name>TitrantLog</name>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>滴定剂记录</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2199,7 +2199,7 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日期/时间</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2207,7 +2207,7 @@
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>平均浓度</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2223,11 +2223,11 @@
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>体积 (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>计入平均</translation>
         </message>
     </context>
     <context>
@@ -2621,19 +2621,19 @@ been saved as - </source>
         <name>Titration26</name>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>删除方法</translation>
         </message>
         <message>
             <source>Are you sure you want to delete this method?</source>
-            <translation type="unfinished" />
+            <translation>确定要删除此方法吗？</translation>
         </message>
         <message>
             <source>You will not be able to undo this action.</source>
-            <translation type="unfinished" />
+            <translation>此操作无法撤消。</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>删除</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2645,14 +2645,14 @@ been saved as - </source>
         </message>
         <message>
             <source>Your method has been deleted</source>
-            <translation type="unfinished" />
+            <translation>方法已删除</translation>
         </message>
     </context>
     <context>
         <name>Titration28</name>
         <message>
             <source>Method Quick View</source>
-            <translation type="unfinished" />
+            <translation>方法速览</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2668,11 +2668,11 @@ been saved as - </source>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>方式</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>类型</translation>
         </message>
         <message>
             <source>Close</source>
@@ -2680,18 +2680,18 @@ been saved as - </source>
         </message>
         <message>
             <source>Edit Method</source>
-            <translation type="unfinished" />
+            <translation>编辑方法</translation>
         </message>
         <message>
             <source>Use Method</source>
-            <translation type="unfinished" />
+            <translation>使用此方法</translation>
         </message>
     </context>
     <context>
         <name>TitrationLog</name>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>滴定记录</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2711,7 +2711,7 @@ been saved as - </source>
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>名称</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2719,7 +2719,7 @@ been saved as - </source>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日期/时间</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2731,15 +2731,15 @@ been saved as - </source>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>方式</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>类型</translation>
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>平均浓度</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2755,11 +2755,11 @@ been saved as - </source>
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>体积 (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>计入平均</translation>
         </message>
     </context>
     <context>
@@ -4047,15 +4047,15 @@ characters.</source>
         <name>USBDetectionPopUp</name>
         <message>
             <source>USB Drive Detected</source>
-            <translation type="unfinished" />
+            <translation>检测到 USB 驱动器</translation>
         </message>
         <message>
             <source>A USB drive with methods has been detected. Do you want to install these methods?</source>
-            <translation type="unfinished" />
+            <translation>检测到含有方法的 USB 驱动器。是否安装这些方法？</translation>
         </message>
         <message>
             <source>You may choose which methods to install on the next screen.</source>
-            <translation type="unfinished" />
+            <translation>您可以在下一个画面中选择要安装的方法。</translation>
         </message>
         <message>
             <source>Yes</source>

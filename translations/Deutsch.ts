@@ -183,7 +183,7 @@
         <name>CalibrationLog</name>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>Kalibrierprotokoll</translation>
         </message>
         <message>
             <source>Calibration Summary</source>
@@ -199,19 +199,19 @@
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Typ</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Datum/Zeit</translation>
         </message>
         <message>
             <source>Avg Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>Mittl. Steilheit (%)</translation>
         </message>
         <message>
             <source>Point</source>
-            <translation type="unfinished" />
+            <translation>Punkt</translation>
         </message>
         <message>
             <source>Buffer</source>
@@ -223,11 +223,11 @@
         </message>
         <message>
             <source>Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>Steilheit (%)</translation>
         </message>
         <message>
             <source>Temp</source>
-            <translation type="unfinished" />
+            <translation>Temp.</translation>
         </message>
     </context>
     <context>
@@ -493,15 +493,15 @@
         <name>DeleteLogConfirmPopup</name>
         <message>
             <source>Delete Data Confirm</source>
-            <translation type="unfinished" />
+            <translation>Löschen bestätigen</translation>
         </message>
         <message>
             <source>Are you sure you want to delete the entire log? This action cannot be undone.</source>
-            <translation type="unfinished" />
+            <translation>Möchten Sie wirklich das gesamte Protokoll löschen? Dieser Vorgang kann nicht rückgängig gemacht werden.</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Löschen</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -603,15 +603,15 @@
         <name>ExportCompletePopUp</name>
         <message>
             <source>Export Complete</source>
-            <translation type="unfinished" />
+            <translation>Export abgeschlossen</translation>
         </message>
         <message>
             <source>Export completed!</source>
-            <translation type="unfinished" />
+            <translation>Export abgeschlossen!</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>Sie können den USB-Stick jetzt entfernen.</translation>
         </message>
         <message>
             <source>Close</source>
@@ -622,15 +622,15 @@
         <name>ExportDateRange</name>
         <message>
             <source>Date Range</source>
-            <translation type="unfinished" />
+            <translation>Datumsbereich</translation>
         </message>
         <message>
             <source>Set From Date</source>
-            <translation type="unfinished" />
+            <translation>Startdatum einstellen</translation>
         </message>
         <message>
             <source>Set To Date</source>
-            <translation type="unfinished" />
+            <translation>Enddatum einstellen</translation>
         </message>
     </context>
     <context>
@@ -748,19 +748,19 @@
         <name>ExportLogScreen</name>
         <message>
             <source>Print Log</source>
-            <translation type="unfinished" />
+            <translation>Protokoll drucken</translation>
         </message>
         <message>
             <source>Export Log</source>
-            <translation type="unfinished" />
+            <translation>Protokoll exportieren</translation>
         </message>
         <message>
             <source>Data Set</source>
-            <translation type="unfinished" />
+            <translation>Datensätze</translation>
         </message>
         <message>
             <source>Please enter the first and the last number</source>
-            <translation type="unfinished" />
+            <translation>Bitte geben Sie die erste und die letzte Nummer ein</translation>
         </message>
         <message>
             <source>Print</source>
@@ -772,15 +772,15 @@
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>Dateityp</translation>
         </message>
         <message>
             <source>Export to</source>
-            <translation type="unfinished" />
+            <translation>Exportziel</translation>
         </message>
         <message>
             <source>Export by</source>
-            <translation type="unfinished" />
+            <translation>Auswahl nach</translation>
         </message>
         <message>
             <source>No.</source>
@@ -788,23 +788,23 @@
         </message>
         <message>
             <source>to No.</source>
-            <translation type="unfinished" />
+            <translation>bis Nr.</translation>
         </message>
         <message>
             <source>Range</source>
-            <translation type="unfinished" />
+            <translation>Zeitraum</translation>
         </message>
         <message>
             <source>From</source>
-            <translation type="unfinished" />
+            <translation>Von</translation>
         </message>
         <message>
             <source>To</source>
-            <translation type="unfinished" />
+            <translation>Bis</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>Format</translation>
         </message>
     </context>
     <context>
@@ -823,23 +823,23 @@
         </message>
         <message>
             <source>This entry has no stored report.</source>
-            <translation type="unfinished" />
+            <translation>Zu diesem Eintrag ist kein Bericht gespeichert.</translation>
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>Dateityp</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>Format</translation>
         </message>
         <message>
             <source>Short</source>
-            <translation type="unfinished" />
+            <translation>Kurz</translation>
         </message>
         <message>
             <source>Long</source>
-            <translation type="unfinished" />
+            <translation>Lang</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -850,11 +850,11 @@
         <name>ExportinProgressPopUp</name>
         <message>
             <source>Export in Progress</source>
-            <translation type="unfinished" />
+            <translation>Export läuft</translation>
         </message>
         <message>
             <source>Please do not remove your USB drive until transfer is complete.</source>
-            <translation type="unfinished" />
+            <translation>Bitte entfernen Sie den USB-Stick nicht, bevor die Übertragung abgeschlossen ist.</translation>
         </message>
     </context>
     <context>
@@ -875,19 +875,19 @@
         <name>InstallMethodsPopUp</name>
         <message>
             <source>Install Methods</source>
-            <translation type="unfinished" />
+            <translation>Methoden installieren</translation>
         </message>
         <message>
             <source>Select up to </source>
-            <translation type="unfinished" />
+            <translation>Wählen Sie bis zu </translation>
         </message>
         <message>
             <source> methods to install</source>
-            <translation type="unfinished" />
+            <translation> Methoden zur Installation</translation>
         </message>
         <message>
             <source>No method is selected</source>
-            <translation type="unfinished" />
+            <translation>Keine Methode ausgewählt</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -895,18 +895,18 @@
         </message>
         <message>
             <source>Install Selected</source>
-            <translation type="unfinished" />
+            <translation>Auswahl installieren</translation>
         </message>
     </context>
     <context>
         <name>InstallProgressPopUp</name>
         <message>
             <source>Installing Methods</source>
-            <translation type="unfinished" />
+            <translation>Methoden werden installiert</translation>
         </message>
         <message>
             <source>Installing methods: </source>
-            <translation type="unfinished" />
+            <translation>Methoden werden installiert: </translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -917,23 +917,23 @@
         <name>InstallationCompletePopUp</name>
         <message>
             <source>Installation Complete</source>
-            <translation type="unfinished" />
+            <translation>Installation abgeschlossen</translation>
         </message>
         <message>
             <source>Your methods have been installed.</source>
-            <translation type="unfinished" />
+            <translation>Ihre Methoden wurden installiert.</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>Sie können den USB-Stick jetzt entfernen.</translation>
         </message>
         <message>
             <source>View Methods</source>
-            <translation type="unfinished" />
+            <translation>Methoden anzeigen</translation>
         </message>
         <message>
             <source>Return to Home</source>
-            <translation type="unfinished" />
+            <translation>Zurück zum Start</translation>
         </message>
     </context>
     <context>
@@ -955,23 +955,23 @@
         </message>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>Titrationsprotokoll</translation>
         </message>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>Titriermittelprotokoll</translation>
         </message>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>Kalibrierprotokoll</translation>
         </message>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>Messprotokoll</translation>
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>Keine Daten vorhanden</translation>
         </message>
     </context>
     <context>
@@ -997,15 +997,15 @@
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>Name</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Datum/Zeit</translation>
         </message>
         <message>
             <source>Avg</source>
-            <translation type="unfinished" />
+            <translation>Mittel</translation>
         </message>
         <message>
             <source>Export</source>
@@ -1039,7 +1039,7 @@
         <name>MeasureLog</name>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>Messprotokoll</translation>
         </message>
         <message>
             <source>No.</source>
@@ -1051,11 +1051,11 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Datum/Zeit</translation>
         </message>
         <message>
             <source>Sensor</source>
-            <translation type="unfinished" />
+            <translation>Sensor</translation>
         </message>
         <message>
             <source>Sample ID</source>
@@ -1063,15 +1063,15 @@
         </message>
         <message>
             <source>Value</source>
-            <translation type="unfinished" />
+            <translation>Wert</translation>
         </message>
         <message>
             <source>Slope Value</source>
-            <translation type="unfinished" />
+            <translation>Steilheitswert</translation>
         </message>
         <message>
             <source>Offset Value</source>
-            <translation type="unfinished" />
+            <translation>Offsetwert</translation>
         </message>
         <message>
             <source>mV</source>
@@ -1079,11 +1079,11 @@
         </message>
         <message>
             <source>Temperature</source>
-            <translation type="unfinished" />
+            <translation>Temperatur</translation>
         </message>
         <message>
             <source>Measurement Detail</source>
-            <translation type="unfinished" />
+            <translation>Messdetails</translation>
         </message>
     </context>
     <context>
@@ -1152,7 +1152,7 @@
         <name>MethodDelegate</name>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Löschen</translation>
         </message>
     </context>
     <context>
@@ -1170,7 +1170,7 @@
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>Keine Daten vorhanden</translation>
         </message>
     </context>
     <context>
@@ -1391,19 +1391,19 @@
         <name>SelectExportMethodsPopup</name>
         <message>
             <source>Print Methods</source>
-            <translation type="unfinished" />
+            <translation>Methoden drucken</translation>
         </message>
         <message>
             <source>Export Methods</source>
-            <translation type="unfinished" />
+            <translation>Methoden exportieren</translation>
         </message>
         <message>
             <source>Please select at least one method to print</source>
-            <translation type="unfinished" />
+            <translation>Bitte wählen Sie mindestens eine Methode zum Drucken aus</translation>
         </message>
         <message>
             <source>Please select at least one method to export</source>
-            <translation type="unfinished" />
+            <translation>Bitte wählen Sie mindestens eine Methode zum Exportieren aus</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1411,11 +1411,11 @@
         </message>
         <message>
             <source>Print Selected</source>
-            <translation type="unfinished" />
+            <translation>Auswahl drucken</translation>
         </message>
         <message>
             <source>Export Selected</source>
-            <translation type="unfinished" />
+            <translation>Auswahl exportieren</translation>
         </message>
     </context>
     <context>
@@ -1738,35 +1738,35 @@
         <name>TempTableView</name>
         <message>
             <source>Edit Method | </source>
-            <translation type="unfinished" />
+            <translation>Methode bearbeiten | </translation>
         </message>
         <message>
             <source>Edit Name and Password</source>
-            <translation type="unfinished" />
+            <translation>Name und Passwort bearbeiten</translation>
         </message>
         <message>
             <source>Edit Electrode</source>
-            <translation type="unfinished" />
+            <translation>Elektrode bearbeiten</translation>
         </message>
         <message>
             <source>Edit Titrant</source>
-            <translation type="unfinished" />
+            <translation>Titriermittel bearbeiten</translation>
         </message>
         <message>
             <source>Edit Titration</source>
-            <translation type="unfinished" />
+            <translation>Titration bearbeiten</translation>
         </message>
         <message>
             <source>Copy Method</source>
-            <translation type="unfinished" />
+            <translation>Methode kopieren</translation>
         </message>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>Methode löschen</translation>
         </message>
         <message>
             <source>Done Editing</source>
-            <translation type="unfinished" />
+            <translation>Bearbeitung beenden</translation>
         </message>
     </context>
     <context>
@@ -2171,7 +2171,7 @@
         <name>TitrantLog</name>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>Titriermittelprotokoll</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2199,7 +2199,7 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Datum/Zeit</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2207,7 +2207,7 @@
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>Mittl. Konz.</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2223,11 +2223,11 @@
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>Volumen (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>Im Mittel</translation>
         </message>
     </context>
     <context>
@@ -2621,19 +2621,19 @@ gespeichert als - </translation>
         <name>Titration26</name>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>Methode löschen</translation>
         </message>
         <message>
             <source>Are you sure you want to delete this method?</source>
-            <translation type="unfinished" />
+            <translation>Möchten Sie diese Methode wirklich löschen?</translation>
         </message>
         <message>
             <source>You will not be able to undo this action.</source>
-            <translation type="unfinished" />
+            <translation>Dieser Vorgang kann nicht rückgängig gemacht werden.</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Löschen</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2645,14 +2645,14 @@ gespeichert als - </translation>
         </message>
         <message>
             <source>Your method has been deleted</source>
-            <translation type="unfinished" />
+            <translation>Ihre Methode wurde gelöscht</translation>
         </message>
     </context>
     <context>
         <name>Titration28</name>
         <message>
             <source>Method Quick View</source>
-            <translation type="unfinished" />
+            <translation>Methoden-Schnellansicht</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2668,11 +2668,11 @@ gespeichert als - </translation>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>Technik</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Typ</translation>
         </message>
         <message>
             <source>Close</source>
@@ -2680,18 +2680,18 @@ gespeichert als - </translation>
         </message>
         <message>
             <source>Edit Method</source>
-            <translation type="unfinished" />
+            <translation>Methode bearbeiten</translation>
         </message>
         <message>
             <source>Use Method</source>
-            <translation type="unfinished" />
+            <translation>Methode verwenden</translation>
         </message>
     </context>
     <context>
         <name>TitrationLog</name>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>Titrationsprotokoll</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2711,7 +2711,7 @@ gespeichert als - </translation>
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>Name</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2719,7 +2719,7 @@ gespeichert als - </translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Datum/Zeit</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2731,15 +2731,15 @@ gespeichert als - </translation>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>Technik</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Typ</translation>
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>Mittl. Konz.</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2755,11 +2755,11 @@ gespeichert als - </translation>
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>Volumen (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>Im Mittel</translation>
         </message>
     </context>
     <context>
@@ -4047,15 +4047,15 @@ Zeichen ein.</translation>
         <name>USBDetectionPopUp</name>
         <message>
             <source>USB Drive Detected</source>
-            <translation type="unfinished" />
+            <translation>USB-Stick erkannt</translation>
         </message>
         <message>
             <source>A USB drive with methods has been detected. Do you want to install these methods?</source>
-            <translation type="unfinished" />
+            <translation>Ein USB-Stick mit Methoden wurde erkannt. Möchten Sie diese Methoden installieren?</translation>
         </message>
         <message>
             <source>You may choose which methods to install on the next screen.</source>
-            <translation type="unfinished" />
+            <translation>Auf dem nächsten Bildschirm können Sie die zu installierenden Methoden auswählen.</translation>
         </message>
         <message>
             <source>Yes</source>

@@ -183,7 +183,7 @@
         <name>CalibrationLog</name>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>Journal d'étalonnage</translation>
         </message>
         <message>
             <source>Calibration Summary</source>
@@ -199,19 +199,19 @@
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Type</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Date/heure</translation>
         </message>
         <message>
             <source>Avg Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>Pente moy. (%)</translation>
         </message>
         <message>
             <source>Point</source>
-            <translation type="unfinished" />
+            <translation>Point</translation>
         </message>
         <message>
             <source>Buffer</source>
@@ -223,11 +223,11 @@
         </message>
         <message>
             <source>Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>Pente (%)</translation>
         </message>
         <message>
             <source>Temp</source>
-            <translation type="unfinished" />
+            <translation>Temp.</translation>
         </message>
     </context>
     <context>
@@ -493,15 +493,15 @@
         <name>DeleteLogConfirmPopup</name>
         <message>
             <source>Delete Data Confirm</source>
-            <translation type="unfinished" />
+            <translation>Confirmer la suppression</translation>
         </message>
         <message>
             <source>Are you sure you want to delete the entire log? This action cannot be undone.</source>
-            <translation type="unfinished" />
+            <translation>Voulez-vous vraiment supprimer tout le journal ? Cette action est irréversible.</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Supprimer</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -603,15 +603,15 @@
         <name>ExportCompletePopUp</name>
         <message>
             <source>Export Complete</source>
-            <translation type="unfinished" />
+            <translation>Exportation terminée</translation>
         </message>
         <message>
             <source>Export completed!</source>
-            <translation type="unfinished" />
+            <translation>Exportation terminée !</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>Vous pouvez maintenant retirer la clé USB.</translation>
         </message>
         <message>
             <source>Close</source>
@@ -622,15 +622,15 @@
         <name>ExportDateRange</name>
         <message>
             <source>Date Range</source>
-            <translation type="unfinished" />
+            <translation>Plage de dates</translation>
         </message>
         <message>
             <source>Set From Date</source>
-            <translation type="unfinished" />
+            <translation>Régler la date de début</translation>
         </message>
         <message>
             <source>Set To Date</source>
-            <translation type="unfinished" />
+            <translation>Régler la date de fin</translation>
         </message>
     </context>
     <context>
@@ -748,19 +748,19 @@
         <name>ExportLogScreen</name>
         <message>
             <source>Print Log</source>
-            <translation type="unfinished" />
+            <translation>Imprimer le journal</translation>
         </message>
         <message>
             <source>Export Log</source>
-            <translation type="unfinished" />
+            <translation>Exporter le journal</translation>
         </message>
         <message>
             <source>Data Set</source>
-            <translation type="unfinished" />
+            <translation>Jeu de données</translation>
         </message>
         <message>
             <source>Please enter the first and the last number</source>
-            <translation type="unfinished" />
+            <translation>Veuillez saisir le premier et le dernier numéro</translation>
         </message>
         <message>
             <source>Print</source>
@@ -772,15 +772,15 @@
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>Type de fichier</translation>
         </message>
         <message>
             <source>Export to</source>
-            <translation type="unfinished" />
+            <translation>Exporter vers</translation>
         </message>
         <message>
             <source>Export by</source>
-            <translation type="unfinished" />
+            <translation>Exporter par</translation>
         </message>
         <message>
             <source>No.</source>
@@ -788,23 +788,23 @@
         </message>
         <message>
             <source>to No.</source>
-            <translation type="unfinished" />
+            <translation>au n°</translation>
         </message>
         <message>
             <source>Range</source>
-            <translation type="unfinished" />
+            <translation>Période</translation>
         </message>
         <message>
             <source>From</source>
-            <translation type="unfinished" />
+            <translation>Du</translation>
         </message>
         <message>
             <source>To</source>
-            <translation type="unfinished" />
+            <translation>Au</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>Format</translation>
         </message>
     </context>
     <context>
@@ -823,23 +823,23 @@
         </message>
         <message>
             <source>This entry has no stored report.</source>
-            <translation type="unfinished" />
+            <translation>Cette entrée n'a pas de rapport enregistré.</translation>
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>Type de fichier</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>Format</translation>
         </message>
         <message>
             <source>Short</source>
-            <translation type="unfinished" />
+            <translation>Court</translation>
         </message>
         <message>
             <source>Long</source>
-            <translation type="unfinished" />
+            <translation>Long</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -850,11 +850,11 @@
         <name>ExportinProgressPopUp</name>
         <message>
             <source>Export in Progress</source>
-            <translation type="unfinished" />
+            <translation>Exportation en cours</translation>
         </message>
         <message>
             <source>Please do not remove your USB drive until transfer is complete.</source>
-            <translation type="unfinished" />
+            <translation>Ne retirez pas la clé USB avant la fin du transfert.</translation>
         </message>
     </context>
     <context>
@@ -875,19 +875,19 @@
         <name>InstallMethodsPopUp</name>
         <message>
             <source>Install Methods</source>
-            <translation type="unfinished" />
+            <translation>Installer des méthodes</translation>
         </message>
         <message>
             <source>Select up to </source>
-            <translation type="unfinished" />
+            <translation>Sélectionnez jusqu'à </translation>
         </message>
         <message>
             <source> methods to install</source>
-            <translation type="unfinished" />
+            <translation> méthodes à installer</translation>
         </message>
         <message>
             <source>No method is selected</source>
-            <translation type="unfinished" />
+            <translation>Aucune méthode sélectionnée</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -895,18 +895,18 @@
         </message>
         <message>
             <source>Install Selected</source>
-            <translation type="unfinished" />
+            <translation>Installer la sélection</translation>
         </message>
     </context>
     <context>
         <name>InstallProgressPopUp</name>
         <message>
             <source>Installing Methods</source>
-            <translation type="unfinished" />
+            <translation>Installation des méthodes</translation>
         </message>
         <message>
             <source>Installing methods: </source>
-            <translation type="unfinished" />
+            <translation>Installation des méthodes : </translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -917,23 +917,23 @@
         <name>InstallationCompletePopUp</name>
         <message>
             <source>Installation Complete</source>
-            <translation type="unfinished" />
+            <translation>Installation terminée</translation>
         </message>
         <message>
             <source>Your methods have been installed.</source>
-            <translation type="unfinished" />
+            <translation>Vos méthodes ont été installées.</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>Vous pouvez maintenant retirer la clé USB.</translation>
         </message>
         <message>
             <source>View Methods</source>
-            <translation type="unfinished" />
+            <translation>Voir les méthodes</translation>
         </message>
         <message>
             <source>Return to Home</source>
-            <translation type="unfinished" />
+            <translation>Retour à l'accueil</translation>
         </message>
     </context>
     <context>
@@ -955,23 +955,23 @@
         </message>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>Journal des titrages</translation>
         </message>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>Journal des titrants</translation>
         </message>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>Journal d'étalonnage</translation>
         </message>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>Journal de mesures</translation>
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>Aucune donnée à afficher</translation>
         </message>
     </context>
     <context>
@@ -997,15 +997,15 @@
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>Nom</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Date/heure</translation>
         </message>
         <message>
             <source>Avg</source>
-            <translation type="unfinished" />
+            <translation>Moy.</translation>
         </message>
         <message>
             <source>Export</source>
@@ -1039,7 +1039,7 @@
         <name>MeasureLog</name>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>Journal de mesures</translation>
         </message>
         <message>
             <source>No.</source>
@@ -1051,11 +1051,11 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Date/heure</translation>
         </message>
         <message>
             <source>Sensor</source>
-            <translation type="unfinished" />
+            <translation>Capteur</translation>
         </message>
         <message>
             <source>Sample ID</source>
@@ -1063,15 +1063,15 @@
         </message>
         <message>
             <source>Value</source>
-            <translation type="unfinished" />
+            <translation>Valeur</translation>
         </message>
         <message>
             <source>Slope Value</source>
-            <translation type="unfinished" />
+            <translation>Valeur de pente</translation>
         </message>
         <message>
             <source>Offset Value</source>
-            <translation type="unfinished" />
+            <translation>Valeur de décalage</translation>
         </message>
         <message>
             <source>mV</source>
@@ -1079,11 +1079,11 @@
         </message>
         <message>
             <source>Temperature</source>
-            <translation type="unfinished" />
+            <translation>Température</translation>
         </message>
         <message>
             <source>Measurement Detail</source>
-            <translation type="unfinished" />
+            <translation>Détail de la mesure</translation>
         </message>
     </context>
     <context>
@@ -1152,7 +1152,7 @@
         <name>MethodDelegate</name>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Supprimer</translation>
         </message>
     </context>
     <context>
@@ -1170,7 +1170,7 @@
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>Aucune donnée à afficher</translation>
         </message>
     </context>
     <context>
@@ -1391,19 +1391,19 @@
         <name>SelectExportMethodsPopup</name>
         <message>
             <source>Print Methods</source>
-            <translation type="unfinished" />
+            <translation>Imprimer des méthodes</translation>
         </message>
         <message>
             <source>Export Methods</source>
-            <translation type="unfinished" />
+            <translation>Exporter des méthodes</translation>
         </message>
         <message>
             <source>Please select at least one method to print</source>
-            <translation type="unfinished" />
+            <translation>Veuillez sélectionner au moins une méthode à imprimer</translation>
         </message>
         <message>
             <source>Please select at least one method to export</source>
-            <translation type="unfinished" />
+            <translation>Veuillez sélectionner au moins une méthode à exporter</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1411,11 +1411,11 @@
         </message>
         <message>
             <source>Print Selected</source>
-            <translation type="unfinished" />
+            <translation>Imprimer la sélection</translation>
         </message>
         <message>
             <source>Export Selected</source>
-            <translation type="unfinished" />
+            <translation>Exporter la sélection</translation>
         </message>
     </context>
     <context>
@@ -1738,35 +1738,35 @@
         <name>TempTableView</name>
         <message>
             <source>Edit Method | </source>
-            <translation type="unfinished" />
+            <translation>Modifier la méthode | </translation>
         </message>
         <message>
             <source>Edit Name and Password</source>
-            <translation type="unfinished" />
+            <translation>Modifier nom et mot de passe</translation>
         </message>
         <message>
             <source>Edit Electrode</source>
-            <translation type="unfinished" />
+            <translation>Modifier l'électrode</translation>
         </message>
         <message>
             <source>Edit Titrant</source>
-            <translation type="unfinished" />
+            <translation>Modifier le titrant</translation>
         </message>
         <message>
             <source>Edit Titration</source>
-            <translation type="unfinished" />
+            <translation>Modifier le titrage</translation>
         </message>
         <message>
             <source>Copy Method</source>
-            <translation type="unfinished" />
+            <translation>Copier la méthode</translation>
         </message>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>Supprimer la méthode</translation>
         </message>
         <message>
             <source>Done Editing</source>
-            <translation type="unfinished" />
+            <translation>Fin des modifications</translation>
         </message>
     </context>
     <context>
@@ -2171,7 +2171,7 @@
         <name>TitrantLog</name>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>Journal des titrants</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2199,7 +2199,7 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Date/heure</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2207,7 +2207,7 @@
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>Conc. moy.</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2223,11 +2223,11 @@
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>Volume (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>Dans moy.</translation>
         </message>
     </context>
     <context>
@@ -2621,19 +2621,19 @@ been saved as - </source>
         <name>Titration26</name>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>Supprimer la méthode</translation>
         </message>
         <message>
             <source>Are you sure you want to delete this method?</source>
-            <translation type="unfinished" />
+            <translation>Voulez-vous vraiment supprimer cette méthode ?</translation>
         </message>
         <message>
             <source>You will not be able to undo this action.</source>
-            <translation type="unfinished" />
+            <translation>Cette action est irréversible.</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Supprimer</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2645,14 +2645,14 @@ been saved as - </source>
         </message>
         <message>
             <source>Your method has been deleted</source>
-            <translation type="unfinished" />
+            <translation>Votre méthode a été supprimée</translation>
         </message>
     </context>
     <context>
         <name>Titration28</name>
         <message>
             <source>Method Quick View</source>
-            <translation type="unfinished" />
+            <translation>Aperçu de la méthode</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2668,11 +2668,11 @@ been saved as - </source>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>Technique</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Type</translation>
         </message>
         <message>
             <source>Close</source>
@@ -2680,18 +2680,18 @@ been saved as - </source>
         </message>
         <message>
             <source>Edit Method</source>
-            <translation type="unfinished" />
+            <translation>Modifier la méthode</translation>
         </message>
         <message>
             <source>Use Method</source>
-            <translation type="unfinished" />
+            <translation>Utiliser la méthode</translation>
         </message>
     </context>
     <context>
         <name>TitrationLog</name>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>Journal des titrages</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2711,7 +2711,7 @@ been saved as - </source>
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>Nom</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2719,7 +2719,7 @@ been saved as - </source>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Date/heure</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2731,15 +2731,15 @@ been saved as - </source>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>Technique</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Type</translation>
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>Conc. moy.</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2755,11 +2755,11 @@ been saved as - </source>
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>Volume (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>Dans moy.</translation>
         </message>
     </context>
     <context>
@@ -4047,15 +4047,15 @@ alphanumériques.</translation>
         <name>USBDetectionPopUp</name>
         <message>
             <source>USB Drive Detected</source>
-            <translation type="unfinished" />
+            <translation>Clé USB détectée</translation>
         </message>
         <message>
             <source>A USB drive with methods has been detected. Do you want to install these methods?</source>
-            <translation type="unfinished" />
+            <translation>Une clé USB contenant des méthodes a été détectée. Voulez-vous installer ces méthodes ?</translation>
         </message>
         <message>
             <source>You may choose which methods to install on the next screen.</source>
-            <translation type="unfinished" />
+            <translation>Vous pourrez choisir les méthodes à installer à l'écran suivant.</translation>
         </message>
         <message>
             <source>Yes</source>

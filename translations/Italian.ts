@@ -183,7 +183,7 @@
         <name>CalibrationLog</name>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>Registro calibrazioni</translation>
         </message>
         <message>
             <source>Calibration Summary</source>
@@ -199,19 +199,19 @@
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Tipo</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Data/ora</translation>
         </message>
         <message>
             <source>Avg Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>Pendenza media (%)</translation>
         </message>
         <message>
             <source>Point</source>
-            <translation type="unfinished" />
+            <translation>Punto</translation>
         </message>
         <message>
             <source>Buffer</source>
@@ -223,11 +223,11 @@
         </message>
         <message>
             <source>Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>Pendenza (%)</translation>
         </message>
         <message>
             <source>Temp</source>
-            <translation type="unfinished" />
+            <translation>Temp.</translation>
         </message>
     </context>
     <context>
@@ -493,15 +493,15 @@
         <name>DeleteLogConfirmPopup</name>
         <message>
             <source>Delete Data Confirm</source>
-            <translation type="unfinished" />
+            <translation>Conferma eliminazione</translation>
         </message>
         <message>
             <source>Are you sure you want to delete the entire log? This action cannot be undone.</source>
-            <translation type="unfinished" />
+            <translation>Eliminare l'intero registro? L'operazione non può essere annullata.</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Elimina</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -603,15 +603,15 @@
         <name>ExportCompletePopUp</name>
         <message>
             <source>Export Complete</source>
-            <translation type="unfinished" />
+            <translation>Esportazione completata</translation>
         </message>
         <message>
             <source>Export completed!</source>
-            <translation type="unfinished" />
+            <translation>Esportazione completata!</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>Ora è possibile rimuovere la chiavetta USB.</translation>
         </message>
         <message>
             <source>Close</source>
@@ -622,15 +622,15 @@
         <name>ExportDateRange</name>
         <message>
             <source>Date Range</source>
-            <translation type="unfinished" />
+            <translation>Intervallo di date</translation>
         </message>
         <message>
             <source>Set From Date</source>
-            <translation type="unfinished" />
+            <translation>Imposta data iniziale</translation>
         </message>
         <message>
             <source>Set To Date</source>
-            <translation type="unfinished" />
+            <translation>Imposta data finale</translation>
         </message>
     </context>
     <context>
@@ -748,19 +748,19 @@
         <name>ExportLogScreen</name>
         <message>
             <source>Print Log</source>
-            <translation type="unfinished" />
+            <translation>Stampa registro</translation>
         </message>
         <message>
             <source>Export Log</source>
-            <translation type="unfinished" />
+            <translation>Esporta registro</translation>
         </message>
         <message>
             <source>Data Set</source>
-            <translation type="unfinished" />
+            <translation>Set di dati</translation>
         </message>
         <message>
             <source>Please enter the first and the last number</source>
-            <translation type="unfinished" />
+            <translation>Inserire il primo e l'ultimo numero</translation>
         </message>
         <message>
             <source>Print</source>
@@ -772,15 +772,15 @@
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>Tipo di file</translation>
         </message>
         <message>
             <source>Export to</source>
-            <translation type="unfinished" />
+            <translation>Esporta su</translation>
         </message>
         <message>
             <source>Export by</source>
-            <translation type="unfinished" />
+            <translation>Esporta per</translation>
         </message>
         <message>
             <source>No.</source>
@@ -788,23 +788,23 @@
         </message>
         <message>
             <source>to No.</source>
-            <translation type="unfinished" />
+            <translation>al n.</translation>
         </message>
         <message>
             <source>Range</source>
-            <translation type="unfinished" />
+            <translation>Periodo</translation>
         </message>
         <message>
             <source>From</source>
-            <translation type="unfinished" />
+            <translation>Dal</translation>
         </message>
         <message>
             <source>To</source>
-            <translation type="unfinished" />
+            <translation>Al</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>Formato</translation>
         </message>
     </context>
     <context>
@@ -823,23 +823,23 @@
         </message>
         <message>
             <source>This entry has no stored report.</source>
-            <translation type="unfinished" />
+            <translation>Per questa voce non è stato salvato alcun rapporto.</translation>
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>Tipo di file</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>Formato</translation>
         </message>
         <message>
             <source>Short</source>
-            <translation type="unfinished" />
+            <translation>Breve</translation>
         </message>
         <message>
             <source>Long</source>
-            <translation type="unfinished" />
+            <translation>Lungo</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -850,11 +850,11 @@
         <name>ExportinProgressPopUp</name>
         <message>
             <source>Export in Progress</source>
-            <translation type="unfinished" />
+            <translation>Esportazione in corso</translation>
         </message>
         <message>
             <source>Please do not remove your USB drive until transfer is complete.</source>
-            <translation type="unfinished" />
+            <translation>Non rimuovere la chiavetta USB fino al termine del trasferimento.</translation>
         </message>
     </context>
     <context>
@@ -875,19 +875,19 @@
         <name>InstallMethodsPopUp</name>
         <message>
             <source>Install Methods</source>
-            <translation type="unfinished" />
+            <translation>Installa metodi</translation>
         </message>
         <message>
             <source>Select up to </source>
-            <translation type="unfinished" />
+            <translation>Selezionare fino a </translation>
         </message>
         <message>
             <source> methods to install</source>
-            <translation type="unfinished" />
+            <translation> metodi da installare</translation>
         </message>
         <message>
             <source>No method is selected</source>
-            <translation type="unfinished" />
+            <translation>Nessun metodo selezionato</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -895,18 +895,18 @@
         </message>
         <message>
             <source>Install Selected</source>
-            <translation type="unfinished" />
+            <translation>Installa selezionati</translation>
         </message>
     </context>
     <context>
         <name>InstallProgressPopUp</name>
         <message>
             <source>Installing Methods</source>
-            <translation type="unfinished" />
+            <translation>Installazione metodi</translation>
         </message>
         <message>
             <source>Installing methods: </source>
-            <translation type="unfinished" />
+            <translation>Installazione metodi: </translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -917,23 +917,23 @@
         <name>InstallationCompletePopUp</name>
         <message>
             <source>Installation Complete</source>
-            <translation type="unfinished" />
+            <translation>Installazione completata</translation>
         </message>
         <message>
             <source>Your methods have been installed.</source>
-            <translation type="unfinished" />
+            <translation>I metodi sono stati installati.</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>Ora è possibile rimuovere la chiavetta USB.</translation>
         </message>
         <message>
             <source>View Methods</source>
-            <translation type="unfinished" />
+            <translation>Vedi metodi</translation>
         </message>
         <message>
             <source>Return to Home</source>
-            <translation type="unfinished" />
+            <translation>Torna alla Home</translation>
         </message>
     </context>
     <context>
@@ -955,23 +955,23 @@
         </message>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>Registro titolazioni</translation>
         </message>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>Registro titolanti</translation>
         </message>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>Registro calibrazioni</translation>
         </message>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>Registro misure</translation>
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>Nessun dato da visualizzare</translation>
         </message>
     </context>
     <context>
@@ -997,15 +997,15 @@
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>Nome</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Data/ora</translation>
         </message>
         <message>
             <source>Avg</source>
-            <translation type="unfinished" />
+            <translation>Media</translation>
         </message>
         <message>
             <source>Export</source>
@@ -1039,7 +1039,7 @@
         <name>MeasureLog</name>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>Registro misure</translation>
         </message>
         <message>
             <source>No.</source>
@@ -1051,11 +1051,11 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Data/ora</translation>
         </message>
         <message>
             <source>Sensor</source>
-            <translation type="unfinished" />
+            <translation>Sensore</translation>
         </message>
         <message>
             <source>Sample ID</source>
@@ -1063,15 +1063,15 @@
         </message>
         <message>
             <source>Value</source>
-            <translation type="unfinished" />
+            <translation>Valore</translation>
         </message>
         <message>
             <source>Slope Value</source>
-            <translation type="unfinished" />
+            <translation>Valore pendenza</translation>
         </message>
         <message>
             <source>Offset Value</source>
-            <translation type="unfinished" />
+            <translation>Valore offset</translation>
         </message>
         <message>
             <source>mV</source>
@@ -1079,11 +1079,11 @@
         </message>
         <message>
             <source>Temperature</source>
-            <translation type="unfinished" />
+            <translation>Temperatura</translation>
         </message>
         <message>
             <source>Measurement Detail</source>
-            <translation type="unfinished" />
+            <translation>Dettagli misura</translation>
         </message>
     </context>
     <context>
@@ -1152,7 +1152,7 @@
         <name>MethodDelegate</name>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Elimina</translation>
         </message>
     </context>
     <context>
@@ -1170,7 +1170,7 @@
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>Nessun dato da visualizzare</translation>
         </message>
     </context>
     <context>
@@ -1391,19 +1391,19 @@
         <name>SelectExportMethodsPopup</name>
         <message>
             <source>Print Methods</source>
-            <translation type="unfinished" />
+            <translation>Stampa metodi</translation>
         </message>
         <message>
             <source>Export Methods</source>
-            <translation type="unfinished" />
+            <translation>Esporta metodi</translation>
         </message>
         <message>
             <source>Please select at least one method to print</source>
-            <translation type="unfinished" />
+            <translation>Selezionare almeno un metodo da stampare</translation>
         </message>
         <message>
             <source>Please select at least one method to export</source>
-            <translation type="unfinished" />
+            <translation>Selezionare almeno un metodo da esportare</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1411,11 +1411,11 @@
         </message>
         <message>
             <source>Print Selected</source>
-            <translation type="unfinished" />
+            <translation>Stampa selezionati</translation>
         </message>
         <message>
             <source>Export Selected</source>
-            <translation type="unfinished" />
+            <translation>Esporta selezionati</translation>
         </message>
     </context>
     <context>
@@ -1738,35 +1738,35 @@
         <name>TempTableView</name>
         <message>
             <source>Edit Method | </source>
-            <translation type="unfinished" />
+            <translation>Modifica metodo | </translation>
         </message>
         <message>
             <source>Edit Name and Password</source>
-            <translation type="unfinished" />
+            <translation>Modifica nome e password</translation>
         </message>
         <message>
             <source>Edit Electrode</source>
-            <translation type="unfinished" />
+            <translation>Modifica elettrodo</translation>
         </message>
         <message>
             <source>Edit Titrant</source>
-            <translation type="unfinished" />
+            <translation>Modifica titolante</translation>
         </message>
         <message>
             <source>Edit Titration</source>
-            <translation type="unfinished" />
+            <translation>Modifica titolazione</translation>
         </message>
         <message>
             <source>Copy Method</source>
-            <translation type="unfinished" />
+            <translation>Copia metodo</translation>
         </message>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>Elimina metodo</translation>
         </message>
         <message>
             <source>Done Editing</source>
-            <translation type="unfinished" />
+            <translation>Fine modifica</translation>
         </message>
     </context>
     <context>
@@ -2171,7 +2171,7 @@
         <name>TitrantLog</name>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>Registro titolanti</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2199,7 +2199,7 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Data/ora</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2207,7 +2207,7 @@
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>Conc. media</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2223,11 +2223,11 @@
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>Volume (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>In media</translation>
         </message>
     </context>
     <context>
@@ -2621,19 +2621,19 @@ salvato come - </translation>
         <name>Titration26</name>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>Elimina metodo</translation>
         </message>
         <message>
             <source>Are you sure you want to delete this method?</source>
-            <translation type="unfinished" />
+            <translation>Eliminare questo metodo?</translation>
         </message>
         <message>
             <source>You will not be able to undo this action.</source>
-            <translation type="unfinished" />
+            <translation>L'operazione non potrà essere annullata.</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>Elimina</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2645,14 +2645,14 @@ salvato come - </translation>
         </message>
         <message>
             <source>Your method has been deleted</source>
-            <translation type="unfinished" />
+            <translation>Il metodo è stato eliminato</translation>
         </message>
     </context>
     <context>
         <name>Titration28</name>
         <message>
             <source>Method Quick View</source>
-            <translation type="unfinished" />
+            <translation>Anteprima metodo</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2668,11 +2668,11 @@ salvato come - </translation>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>Tecnica</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Tipo</translation>
         </message>
         <message>
             <source>Close</source>
@@ -2680,18 +2680,18 @@ salvato come - </translation>
         </message>
         <message>
             <source>Edit Method</source>
-            <translation type="unfinished" />
+            <translation>Modifica metodo</translation>
         </message>
         <message>
             <source>Use Method</source>
-            <translation type="unfinished" />
+            <translation>Usa metodo</translation>
         </message>
     </context>
     <context>
         <name>TitrationLog</name>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>Registro titolazioni</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2711,7 +2711,7 @@ salvato come - </translation>
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>Nome</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2719,7 +2719,7 @@ salvato come - </translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>Data/ora</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2731,15 +2731,15 @@ salvato come - </translation>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>Tecnica</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>Tipo</translation>
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>Conc. media</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2755,11 +2755,11 @@ salvato come - </translation>
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>Volume (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>In media</translation>
         </message>
     </context>
     <context>
@@ -4047,15 +4047,15 @@ alfanumerici.</translation>
         <name>USBDetectionPopUp</name>
         <message>
             <source>USB Drive Detected</source>
-            <translation type="unfinished" />
+            <translation>Chiavetta USB rilevata</translation>
         </message>
         <message>
             <source>A USB drive with methods has been detected. Do you want to install these methods?</source>
-            <translation type="unfinished" />
+            <translation>È stata rilevata una chiavetta USB con metodi. Installare questi metodi?</translation>
         </message>
         <message>
             <source>You may choose which methods to install on the next screen.</source>
-            <translation type="unfinished" />
+            <translation>Nella schermata successiva è possibile scegliere i metodi da installare.</translation>
         </message>
         <message>
             <source>Yes</source>

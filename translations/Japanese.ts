@@ -183,7 +183,7 @@
         <name>CalibrationLog</name>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>校正記録</translation>
         </message>
         <message>
             <source>Calibration Summary</source>
@@ -199,19 +199,19 @@
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>種類</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日時</translation>
         </message>
         <message>
             <source>Avg Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>平均スロープ (%)</translation>
         </message>
         <message>
             <source>Point</source>
-            <translation type="unfinished" />
+            <translation>校正点</translation>
         </message>
         <message>
             <source>Buffer</source>
@@ -223,11 +223,11 @@
         </message>
         <message>
             <source>Slope (%)</source>
-            <translation type="unfinished" />
+            <translation>スロープ (%)</translation>
         </message>
         <message>
             <source>Temp</source>
-            <translation type="unfinished" />
+            <translation>温度</translation>
         </message>
     </context>
     <context>
@@ -493,15 +493,15 @@
         <name>DeleteLogConfirmPopup</name>
         <message>
             <source>Delete Data Confirm</source>
-            <translation type="unfinished" />
+            <translation>データ削除の確認</translation>
         </message>
         <message>
             <source>Are you sure you want to delete the entire log? This action cannot be undone.</source>
-            <translation type="unfinished" />
+            <translation>記録をすべて削除しますか？この操作は元に戻せません。</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>削除</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -603,15 +603,15 @@
         <name>ExportCompletePopUp</name>
         <message>
             <source>Export Complete</source>
-            <translation type="unfinished" />
+            <translation>エクスポート完了</translation>
         </message>
         <message>
             <source>Export completed!</source>
-            <translation type="unfinished" />
+            <translation>エクスポートが完了しました。</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>USB ドライブを取り外してもかまいません。</translation>
         </message>
         <message>
             <source>Close</source>
@@ -622,15 +622,15 @@
         <name>ExportDateRange</name>
         <message>
             <source>Date Range</source>
-            <translation type="unfinished" />
+            <translation>日付範囲</translation>
         </message>
         <message>
             <source>Set From Date</source>
-            <translation type="unfinished" />
+            <translation>開始日の設定</translation>
         </message>
         <message>
             <source>Set To Date</source>
-            <translation type="unfinished" />
+            <translation>終了日の設定</translation>
         </message>
     </context>
     <context>
@@ -748,19 +748,19 @@
         <name>ExportLogScreen</name>
         <message>
             <source>Print Log</source>
-            <translation type="unfinished" />
+            <translation>記録の印刷</translation>
         </message>
         <message>
             <source>Export Log</source>
-            <translation type="unfinished" />
+            <translation>記録のエクスポート</translation>
         </message>
         <message>
             <source>Data Set</source>
-            <translation type="unfinished" />
+            <translation>データセット</translation>
         </message>
         <message>
             <source>Please enter the first and the last number</source>
-            <translation type="unfinished" />
+            <translation>最初と最後の番号を入力してください</translation>
         </message>
         <message>
             <source>Print</source>
@@ -772,15 +772,15 @@
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>ファイル形式</translation>
         </message>
         <message>
             <source>Export to</source>
-            <translation type="unfinished" />
+            <translation>エクスポート先</translation>
         </message>
         <message>
             <source>Export by</source>
-            <translation type="unfinished" />
+            <translation>エクスポート範囲</translation>
         </message>
         <message>
             <source>No.</source>
@@ -788,23 +788,23 @@
         </message>
         <message>
             <source>to No.</source>
-            <translation type="unfinished" />
+            <translation>～番号</translation>
         </message>
         <message>
             <source>Range</source>
-            <translation type="unfinished" />
+            <translation>期間</translation>
         </message>
         <message>
             <source>From</source>
-            <translation type="unfinished" />
+            <translation>開始</translation>
         </message>
         <message>
             <source>To</source>
-            <translation type="unfinished" />
+            <translation>終了</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>形式</translation>
         </message>
     </context>
     <context>
@@ -823,23 +823,23 @@
         </message>
         <message>
             <source>This entry has no stored report.</source>
-            <translation type="unfinished" />
+            <translation>この項目には保存されたレポートがありません。</translation>
         </message>
         <message>
             <source>File Type</source>
-            <translation type="unfinished" />
+            <translation>ファイル形式</translation>
         </message>
         <message>
             <source>Format</source>
-            <translation type="unfinished" />
+            <translation>形式</translation>
         </message>
         <message>
             <source>Short</source>
-            <translation type="unfinished" />
+            <translation>簡易</translation>
         </message>
         <message>
             <source>Long</source>
-            <translation type="unfinished" />
+            <translation>詳細</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -850,11 +850,11 @@
         <name>ExportinProgressPopUp</name>
         <message>
             <source>Export in Progress</source>
-            <translation type="unfinished" />
+            <translation>エクスポート中</translation>
         </message>
         <message>
             <source>Please do not remove your USB drive until transfer is complete.</source>
-            <translation type="unfinished" />
+            <translation>転送が完了するまで USB ドライブを取り外さないでください。</translation>
         </message>
     </context>
     <context>
@@ -875,19 +875,19 @@
         <name>InstallMethodsPopUp</name>
         <message>
             <source>Install Methods</source>
-            <translation type="unfinished" />
+            <translation>メソッドのインストール</translation>
         </message>
         <message>
             <source>Select up to </source>
-            <translation type="unfinished" />
+            <translation>インストールするメソッドを最大 </translation>
         </message>
         <message>
             <source> methods to install</source>
-            <translation type="unfinished" />
+            <translation> 件まで選択してください</translation>
         </message>
         <message>
             <source>No method is selected</source>
-            <translation type="unfinished" />
+            <translation>メソッドが選択されていません</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -895,18 +895,18 @@
         </message>
         <message>
             <source>Install Selected</source>
-            <translation type="unfinished" />
+            <translation>選択をインストール</translation>
         </message>
     </context>
     <context>
         <name>InstallProgressPopUp</name>
         <message>
             <source>Installing Methods</source>
-            <translation type="unfinished" />
+            <translation>メソッドをインストール中</translation>
         </message>
         <message>
             <source>Installing methods: </source>
-            <translation type="unfinished" />
+            <translation>メソッドをインストール中: </translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -917,23 +917,23 @@
         <name>InstallationCompletePopUp</name>
         <message>
             <source>Installation Complete</source>
-            <translation type="unfinished" />
+            <translation>インストール完了</translation>
         </message>
         <message>
             <source>Your methods have been installed.</source>
-            <translation type="unfinished" />
+            <translation>メソッドをインストールしました。</translation>
         </message>
         <message>
             <source>You may now remove your USB drive.</source>
-            <translation type="unfinished" />
+            <translation>USB ドライブを取り外してもかまいません。</translation>
         </message>
         <message>
             <source>View Methods</source>
-            <translation type="unfinished" />
+            <translation>メソッドを表示</translation>
         </message>
         <message>
             <source>Return to Home</source>
-            <translation type="unfinished" />
+            <translation>ホームに戻る</translation>
         </message>
     </context>
     <context>
@@ -955,23 +955,23 @@
         </message>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>滴定記録</translation>
         </message>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>滴定液記録</translation>
         </message>
         <message>
             <source>Calibration Log</source>
-            <translation type="unfinished" />
+            <translation>校正記録</translation>
         </message>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>測定記録</translation>
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>表示するデータがありません</translation>
         </message>
     </context>
     <context>
@@ -997,15 +997,15 @@
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>名前</translation>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日時</translation>
         </message>
         <message>
             <source>Avg</source>
-            <translation type="unfinished" />
+            <translation>平均</translation>
         </message>
         <message>
             <source>Export</source>
@@ -1039,7 +1039,7 @@
         <name>MeasureLog</name>
         <message>
             <source>Measurement Log</source>
-            <translation type="unfinished" />
+            <translation>測定記録</translation>
         </message>
         <message>
             <source>No.</source>
@@ -1051,11 +1051,11 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日時</translation>
         </message>
         <message>
             <source>Sensor</source>
-            <translation type="unfinished" />
+            <translation>センサー</translation>
         </message>
         <message>
             <source>Sample ID</source>
@@ -1063,15 +1063,15 @@
         </message>
         <message>
             <source>Value</source>
-            <translation type="unfinished" />
+            <translation>値</translation>
         </message>
         <message>
             <source>Slope Value</source>
-            <translation type="unfinished" />
+            <translation>スロープ値</translation>
         </message>
         <message>
             <source>Offset Value</source>
-            <translation type="unfinished" />
+            <translation>オフセット値</translation>
         </message>
         <message>
             <source>mV</source>
@@ -1079,11 +1079,11 @@
         </message>
         <message>
             <source>Temperature</source>
-            <translation type="unfinished" />
+            <translation>温度</translation>
         </message>
         <message>
             <source>Measurement Detail</source>
-            <translation type="unfinished" />
+            <translation>測定の詳細</translation>
         </message>
     </context>
     <context>
@@ -1152,7 +1152,7 @@
         <name>MethodDelegate</name>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>削除</translation>
         </message>
     </context>
     <context>
@@ -1170,7 +1170,7 @@
         </message>
         <message>
             <source>There is no data to display</source>
-            <translation type="unfinished" />
+            <translation>表示するデータがありません</translation>
         </message>
     </context>
     <context>
@@ -1391,19 +1391,19 @@
         <name>SelectExportMethodsPopup</name>
         <message>
             <source>Print Methods</source>
-            <translation type="unfinished" />
+            <translation>メソッドの印刷</translation>
         </message>
         <message>
             <source>Export Methods</source>
-            <translation type="unfinished" />
+            <translation>メソッドのエクスポート</translation>
         </message>
         <message>
             <source>Please select at least one method to print</source>
-            <translation type="unfinished" />
+            <translation>印刷するメソッドを 1 つ以上選択してください</translation>
         </message>
         <message>
             <source>Please select at least one method to export</source>
-            <translation type="unfinished" />
+            <translation>エクスポートするメソッドを 1 つ以上選択してください</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1411,11 +1411,11 @@
         </message>
         <message>
             <source>Print Selected</source>
-            <translation type="unfinished" />
+            <translation>選択を印刷</translation>
         </message>
         <message>
             <source>Export Selected</source>
-            <translation type="unfinished" />
+            <translation>選択をエクスポート</translation>
         </message>
     </context>
     <context>
@@ -1738,35 +1738,35 @@
         <name>TempTableView</name>
         <message>
             <source>Edit Method | </source>
-            <translation type="unfinished" />
+            <translation>メソッドの編集 | </translation>
         </message>
         <message>
             <source>Edit Name and Password</source>
-            <translation type="unfinished" />
+            <translation>名前とパスワードの編集</translation>
         </message>
         <message>
             <source>Edit Electrode</source>
-            <translation type="unfinished" />
+            <translation>電極の編集</translation>
         </message>
         <message>
             <source>Edit Titrant</source>
-            <translation type="unfinished" />
+            <translation>滴定液の編集</translation>
         </message>
         <message>
             <source>Edit Titration</source>
-            <translation type="unfinished" />
+            <translation>滴定の編集</translation>
         </message>
         <message>
             <source>Copy Method</source>
-            <translation type="unfinished" />
+            <translation>メソッドのコピー</translation>
         </message>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>メソッドの削除</translation>
         </message>
         <message>
             <source>Done Editing</source>
-            <translation type="unfinished" />
+            <translation>編集完了</translation>
         </message>
     </context>
     <context>
@@ -2171,7 +2171,7 @@
         <name>TitrantLog</name>
         <message>
             <source>Titrant Log</source>
-            <translation type="unfinished" />
+            <translation>滴定液記録</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2199,7 +2199,7 @@
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日時</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2207,7 +2207,7 @@
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>平均濃度</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2223,11 +2223,11 @@
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>体積 (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>平均に使用</translation>
         </message>
     </context>
     <context>
@@ -2621,19 +2621,19 @@ been saved as - </source>
         <name>Titration26</name>
         <message>
             <source>Delete Method</source>
-            <translation type="unfinished" />
+            <translation>メソッドの削除</translation>
         </message>
         <message>
             <source>Are you sure you want to delete this method?</source>
-            <translation type="unfinished" />
+            <translation>このメソッドを削除しますか？</translation>
         </message>
         <message>
             <source>You will not be able to undo this action.</source>
-            <translation type="unfinished" />
+            <translation>この操作は元に戻せません。</translation>
         </message>
         <message>
             <source>Delete</source>
-            <translation type="unfinished" />
+            <translation>削除</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2645,14 +2645,14 @@ been saved as - </source>
         </message>
         <message>
             <source>Your method has been deleted</source>
-            <translation type="unfinished" />
+            <translation>メソッドを削除しました</translation>
         </message>
     </context>
     <context>
         <name>Titration28</name>
         <message>
             <source>Method Quick View</source>
-            <translation type="unfinished" />
+            <translation>メソッドの概要</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2668,11 +2668,11 @@ been saved as - </source>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>方法</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>種類</translation>
         </message>
         <message>
             <source>Close</source>
@@ -2680,18 +2680,18 @@ been saved as - </source>
         </message>
         <message>
             <source>Edit Method</source>
-            <translation type="unfinished" />
+            <translation>メソッドの編集</translation>
         </message>
         <message>
             <source>Use Method</source>
-            <translation type="unfinished" />
+            <translation>メソッドを使用</translation>
         </message>
     </context>
     <context>
         <name>TitrationLog</name>
         <message>
             <source>Titration Log</source>
-            <translation type="unfinished" />
+            <translation>滴定記録</translation>
         </message>
         <message>
             <source>Yes</source>
@@ -2711,7 +2711,7 @@ been saved as - </source>
         </message>
         <message>
             <source>Name</source>
-            <translation type="unfinished" />
+            <translation>名前</translation>
         </message>
         <message>
             <source>Method Name</source>
@@ -2719,7 +2719,7 @@ been saved as - </source>
         </message>
         <message>
             <source>Date/Time</source>
-            <translation type="unfinished" />
+            <translation>日時</translation>
         </message>
         <message>
             <source>Electrode</source>
@@ -2731,15 +2731,15 @@ been saved as - </source>
         </message>
         <message>
             <source>Technique</source>
-            <translation type="unfinished" />
+            <translation>方法</translation>
         </message>
         <message>
             <source>Type</source>
-            <translation type="unfinished" />
+            <translation>種類</translation>
         </message>
         <message>
             <source>Avg Conc.</source>
-            <translation type="unfinished" />
+            <translation>平均濃度</translation>
         </message>
         <message>
             <source>RSD</source>
@@ -2755,11 +2755,11 @@ been saved as - </source>
         </message>
         <message>
             <source>Volume (mL)</source>
-            <translation type="unfinished" />
+            <translation>体積 (mL)</translation>
         </message>
         <message>
             <source>In Avg</source>
-            <translation type="unfinished" />
+            <translation>平均に使用</translation>
         </message>
     </context>
     <context>
@@ -4047,15 +4047,15 @@ characters.</source>
         <name>USBDetectionPopUp</name>
         <message>
             <source>USB Drive Detected</source>
-            <translation type="unfinished" />
+            <translation>USB ドライブを検出しました</translation>
         </message>
         <message>
             <source>A USB drive with methods has been detected. Do you want to install these methods?</source>
-            <translation type="unfinished" />
+            <translation>メソッドを含む USB ドライブを検出しました。これらのメソッドをインストールしますか？</translation>
         </message>
         <message>
             <source>You may choose which methods to install on the next screen.</source>
-            <translation type="unfinished" />
+            <translation>インストールするメソッドは次の画面で選択できます。</translation>
         </message>
         <message>
             <source>Yes</source>
