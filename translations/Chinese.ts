@@ -4042,6 +4042,78 @@ characters.</source>
             <source> Sample Density value can't be blank!</source>
             <translation>样品密度不能为空！</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>滴定记录</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>滴定剂记录</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>校准记录</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>测量记录</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>全部记录</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>全部</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>日期范围</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>数据集</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>报告</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>USB 驱动器</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>计算机</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 天</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 天</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 天</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>自定义</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>简要</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>详细</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

@@ -4042,6 +4042,78 @@ Zeichen ein.</translation>
             <source> Sample Density value can't be blank!</source>
             <translation>Die Probendichte darf nicht leer sein!</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>Titrationsprotokoll</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>Titriermittelprotokoll</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>Kalibrierprotokoll</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>Messprotokoll</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>Alle Protokolle</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Alle</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>Datumsbereich</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>Datensätze</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Bericht</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>USB-Stick</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>Computer</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 Tage</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 Tage</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 Tage</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>Benutzerdefiniert</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>Kurz</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>Lang</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

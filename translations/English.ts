@@ -4042,6 +4042,78 @@ characters.</translation>
             <source> Sample Density value can't be blank!</source>
             <translation> Sample Density value can't be blank!</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>Titration Log</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>Titrant Log</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>Calibration Log</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>Direct Measure Log</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>All Logs</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>All</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>Date Range</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>Data Set</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Report</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>USB Drive</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>Computer</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 Days</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 Days</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 Days</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>Custom</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>Short</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>Long</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

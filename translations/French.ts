@@ -4042,6 +4042,78 @@ alphanumériques.</translation>
             <source> Sample Density value can't be blank!</source>
             <translation>La densité de l'échantillon ne peut pas être vide !</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>Journal des titrages</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>Journal des titrants</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>Journal d'étalonnage</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>Journal de mesures</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>Tous les journaux</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Tout</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>Plage de dates</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>Jeu de données</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Rapport</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>Clé USB</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>Ordinateur</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 jours</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 jours</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 jours</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>Personnalisé</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>Court</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>Long</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

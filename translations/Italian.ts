@@ -4042,6 +4042,78 @@ alfanumerici.</translation>
             <source> Sample Density value can't be blank!</source>
             <translation>La densità del campione non può essere vuota!</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>Registro titolazioni</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>Registro titolanti</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>Registro calibrazioni</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>Registro misure</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>Tutti i registri</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Tutti</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>Intervallo di date</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>Set di dati</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Rapporto</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>Chiavetta USB</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>Computer</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 giorni</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 giorni</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 giorni</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>Personalizzato</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>Breve</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>Lungo</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

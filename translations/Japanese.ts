@@ -4042,6 +4042,78 @@ characters.</source>
             <source> Sample Density value can't be blank!</source>
             <translation>試料密度を空欄にすることはできません。</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>滴定記録</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>滴定液記録</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>校正記録</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>測定記録</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>すべての記録</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>すべて</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>日付範囲</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>データセット</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>レポート</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>USB ドライブ</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>コンピューター</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10日間</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30日間</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60日間</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>カスタム</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>簡易</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>詳細</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

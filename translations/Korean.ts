@@ -4042,6 +4042,78 @@ characters.</source>
             <source> Sample Density value can't be blank!</source>
             <translation>시료 밀도는 비워 둘 수 없습니다!</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>적정 기록</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>적정액 기록</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>교정 기록</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>측정 기록</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>모든 기록</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>전체</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>날짜 범위</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>데이터 세트</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>보고서</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>USB 드라이브</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>컴퓨터</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10일</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30일</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60일</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>사용자 지정</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>간략</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>상세</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

@@ -4042,6 +4042,78 @@ alfanuméricos.</translation>
             <source> Sample Density value can't be blank!</source>
             <translation>A densidade da amostra não pode estar vazia!</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>Registo de titulações</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>Registo de titulantes</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>Registo de calibrações</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>Registo de medições</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>Todos os registos</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Todos</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>Intervalo de datas</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>Conjunto de dados</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Relatório</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>Pen USB</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>Computador</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 dias</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 dias</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 dias</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>Personalizado</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>Curto</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>Longo</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

@@ -4042,6 +4042,78 @@ characters.</source>
             <source> Sample Density value can't be blank!</source>
             <translation>Плотность пробы не может быть пустой!</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>Журнал титрований</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>Журнал титрантов</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>Журнал калибровок</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>Журнал измерений</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>Все журналы</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Все</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>Диапазон дат</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>Набор данных</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Отчёт</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>USB-накопитель</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>Компьютер</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 дней</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 дней</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 дней</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>Другой</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>Краткий</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>Полный</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

@@ -4042,6 +4042,78 @@ alfanuméricos.</translation>
             <source> Sample Density value can't be blank!</source>
             <translation>¡La densidad de la muestra no puede estar vacía!</translation>
         </message>
+        <message>
+            <source>Titration Log</source>
+            <translation>Registro de titulaciones</translation>
+        </message>
+        <message>
+            <source>Titrant Log</source>
+            <translation>Registro de titulantes</translation>
+        </message>
+        <message>
+            <source>Calibration Log</source>
+            <translation>Registro de calibraciones</translation>
+        </message>
+        <message>
+            <source>Direct Measure Log</source>
+            <translation>Registro de mediciones</translation>
+        </message>
+        <message>
+            <source>All Logs</source>
+            <translation>Todos los registros</translation>
+        </message>
+        <message>
+            <source>All</source>
+            <translation>Todos</translation>
+        </message>
+        <message>
+            <source>Date Range</source>
+            <translation>Rango de fechas</translation>
+        </message>
+        <message>
+            <source>Data Set</source>
+            <translation>Conjunto de datos</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>Report</source>
+            <translation>Informe</translation>
+        </message>
+        <message>
+            <source>USB Drive</source>
+            <translation>Unidad USB</translation>
+        </message>
+        <message>
+            <source>Computer</source>
+            <translation>Ordenador</translation>
+        </message>
+        <message>
+            <source>10 Days</source>
+            <translation>10 días</translation>
+        </message>
+        <message>
+            <source>30 Days</source>
+            <translation>30 días</translation>
+        </message>
+        <message>
+            <source>60 Days</source>
+            <translation>60 días</translation>
+        </message>
+        <message>
+            <source>Custom</source>
+            <translation>Personalizado</translation>
+        </message>
+        <message>
+            <source>Short</source>
+            <translation>Corto</translation>
+        </message>
+        <message>
+            <source>Long</source>
+            <translation>Largo</translation>
+        </message>
     </context>
     <context>
         <name>USBDetectionPopUp</name>

@@ -16,8 +16,8 @@ MainContentBackground {
     header3Text: (printLog ? qsTr("Print Log") : qsTr("Export Log")) + ls.translatedText
 
     property bool printLog: false
-    readonly property var logs: ["Titration Log", "Titrant Log", "Calibration Log", "Direct Measure Log", "All Logs"]
-    readonly property var byOptions: exportOf.currentIndex === 4 ? ["All", "Date Range"] : ["All", "Data Set", "Date Range"]
+    readonly property var logs: [QT_TRANSLATE_NOOP("TranslationListElements", "Titration Log"), QT_TRANSLATE_NOOP("TranslationListElements", "Titrant Log"), QT_TRANSLATE_NOOP("TranslationListElements", "Calibration Log"), QT_TRANSLATE_NOOP("TranslationListElements", "Direct Measure Log"), QT_TRANSLATE_NOOP("TranslationListElements", "All Logs")]
+    readonly property var byOptions: exportOf.currentIndex === 4 ? [QT_TRANSLATE_NOOP("TranslationListElements", "All"), QT_TRANSLATE_NOOP("TranslationListElements", "Date Range")] : [QT_TRANSLATE_NOOP("TranslationListElements", "All"), QT_TRANSLATE_NOOP("TranslationListElements", "Data Set"), QT_TRANSLATE_NOOP("TranslationListElements", "Date Range")]
     readonly property string exportBy: byOptions[byRow.current] || "All"
     property string fromDate: ""
     property string toDate: ""
@@ -158,13 +158,13 @@ MainContentBackground {
             id: fileType
             visible: !page.printLog
             label: qsTr("File Type") + ls.translatedText
-            options: ["CSV", "Report"]
+            options: [QT_TRANSLATE_NOOP("TranslationListElements", "CSV"), QT_TRANSLATE_NOOP("TranslationListElements", "Report")]
         }
         RadioRow {
             id: exportTo
             visible: !page.printLog
             label: qsTr("Export to") + ls.translatedText
-            options: ["USB Drive", "Computer"]
+            options: [QT_TRANSLATE_NOOP("TranslationListElements", "USB Drive"), QT_TRANSLATE_NOOP("TranslationListElements", "Computer")]
         }
         RadioRow {
             id: byRow
@@ -203,7 +203,7 @@ MainContentBackground {
             id: days
             visible: page.exportBy === "Date Range"
             label: qsTr("Range") + ls.translatedText
-            options: ["10 Days", "30 Days", "60 Days", "Custom"]
+            options: [QT_TRANSLATE_NOOP("TranslationListElements", "10 Days"), QT_TRANSLATE_NOOP("TranslationListElements", "30 Days"), QT_TRANSLATE_NOOP("TranslationListElements", "60 Days"), QT_TRANSLATE_NOOP("TranslationListElements", "Custom")]
         }
         Rectangle {
             visible: page.exportBy === "Date Range" && days.current === 3
@@ -241,7 +241,7 @@ MainContentBackground {
         RadioRow {
             id: format
             label: qsTr("Format") + ls.translatedText
-            options: ["Short", "Long"]
+            options: [QT_TRANSLATE_NOOP("TranslationListElements", "Short"), QT_TRANSLATE_NOOP("TranslationListElements", "Long")]
         }
     }
     PopupButton {
