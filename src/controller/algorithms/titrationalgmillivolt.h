@@ -20,6 +20,12 @@ public:
     unsigned int deltaVmin() const { return m_deltaVmin; }
 
 private:
+    // Moves the end point of a lone break (µL, its reading in mV) from the
+    // inflection to the equivalence of the fitted titration, where the
+    // curve is lopsided as a weak acid's or base's is and the fit is good.
+    bool correctLopsidedBreak(double &volume, double &value) const;
+
     float m_deltaE = 0.f;
     bool m_reportedMissing = false;
+    bool m_reportedFit = false;
 };

@@ -26,6 +26,8 @@ const int kMaxBreaks = 64;
 // Half, not any lower value, so that the noise on a falling start cannot
 // make a maximum of its own.
 const double kRiseFraction = 0.5;
+// A break is passed when the slope after it fell below this part of it.
+const double kFallFraction = 0.8;
 
 int signOf(double x)
 {
@@ -205,8 +207,8 @@ int VolumetricDataStore::findBreaks(int first, double sign, int *breaks, int cap
         noise = changes[changes.size() / 2] * 1.4826 / std::sqrt(2.0);
     }
     // Maxima inside the curve: the greatest slope within two places either
-    // side, risen to from below half of it by more than the noise, and not
-    // alone above half of it (a break spans two slopes of three points; a
+    // side, risen to from below half of it by more than the noise, fallen
+    // after it below half of it again, and not alone above half of it (a break spans two slopes of three points; a
     // single noisy reading makes a lone one).
     int count = 0;
     double lowest = std::numeric_limits<double>::infinity();
@@ -217,7 +219,13 @@ int VolumetricDataStore::findBreaks(int first, double sign, int *breaks, int cap
             peak = j == k || (j < k ? m(j) < s : m(j) <= s);
         const bool wide = (k > first && m(k - 1) > s * kRiseFraction) || (k + 1 < n && m(k + 1) > s * kRiseFraction);
         lowest = std::min(lowest, s);
-        if (!peak || !wide)
+        // The curve has passed the break: the slope fell after it by more
+        // than the noise, and by a part of it. A curve cut off while still
+        // rising has no break yet, whatever its last slopes do.
+        bool fell = false;
+        for (int j = k + 1; peak && !fell && j < n; ++j)
+            fell = m(j) < s * kFallFraction;
+        if (!peak || !wide || !fell)
             continue;
         // One break with the last unless a valley lies between them: a
         // minimum below half of the smaller peak, more than the noise
