@@ -115,7 +115,9 @@ std::array<double, 3> TitrationAlgMillivolt::getResults()
         values[i] = value;
     }
     // One break of a pH curve: where it is lopsided, its end point is the
-    // equivalence volume of the fitted titration, not the inflection.
+    // equivalence volume of the fitted titration, not the inflection; where
+    // the fit is good, the break is an equivalence point below the slope
+    // threshold too.
     const bool fitted = found == 1 && correctLopsidedBreak(volumes[0], values[0]);
 
     int confirmed = 0;
@@ -157,14 +159,18 @@ bool TitrationAlgMillivolt::correctLopsidedBreak(double &volume, double &value) 
     LopsidedBreakFit::Result fit;
     if (!LopsidedBreakFit::fit(*m_volumetric, volume, kFitHalfWidth * volume, sign, slope, fit))
         return false;
-    // Taken only where the fit describes the curve within the noise of a
-    // reading, with the break well inside the points fitted, and where it
-    // places the equivalence measurably after the inflection by no more
-    // than the weakest titratable analyte would.
+    // The break is confirmed where the fit describes the curve within the
+    // noise of a reading, with points enough on either side of Veq, and
+    // places Veq after the inflection, the lopsided direction, by no more
+    // than the weakest titratable analyte would (a little before it counts
+    // as at it). Veq replaces the inflection only where it lies measurably
+    // after it: a curve that is not lopsided keeps its inflection.
     const double shift = fit.volume - volume;
     if (fit.rmsMv > kMaxFitRmsMv || fit.after < kMinPointsEachSide || fit.points - fit.after < kMinPointsEachSide
-        || shift < kMinShift * volume || shift > kMaxShift * volume)
+        || shift < -kMinShift * volume || shift > kMaxShift * volume)
         return false;
+    if (shift < kMinShift * volume)
+        return true;
     volume = fit.volume;
     // The reading there, between the points on either side.
     for (int i = 1; i < m_volumetric->size(); ++i) {

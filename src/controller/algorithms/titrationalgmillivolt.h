@@ -20,9 +20,10 @@ public:
     unsigned int deltaVmin() const { return m_deltaVmin; }
 
 private:
-    // Moves the end point of a lone break (µL, its reading in mV) from the
-    // inflection to the equivalence of the fitted titration, where the
-    // curve is lopsided as a weak acid's or base's is and the fit is good.
+    // Fits the titration of a weak acid or base round a lone break of a pH
+    // curve (end point in µL, its reading in mV). Answers whether the fit
+    // confirms the break as an equivalence point; moves the end point from
+    // the inflection to the fit's equivalence where the curve is lopsided.
     bool correctLopsidedBreak(double &volume, double &value) const;
 
     float m_deltaE = 0.f;

@@ -8,7 +8,7 @@
 
 namespace {
 
-using Coefficients = Eigen::Matrix<double, 5, 1>;
+using Coefficients = Eigen::Matrix<double, 3, 1>;
 
 const int kMinPoints = 8;
 // Points further than this many decades of g from the break are left out.
@@ -27,13 +27,13 @@ struct Curve {
     std::vector<double> w;
 };
 
-// Terms of the model at a point for sharpness b: the rows of the linear
-// part, in the order Veq, aV0, a, dV0, d.
+// Terms of the model at a point for sharpness b: the row of the linear
+// part, in the order Veq, aV0, a.
 Coefficients row(double v, double g, double b)
 {
     Coefficients r;
     const double bg = b * g;
-    r << bg / (1.0 + bg), g, v * g, 1.0 / g, v / g;
+    r << bg / (1.0 + bg), g, v * g;
     return r;
 }
 
@@ -42,16 +42,16 @@ Coefficients row(double v, double g, double b)
 double solve(const Curve &c, double b, Coefficients &x)
 {
     const int n = int(c.v.size());
-    Eigen::MatrixXd a(n, 5);
+    Eigen::MatrixXd a(n, 3);
     Eigen::VectorXd y(n);
     for (int i = 0; i < n; ++i) {
         const double s = std::sqrt(c.w[size_t(i)]);
         a.row(i) = row(c.v[size_t(i)], c.g[size_t(i)], b).transpose() * s;
         y(i) = c.v[size_t(i)] * s;
     }
-    // Columns scaled to unit length: g and 1/g span decades.
-    Eigen::Matrix<double, 5, 1> scale;
-    for (int k = 0; k < 5; ++k) {
+    // Columns scaled to unit length: g spans decades.
+    Coefficients scale;
+    for (int k = 0; k < 3; ++k) {
         const double norm = a.col(k).norm();
         scale(k) = norm > 0.0 ? 1.0 / norm : 1.0;
         a.col(k) *= scale(k);
@@ -67,8 +67,7 @@ void residual(const Coefficients &x, double b, double v, double g, double slopeM
 {
     r = row(v, g, b).dot(x) - v;
     const double bg = b * g;
-    const double dVdg = (x(0) * b / ((1.0 + bg) * (1.0 + bg)) + x(1) + x(2) * v - (x(3) + x(4) * v) / (g * g))
-                        / (1.0 - x(2) * g - x(4) / g);
+    const double dVdg = (x(0) * b / ((1.0 + bg) * (1.0 + bg)) + x(1) + x(2) * v) / (1.0 - x(2) * g);
     dEdV = std::abs(slopeMv / (std::log(10.0) * g * dVdg));
 }
 

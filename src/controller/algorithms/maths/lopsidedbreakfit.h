@@ -3,16 +3,18 @@
 #include "controller/algorithms/maths/volumeseries.h"
 
 // The equivalence volume of an acid-base curve from a least-squares fit of
-// the titration of one monoprotic acid or base around its break:
-//   V = Veq b g / (1 + b g) + (V0 + V) (a g - d / g),
+// the titration of one weak monoprotic acid or base around its break:
+//   V = Veq b g / (1 + b g) + (V0 + V) a g,
 // g = 10^(sign (E - Eref) / S) the titrant's ion (up to a factor) read with
-// the electrode's slope S, b the break's sharpness (the larger, the nearer a
-// strong acid or base; the smaller, the weaker the analyte and the further
-// the curve's inflection lies before Veq), a and d the free titrant and the
-// analyte's own ion, V0 the unknown starting volume. Linear in Veq, a, aV0,
-// d, dV0 for a given b; b is searched on a grid of its logarithm and refined.
-// Residuals are weighed in mV (the volume's residual times the model's
-// slope), since it is the potential that carries the noise.
+// the electrode's slope S, b the break's sharpness (the smaller, the weaker
+// the analyte and the further the curve's inflection lies before Veq), a
+// the free titrant's ion and V0 the unknown starting volume. Linear in Veq,
+// aV0 and a for a given b; b is searched on a grid of its logarithm and
+// refined. Residuals are weighed in mV (the volume's residual times the
+// model's slope), since it is the potential that carries the noise. The
+// analyte's own ion (the hydroxide of a weak base) is left out: it matters
+// only at the start of the curve, outside the points fitted, and a strong
+// acid's curve, which it would describe, is not lopsided.
 class LopsidedBreakFit
 {
 public:
