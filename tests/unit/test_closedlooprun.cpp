@@ -510,6 +510,7 @@ TEST_F(ClosedLoopRun, LopsidedBreaksEndAtTheEquivalence)
     };
     for (const Case &c : cases) {
         const AlgorithmDriver::Outcome run = titrate(AcidBaseBeaker(c.beaker), 0.05, 1.0);
+        std::printf("| pKa %.1f | %+.3f %% |\n", c.beaker.pKa[0], (run.results[0] - c.truthUl) / c.truthUl * 100.0);
         EXPECT_NEAR(run.results[0], c.truthUl, c.truthUl * 0.001)
             << "pKa " << c.beaker.pKa[0] << (c.beaker.titrantIsBase ? " acid" : " base");
         EXPECT_FALSE(run.reason.contains(QLatin1String("no equivalence point"))) << run.reason.toStdString();

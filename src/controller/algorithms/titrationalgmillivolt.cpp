@@ -118,7 +118,7 @@ std::array<double, 3> TitrationAlgMillivolt::getResults()
     // equivalence volume of the fitted titration, not the inflection; where
     // the fit is good, the break is an equivalence point below the slope
     // threshold too.
-    const bool fitted = found == 1 && correctLopsidedBreak(volumes[0], values[0]);
+    const bool fitted = found == 1 && m_endPointsWanted == 1 && correctLopsidedBreak(volumes[0], values[0]);
 
     int confirmed = 0;
     for (int i = 0; i < found; ++i) {
