@@ -1,6 +1,7 @@
 // Cost per point of the run's data stores, and of the fits that end a run.
 #include "controller/algorithms/temporaldatastore.h"
 #include "controller/algorithms/volumetricdatastore.h"
+#include "controller/algorithms/maths/lopsidedbreakfit.h"
 #include "controller/algorithms/maths/volumetricmath.h"
 #include "system/platform.h"
 
@@ -111,6 +112,32 @@ void BM_VolumeAtValue(benchmark::State &state)
     }
 }
 BENCHMARK(BM_VolumeAtValue);
+
+// The fit of a lopsided break at the end of a run: a weak base (pKa 5.2,
+// 0.02 mol/L in 50 mL) with 0.1 mol/L HCl, at 0.2 mL steps to 20 mL.
+void BM_LopsidedBreakFit(benchmark::State &state)
+{
+    Sandbox sandbox;
+    DataStoreBase store;
+    for (double ml = 0.0; ml <= 20.0; ml += 0.2) {
+        double lo = 0.0, hi = 14.0;
+        for (int k = 0; k < 60; ++k) {
+            const double ph = 0.5 * (lo + hi), h = std::pow(10.0, -ph);
+            const double balance = h - std::pow(10.0, ph - 14.0) + 1.0 / (50.0 + ml) * (h / (h + 6.3e-6) - 0.1 * ml);
+            (balance > 0.0 ? lo : hi) = ph;
+        }
+        store.addPoint(0, ml * 1000.0, -59.16 * (0.5 * (lo + hi) - 7.0));
+    }
+    double found = 0.0;
+    for (auto _ : state) {
+        LopsidedBreakFit::Result result;
+        const bool fitted = LopsidedBreakFit::fit(store, 9986.0, 4000.0, 1.0, 59.16, result);
+        found = fitted ? result.volume : 0.0;
+        benchmark::ClobberMemory();
+    }
+    state.counters["equivalence_uL"] = found;
+}
+BENCHMARK(BM_LopsidedBreakFit);
 
 } // namespace
 

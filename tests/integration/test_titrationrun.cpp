@@ -495,14 +495,15 @@ TEST(VantorCli, RunsTheMethodOfAMethodFile)
 
 // Other instruments' files replay as the same curve: semicolons with mL
 // and pH (decimal commas), blank-separated columns (a decimal comma in the
-// second), comma-separated µL and mV all give the same end point; a curve that stops before its break ends
-// with "end of data".
+// second), comma-separated µL and mV under a header with blanks in its
+// names all give the same end point; a curve that stops before its break
+// ends with "end of data".
 TEST(VantorCli, ReplaysOtherInstrumentsFiles)
 {
     QTemporaryDir work;
     const double nernst = Beaker::nernstSlope(25.0);
     QString semicolons = QStringLiteral("Volume (mL);pH\n"), blanks = QStringLiteral("ml   ph\n");
-    QString plain, cut;
+    QString plain = QStringLiteral("Volume (uL),E (mV)\n"), cut;
     for (int k = 0; k <= 120; ++k) {
         const double ul = 60.0 + 83.5 * k; // fractional µL
         const double ph = QString::number(7.0 + 3.0 * std::tanh((ul - 5020.0) / 250.0), 'f', 6).toDouble();

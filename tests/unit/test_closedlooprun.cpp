@@ -370,9 +370,9 @@ TEST_F(ClosedLoopRun, PhConversionUsesTheTemperatureAtTheStart)
 // with 1 s lag and 0.05 mV noise; from the start and after a 1 mL pre-dose.
 // The start of the curve is never taken for the equivalence point. The
 // jumps of the weak base and the weak acid stay below Routine's slope
-// threshold (0.07 and 0.04 of 0.2 mV/µL): the run goes to its limit, says
-// that it found no equivalence point, and reports the steepest point inside
-// the curve, which is near the true one.
+// threshold (0.07 and 0.04 of 0.2 mV/µL): the run goes to its limit; the
+// fit of the titration around the break confirms it as the equivalence
+// point and moves it from the inflection to the equivalence volume.
 TEST_F(ClosedLoopRun, SteepStartsAreNotEquivalencePoints)
 {
     dm.technique = Equivalence;
@@ -390,8 +390,8 @@ TEST_F(ClosedLoopRun, SteepStartsAreNotEquivalencePoints)
         double maxErrorPct; // of the true volume
     };
     const Case cases[] = {
-        {"weak base pKa 5.2 with HCl", std::make_shared<AcidBaseBeaker>(base), 0, false, 1.0},
-        {"weak acid pKa 9.2 with NaOH", std::make_shared<AcidBaseBeaker>(weakAcid), 0, false, 1.0},
+        {"weak base pKa 5.2 with HCl", std::make_shared<AcidBaseBeaker>(base), 0, false, 0.1},
+        {"weak acid pKa 9.2 with NaOH", std::make_shared<AcidBaseBeaker>(weakAcid), 0, false, 0.1},
         {"iron(II) with cerium(IV)", std::make_shared<RedoxBeaker>(iron), 1, true, 0.5},
     };
     std::printf("| sample | pre-dose mL | found mL | error %% | end |\n");
@@ -407,8 +407,8 @@ TEST_F(ClosedLoopRun, SteepStartsAreNotEquivalencePoints)
                                                          << run.reason.toStdString();
             EXPECT_EQ(run.reason, c.equivalenceFound
                                       ? QStringLiteral("Reached final equivalence point at count: 1")
-                                      : QStringLiteral("Reached max dispense vol: 20000; no equivalence point found, "
-                                                       "the steepest point is reported"))
+                                      : QStringLiteral("Reached max dispense vol: 20000; equivalence point "
+                                                       "confirmed by the fit of the curve"))
                 << c.name;
         }
     }
@@ -477,11 +477,44 @@ TEST_F(ClosedLoopRun, CurvesStartingPastTheMinimumVolume)
     EXPECT_EQ(tail.results[0], 0.0);
     EXPECT_TRUE(tail.reason.endsWith(QLatin1String("; no equivalence point found"))) << tail.reason.toStdString();
     // A pyridine-like base replayed at 0.2 mL steps starts at its steepest;
-    // its end point is its inflection (9.986 mL), within 0.1 %.
+    // its end point is its equivalence (10.00 mL, its inflection 9.986),
+    // within 0.1 %.
     const AcidBaseBeaker base(weakBase());
     const AlgorithmDriver::Outcome pyridine = replay(measured(base, {0.0, 12000.0, 200.0, 0.0, 0.05, 1}));
-    const double inflection = inflectionUl(base, 9.0, 10.5);
-    EXPECT_NEAR(pyridine.results[0], inflection, inflection * 0.001);
+    EXPECT_NEAR(pyridine.results[0], 10000.0, 10.0);
+    // Curves cut off while still rising towards their break (at 10 mL) have
+    // no end point yet, whatever their last slopes do.
+    for (double lastUl : {9000.0, 9500.0, 9900.0}) {
+        for (const Beaker *cut : {static_cast<const Beaker *>(&acid), static_cast<const Beaker *>(&base)}) {
+            const AlgorithmDriver::Outcome run = replay(measured(*cut, {0.0, lastUl, 150.0, 0.0, 0.3, 3}));
+            EXPECT_EQ(run.results[0], 0.0) << "cut at " << lastUl << " uL";
+            EXPECT_TRUE(run.reason.endsWith(QLatin1String("; no equivalence point found"))) << run.reason.toStdString();
+        }
+    }
+}
+
+// Lopsided breaks end at the equivalence volume, not at their inflection:
+// weak bases (pKa 4.5 to 5.5) and weak acids (pKa 4 to 8), 10 mL made up to
+// 50 mL against 0.1 mol/L, Routine, 1 s lag, 0.05 mV noise, within 0.1 %.
+TEST_F(ClosedLoopRun, LopsidedBreaksEndAtTheEquivalence)
+{
+    dm.technique = Equivalence;
+    struct Case {
+        AcidBaseBeaker::Params beaker;
+        double truthUl;
+    };
+    const Case cases[] = {
+        {asBase(sample({4.5}, 10.0)), 10000.0}, {asBase(sample({4.9}, 15.0)), 15000.0},
+        {asBase(sample({5.5}, 10.0)), 10000.0}, {sample({4.0}, 10.0), 10000.0},
+        {sample({6.0}, 10.0), 10000.0},         {sample({8.0}, 10.0), 10000.0},
+    };
+    for (const Case &c : cases) {
+        const AlgorithmDriver::Outcome run = titrate(AcidBaseBeaker(c.beaker), 0.05, 1.0);
+        std::printf("| pKa %.1f | %+.3f %% |\n", c.beaker.pKa[0], (run.results[0] - c.truthUl) / c.truthUl * 100.0);
+        EXPECT_NEAR(run.results[0], c.truthUl, c.truthUl * 0.001)
+            << "pKa " << c.beaker.pKa[0] << (c.beaker.titrantIsBase ? " acid" : " base");
+        EXPECT_FALSE(run.reason.contains(QLatin1String("no equivalence point"))) << run.reason.toStdString();
+    }
 }
 
 // Two breaks at dynamic 3-34 µL steps with 1 mV of noise, six seeds: both
@@ -508,3 +541,4 @@ TEST_F(ClosedLoopRun, TwoBreaksOnANoisyCurve)
 }
 
 } // namespace
+

@@ -20,12 +20,16 @@ QStringList fieldsOf(const QString &line)
     } else if (line.contains(QLatin1Char('\t'))) {
         fields = line.split(QLatin1Char('\t'));
     } else {
-        // Blanks separate unless a field ends with a comma ("0.15, 7.25") or
-        // there is only one field ("150,7.25"): then commas do.
+        // Blanks separate unless a field ends with a comma ("0.15, 7.25"),
+        // there is only one field ("150,7.25") or a comma stands next to
+        // something other than a digit ("Volume (uL),E (mV)"): then commas
+        // do. A comma between digits of a blank-separated line ("0,15 7,25")
+        // is a decimal mark.
         fields = line.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+        static const QRegularExpression listComma(QStringLiteral("(?<![0-9]),|,(?![0-9])"));
         bool commas = fields.size() < 2;
         for (const QString &f : fields)
-            commas = commas || f.endsWith(QLatin1Char(','));
+            commas = commas || f.endsWith(QLatin1Char(',')) || f.contains(listComma);
         if (commas)
             return line.split(QLatin1Char(','));
     }

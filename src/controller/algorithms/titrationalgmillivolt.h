@@ -20,6 +20,13 @@ public:
     unsigned int deltaVmin() const { return m_deltaVmin; }
 
 private:
+    // Fits the titration of a weak acid or base round a lone break of a pH
+    // curve (end point in µL, its reading in mV). Answers whether the fit
+    // confirms the break as an equivalence point; moves the end point from
+    // the inflection to the fit's equivalence where the curve is lopsided.
+    bool correctLopsidedBreak(double &volume, double &value) const;
+
     float m_deltaE = 0.f;
     bool m_reportedMissing = false;
+    bool m_reportedFit = false;
 };

@@ -26,6 +26,9 @@ const int kMaxBreaks = 64;
 // Half, not any lower value, so that the noise on a falling start cannot
 // make a maximum of its own.
 const double kRiseFraction = 0.5;
+// A break is passed when the slope after it fell below this part of it.
+const double kFallFraction = 0.9;
+const double kFallNoise = 3.0;
 
 int signOf(double x)
 {
@@ -205,9 +208,9 @@ int VolumetricDataStore::findBreaks(int first, double sign, int *breaks, int cap
         noise = changes[changes.size() / 2] * 1.4826 / std::sqrt(2.0);
     }
     // Maxima inside the curve: the greatest slope within two places either
-    // side, risen to from below half of it by more than the noise, and not
-    // alone above half of it (a break spans two slopes of three points; a
-    // single noisy reading makes a lone one).
+    // side, risen to from below half of it by more than the noise, passed
+    // (below), and not alone above half of it (a break spans two slopes of
+    // three points; a single noisy reading makes a lone one).
     int count = 0;
     double lowest = std::numeric_limits<double>::infinity();
     for (int k = first; k < n; ++k) {
@@ -217,7 +220,24 @@ int VolumetricDataStore::findBreaks(int first, double sign, int *breaks, int cap
             peak = j == k || (j < k ? m(j) < s : m(j) <= s);
         const bool wide = (k > first && m(k - 1) > s * kRiseFraction) || (k + 1 < n && m(k + 1) > s * kRiseFraction);
         lowest = std::min(lowest, s);
-        if (!peak || !wide)
+        // The curve has passed the break: after it the slope falls below
+        // half of it (by more than the rise's noise) before any slope rises
+        // above it by more than the noise; or, where the data end first,
+        // two slopes at least follow it and the least of them lies below it
+        // by a tenth of it and by more than the noise. A curve cut off while
+        // still rising has no break yet: its bumps are overtaken by the
+        // slopes after them.
+        bool fell = false;
+        double least = s;
+        for (int j = k + 1; peak && j < n && m(j) <= s + kFallNoise * noise; ++j) {
+            least = std::min(least, m(j));
+            const bool valley = least < s * kRiseFraction && s - least > kNoiseRise * noise;
+            fell = valley
+                   || (j == n - 1 && j >= k + 2 && least < s * kFallFraction && s - least > kFallNoise * noise);
+            if (valley)
+                break;
+        }
+        if (!peak || !wide || !fell)
             continue;
         // One break with the last unless a valley lies between them: a
         // minimum below half of the smaller peak, more than the noise
