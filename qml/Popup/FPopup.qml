@@ -13,7 +13,7 @@ PopupBackground {
     readonly property alias swUpdateCloseButton: closeButton
 
     title: qsTr("Software Updating") + ls.translatedText
-    height: 300
+    height: closeButton.visible ? 310 : 250
     onVisibleChanged: {
         if (visible)
             closeButton.visible = false

@@ -22,9 +22,11 @@ MainContentBackground {
         if (rm.updateInProgress)
             return
         if (rm.systemUpdateAvail || rm.mspUpdateAvail) {
-            rm.updateSoftware()
+            // The popup first: an update that ends at once (a failure, or the
+            // program installed) finds it on show and closes or keeps it.
             showPopup(softwareProgressPopUp)
-        } else if (rm.usbIsReady || rm.promptReboot) {
+            rm.updateSoftware()
+        } else if (rm.usbIsReady) {
             rm.checkUsbForUpdate()
         } else {
             qmlShowSoftwareUpdateWarning()

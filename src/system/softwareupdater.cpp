@@ -41,7 +41,6 @@ const char *const kCheckingUsb = QT_TRANSLATE_NOOP("SoftwareUpdater", "Checking 
 const char *const kRebootAndUpdate = QT_TRANSLATE_NOOP("SoftwareUpdater", "Reboot and Update");
 const char *const kCheckForUpdates = QT_TRANSLATE_NOOP("SoftwareUpdater", "Check for Updates");
 
-const QString kApplicationMarker = QStringLiteral("Kestrum_V");
 const QString kFirmwareMarker = QStringLiteral("KestrumSlave");
 const QString kSystemMarker = QStringLiteral("vantorProV400Updates_");
 
@@ -71,11 +70,6 @@ void SoftwareUpdater::setVersionSources(std::function<QString()> application, st
 QString SoftwareUpdater::bundledFirmwareDir()
 {
     return Platform::path(QStringLiteral("/usr/share/kestrum"));
-}
-
-QString SoftwareUpdater::runningApplicationVersion() const
-{
-    return UpdateVersion::applicationVersion(m_applicationVersion ? m_applicationVersion() : QString());
 }
 
 QString SoftwareUpdater::slaveVersion() const
@@ -165,20 +159,6 @@ void SoftwareUpdater::fail(const QString &status)
     setStatusText(status);
 }
 
-QString SoftwareUpdater::newestFirmware(const QStringList &names) const
-{
-    QString chosen;
-    for (const QString &name : names) {
-        if (!name.contains(kFirmwareMarker))
-            continue;
-        const QString version = UpdateVersion::firmwareVersion(name);
-        if (UpdateVersion::isNewer(version, slaveVersion())
-            && (chosen.isEmpty() || UpdateVersion::isNewer(version, UpdateVersion::firmwareVersion(chosen))))
-            chosen = name;
-    }
-    return chosen;
-}
-
 void SoftwareUpdater::checkUSBForUpdates()
 {
     if (m_checkingUsb || m_updateInProgress)
@@ -210,25 +190,11 @@ void SoftwareUpdater::checkUSBForUpdates()
     }
     qDebug() << "Potential Files Found:" << names.join(QStringLiteral(", "));
 
-    m_applicationFile.clear();
-    m_firmwareFile.clear();
-    m_systemFile.clear();
-    m_systemImageFound = false;
-    const QString running = runningApplicationVersion();
-    m_firmwareFile = newestFirmware(names);
-    for (const QString &name : qAsConst(names)) {
-        if (name.contains(kFirmwareMarker))
-            continue;
-        const QString version = UpdateVersion::applicationVersion(name);
-        if (name.contains(kApplicationMarker)) {
-            if (UpdateVersion::isNewer(version, running)
-                && (m_applicationFile.isEmpty() || UpdateVersion::isNewer(version, UpdateVersion::applicationVersion(m_applicationFile))))
-                m_applicationFile = name;
-        } else if (name.contains(kSystemMarker)) {
-            if (UpdateVersion::isNewer(version, running) && name.contains(QLatin1String("swu")))
-                m_systemImageFound = true;
-        }
-    }
+    const UpdateVersion::Choice choice = UpdateVersion::choose(names, m_applicationVersion ? m_applicationVersion() : QString(), slaveVersion());
+    m_firmwareFile = choice.firmware;
+    m_applicationFile = choice.application;
+    m_systemFile.clear(); // a system image stays on the disk for the boot
+    m_systemImageFound = !choice.systemImage.isEmpty();
 
     m_copyList.clear();
     if (!m_firmwareFile.isEmpty())
@@ -313,7 +279,7 @@ void SoftwareUpdater::checkForFirmwareUpdate()
     if (m_updateInProgress || m_checkingUsb)
         return;
     const QStringList names = QDir(bundledFirmwareDir()).entryList({QStringLiteral("KestrumSlave*.hex")}, QDir::Files | QDir::NoSymLinks, QDir::Name);
-    m_firmwareFile = newestFirmware(names.mid(0, maxListedFiles));
+    m_firmwareFile = UpdateVersion::choose(names.mid(0, maxListedFiles), QString(), slaveVersion()).firmware;
     if (!m_firmwareFile.isEmpty()) {
         m_diskBytes.insert(m_firmwareFile, QFileInfo(QDir(bundledFirmwareDir()).absoluteFilePath(m_firmwareFile)).size());
         setMspUpdateAvail(true);

@@ -99,10 +99,7 @@ private:
         QString name;
         qint64 bytes = 0;
     };
-    QString runningApplicationVersion() const;
     QString slaveVersion() const;
-    // The newest firmware of `names` newer than the slave's ("" when none).
-    QString newestFirmware(const QStringList &names) const;
     void setProgress(int percent);
     void setChecking(bool on);
     void setInProgress(bool on);

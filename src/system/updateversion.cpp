@@ -53,3 +53,24 @@ bool UpdateVersion::isNewer(const QString &a, const QString &b)
         return false;
     return sumA > sumB;
 }
+
+UpdateVersion::Choice UpdateVersion::choose(const QStringList &names, const QString &applicationBuild, const QString &slaveVersion)
+{
+    const QString running = applicationVersion(applicationBuild);
+    Choice choice;
+    for (const QString &name : names) {
+        if (name.contains(QLatin1String("KestrumSlave"))) {
+            const QString version = firmwareVersion(name);
+            if (isNewer(version, slaveVersion) && (choice.firmware.isEmpty() || isNewer(version, firmwareVersion(choice.firmware))))
+                choice.firmware = name;
+        } else if (name.contains(QLatin1String("Kestrum_V"))) {
+            const QString version = applicationVersion(name);
+            if (isNewer(version, running) && (choice.application.isEmpty() || isNewer(version, applicationVersion(choice.application))))
+                choice.application = name;
+        } else if (name.contains(QLatin1String("vantorProV400Updates_"))) {
+            if (isNewer(applicationVersion(name), running) && name.contains(QLatin1String("swu")) && choice.systemImage.isEmpty())
+                choice.systemImage = name;
+        }
+    }
+    return choice;
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // The versions in the names of update files, and which of two is newer.
 //
@@ -22,4 +23,15 @@ public:
     static bool isNewer(const QString &a, const QString &b);
     // The weighted sum; false when it can't be formed.
     static bool weightedSum(const QString &version, quint64 *sum, int *parts);
+
+    // What a disk's file names offer against the running application's
+    // build ("V3.2.0") and the slave's firmware version ("1.35"): the newest
+    // firmware and application newer than these, and whether a newer
+    // system image is there. Of equal versions the first name stays.
+    struct Choice {
+        QString firmware;
+        QString application;
+        QString systemImage;
+    };
+    static Choice choose(const QStringList &names, const QString &applicationBuild, const QString &slaveVersion);
 };

@@ -10,11 +10,14 @@
 #include "system/usb.h"
 #include "system/usbdisk.h"
 #include "testdatabase.h"
+#include "updatecommand.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTextStream>
 
 #include <gtest/gtest.h>
 
@@ -63,6 +66,29 @@ TEST(UpdateVersion, NamesAndComparisons)
     };
     for (const auto &p : pairs)
         EXPECT_EQ(UpdateVersion::isNewer(p.a, p.b), p.newer) << p.a << " newer than " << p.b;
+}
+
+TEST(UpdateVersion, VantorCliTellsWhatADiskOffers)
+{
+    QTemporaryDir folder;
+    for (const char *name : {"Kestrum_V1.1.0-3", "Kestrum_V1.2.0", "Kestrum_V1.0", "KestrumSlave_v1.08.hex",
+                             "KestrumSlave_v1.100.hex", "vantorProV400Updates_V1.1.0.swu", "notes.txt"})
+        ASSERT_TRUE(writeTextFile(folder.filePath(name), "x"));
+    QString text;
+    QString errors;
+    QTextStream out(&text);
+    QTextStream err(&errors);
+    EXPECT_EQ(UpdateCommand::run({folder.path(), "--slave", "1.99", "--application", "V1.1.0"}, out, err), 0);
+    out.flush();
+    EXPECT_EQ(qPrintable(text), QString("firmware KestrumSlave_v1.08.hex 1.08 not newer\n"
+                    "firmware KestrumSlave_v1.100.hex 1.100 newer\n"
+                    "application Kestrum_V1.0 0.0.0.0 not newer\n"
+                    "application Kestrum_V1.1.0-3 1.1.0.3 newer\n" // 1.1.0.3 against 1.1.0.0
+                    "application Kestrum_V1.2.0 1.2.0. newer\n"
+                    "system vantorProV400Updates_V1.1.0.swu 1.1.0. not newer\n"
+                    "chosen: firmware KestrumSlave_v1.100.hex, application Kestrum_V1.2.0\n"));
+    EXPECT_EQ(UpdateCommand::run({folder.path(), "--slave", "1.100", "--application", "V1.2.0"}, out, err), 1);
+    EXPECT_EQ(UpdateCommand::run({folder.path() + "/none"}, out, err), 2);
 }
 
 TEST(SoftwareUpdater, FlashToolWords)

@@ -9,6 +9,7 @@
 #include "titraterunner.h"
 #include "transfercommand.h"
 #include "uiscript.h"
+#include "updatecommand.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -39,10 +40,12 @@ QString mainUsage()
                           "  backup    copy the database file\n"
                           "  ui        run a UI driver script against the running application\n"
                           "  discover  list the instruments that answer on the network\n"
-                          "  remote    send commands to an instrument's remote port\n\n")
+                          "  remote    send commands to an instrument's remote port\n"
+                          "  update    list what a USB disk's update files would offer\n\n")
            + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n")
            + TransferCommand::usage() + QStringLiteral("\n") + UiScript::usage() + QStringLiteral("\n")
-           + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage();
+           + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage() + QStringLiteral("\n")
+           + UpdateCommand::usage();
 }
 
 } // namespace
@@ -99,6 +102,13 @@ int main(int argc, char *argv[])
             return 0;
         }
         return discover ? DiscoverCommand::run(args, out, err) : RemotePortCommand::run(args, out, err);
+    }
+    if (command == QLatin1String("update")) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << UpdateCommand::usage();
+            return 0;
+        }
+        return UpdateCommand::run(args, out, err);
     }
     if (command == QLatin1String("ui")) {
         if (args.contains(QStringLiteral("--help"))) {
