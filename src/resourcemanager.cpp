@@ -102,6 +102,8 @@ void ResourceManager::resetPromptReboot()
 
 void ResourceManager::updateSystem()
 {
+    if (softwareUpdater->updateInProgress() || softwareUpdater->checkingUsb())
+        return;
     softwareUpdater->setSystemUpdateAvail(false);
     softwareUpdater->updateSoftware();
 }
