@@ -90,6 +90,11 @@ bool ResourceManager::updateInProgress() const
     return softwareUpdater->updateInProgress();
 }
 
+QString ResourceManager::updateFiles() const
+{
+    return softwareUpdater->offeredFiles().join(QStringLiteral(", "));
+}
+
 bool ResourceManager::promptReboot() const
 {
     return softwareUpdater->promptReboot();

@@ -28,6 +28,8 @@ class ResourceManager : public QObject
     Q_PROPERTY(QString updateButtonStatus READ updateButtonStatus NOTIFY updateButtonStatusChanged)
     Q_PROPERTY(bool updateInProgress READ updateInProgress NOTIFY updateInProgressChanged)
     Q_PROPERTY(bool promptReboot READ promptReboot NOTIFY updateButtonStatusChanged)
+    // The disk's files an update would apply, ", " between them ("" when none).
+    Q_PROPERTY(QString updateFiles READ updateFiles NOTIFY updateButtonStatusChanged)
 public:
     static ResourceManager *rmPtr();
     explicit ResourceManager(QObject *parent = nullptr);
@@ -50,6 +52,7 @@ public:
     bool mspUpdateAvail() const;
     QString updateButtonStatus() const;
     bool updateInProgress() const;
+    QString updateFiles() const;
 
     // Installs the methods kept over a factory reset, and empties their folder.
     int restoreMethods();

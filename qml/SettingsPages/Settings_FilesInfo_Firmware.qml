@@ -53,6 +53,23 @@ MainContentBackground {
         }
     }
 
+    // The names come from the disk: shown as plain text, cut to the line.
+    Text {
+        objectName: "updateFiles"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: statusText.top
+        anchors.leftMargin: 20
+        anchors.rightMargin: 20
+        anchors.bottomMargin: 6
+        visible: rm.updateFiles.length > 0
+        textFormat: Text.PlainText
+        elide: Text.ElideRight
+        color: Colors.slateColor
+        font.family: "Roboto"
+        font.pixelSize: 15
+        text: qsTr("Found: %1").arg(rm.updateFiles) + ls.translatedText
+    }
     Text {
         id: statusText
         objectName: "updateStatus"
@@ -61,7 +78,7 @@ MainContentBackground {
         anchors.bottom: updateButton.top
         anchors.margins: 20
         wrapMode: Text.WordWrap
-        maximumLineCount: 3
+        maximumLineCount: 2
         elide: Text.ElideRight
         color: Colors.deeptangaroaColor
         font.family: "Roboto"

@@ -92,6 +92,16 @@ QString SoftwareUpdater::buttonText() const
     return text(kCheckForUpdates);
 }
 
+QStringList SoftwareUpdater::offeredFiles() const
+{
+    QStringList files;
+    if (m_mspUpdateAvail && !m_firmwareFile.isEmpty())
+        files << m_firmwareFile;
+    if (m_systemUpdateAvail && !m_applicationFile.isEmpty())
+        files << m_applicationFile;
+    return files;
+}
+
 void SoftwareUpdater::setStatusText(const QString &status)
 {
     if (status == m_status)

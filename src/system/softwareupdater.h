@@ -58,6 +58,8 @@ public:
     void setSystemUpdateAvail(bool on);
     void setMspUpdateAvail(bool on);
 
+    // The files an update would apply, as found on the disk (firmware first).
+    QStringList offeredFiles() const;
     QString applicationFile() const { return m_applicationFile; }
     QString firmwareFile() const { return m_firmwareFile; }
     QString workDir() const { return m_workDir.absolutePath(); }

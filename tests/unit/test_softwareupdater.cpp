@@ -236,6 +236,7 @@ TEST_F(SoftwareUpdateTest, NewerApplicationAndFirmwareAreInstalledFirmwareFirst)
     EXPECT_EQ(updater->firmwareFile(), "KestrumSlave_v1.08.hex");
     EXPECT_EQ(rm->updateButtonStatus(), "Update System");
     EXPECT_EQ(rm->versionStatusQml(), "New Application Available!");
+    EXPECT_EQ(rm->updateFiles(), "KestrumSlave_v1.08.hex, Kestrum_V1.1.0-3");
     EXPECT_TRUE(rm->mspUpdateAvail());
     EXPECT_EQ(rm->usbDisk->mountCount(), 0) << "the disk is let go after the copy";
 
@@ -293,6 +294,20 @@ TEST_F(SoftwareUpdateTest, PullingTheDiskDuringTheCopyKeepsTheOldProgram)
     EXPECT_FALSE(QFile::exists(Platform::path("/var/Kestrum/Kestrum_V2.0.0")));
     rm->updateSoftware();
     EXPECT_EQ(program(), "old program");
+    EXPECT_FALSE(Platform::recordedCommands().contains("systemctl restart b2qt"));
+}
+
+TEST_F(SoftwareUpdateTest, AStagedProgramThatIsNotWhatTheDiskHadIsNotInstalled)
+{
+    ASSERT_TRUE(writeTextFile(disk("Kestrum_V1.0.1"), "new program"));
+    plug(true);
+    check();
+    ASSERT_TRUE(writeTextFile(Platform::path("/var/Kestrum/Kestrum_V1.0.1"), "new program, cut sh"));
+    EXPECT_FALSE(updateAndWait());
+    EXPECT_EQ(rm->versionStatusQml(), "Application update failed. The running version stays.");
+    EXPECT_EQ(program(), "old program");
+    EXPECT_FALSE(QFile::exists(ProgramInstaller::temporaryFile(Platform::programPath())));
+    EXPECT_FALSE(rm->updateInProgress());
     EXPECT_FALSE(Platform::recordedCommands().contains("systemctl restart b2qt"));
 }
 
