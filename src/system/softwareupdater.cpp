@@ -234,6 +234,9 @@ void SoftwareUpdater::checkUSBForUpdates()
             if (error == QProcess::FailedToStart)
                 updateFilesCopied(1);
         });
+        // A start that failed before anyone listened.
+        if (m_process->state() == QProcess::NotRunning && m_process->error() == QProcess::FailedToStart)
+            updateFilesCopied(1);
     }
 
     if (m_systemImageFound) {
@@ -255,6 +258,7 @@ void SoftwareUpdater::updateFilesCopied(int copyResult)
     if (m_process) {
         m_process->disconnect(this);
         m_process->deleteLater();
+        m_process = nullptr;
     }
     // The same stick all through the copy: one pulled and put back is another mount.
     const bool sameDisk = m_hold && m_hold->isValid();
@@ -344,6 +348,8 @@ void SoftwareUpdater::flashFirmware(const QString &file)
         if (error == QProcess::FailedToStart)
             updateFirmwareFinished(-1);
     });
+    if (m_firmwareProcess->state() == QProcess::NotRunning && m_firmwareProcess->error() == QProcess::FailedToStart)
+        updateFirmwareFinished(-1);
 }
 
 void SoftwareUpdater::parseFlashOutput(const QString &output, QString *status, int *progress)
