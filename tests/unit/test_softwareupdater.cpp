@@ -196,9 +196,9 @@ public:
         const QString script = Platform::standInFolder() + "/python";
         ASSERT_TRUE(writeTextFile(script, QStringLiteral("#!/bin/sh\n"
                                                          "printf '%s\\n' \"$*\" >> \"$0.calls\"\n"
-                                                         "echo 'Erasing...' >&2\nsleep 0.05\n"
-                                                         "echo 'Programming...' >&2\nsleep 0.05\n"
-                                                         "echo 'Programming: 60%' >&2\nsleep 0.05\n"
+                                                         "echo 'Erasing...' >&2\n"
+                                                         "echo 'Programming...' >&2\n"
+                                                         "echo 'Programming: 60%' >&2\n"
                                                          "[ %1 = 0 ] && echo 'Programming: OK' >&2\nexit %1\n")
                                                .arg(exitCode)));
         QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
