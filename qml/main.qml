@@ -382,9 +382,15 @@ ApplicationWindow {
     }
     function qmlSoftwareUpdateCompleted(successful) {
         console.log("Software update completed:", successful)
+        if (!softwareProgressPopUp.visible)
+            return
+        if (successful === true)
+            hidePopup()
+        else
+            softwareProgressPopUp.swUpdateCloseButton.visible = true
     }
     function qmlShowSoftwareUpdateWarning() {
-        console.log("Software update warning")
+        showPopup(softwareUpdatePopup)
     }
     function electrodeChanged() {
         if (currentStack !== measureStack && currentStack !== methodStack)
@@ -499,6 +505,7 @@ ApplicationWindow {
         onCurrentItemChanged: sideBar.resetBackButton()
         Settings01 { id: settings01; visible: false }
         Display01 { id: display01; visible: false }
+        Settings_FilesInfo_Firmware { id: settingsFilesInfoFirmware; visible: false }
     }
     CustomStackView {
         id: logStack
@@ -602,6 +609,9 @@ ApplicationWindow {
             onClicked: {
                 if (mainWindow.currentPopup === processDestroyConfirmationPopup)
                     mainWindow.hidePopup()
+                // The update's progress only once it has ended in a failure.
+                if (mainWindow.currentPopup === softwareProgressPopUp && softwareProgressPopUp.swUpdateCloseButton.visible)
+                    mainWindow.hidePopup()
             }
         }
         Item { id: popupContainer; anchors.fill: parent }
@@ -631,6 +641,8 @@ ApplicationWindow {
         VariableStandardAmountPopup { id: variableStandardAmountPopup }
         VariableReagentWeightPopup { id: variablereagentweightPopup }
         CalibrationSuccessPopup { id: calibrationSuccessPopop }
+        FPopup { id: softwareProgressPopUp }
+        SWUpdatePopup { id: softwareUpdatePopup }
     }
 
     // ---- 7. first-start stack ----------------------------------------------

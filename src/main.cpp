@@ -35,6 +35,9 @@
 #include "system/languageselector.h"
 #include "system/networkdiscovery.h"
 #include "system/platform.h"
+#include "system/softwareupdater.h"
+#include "productidentity.h"
+#include "models/sysinfomodel.h"
 #include "system/usb.h"
 #include "system/usbhandler.h"
 #include "resourcemanager.h"
@@ -129,6 +132,14 @@ int main(int argc, char *argv[])
     // Methods kept over a factory reset come back once, and their files go.
     QObject::connect(rm, &ResourceManager::methodsRestored, dm, &DataManagerBase::getMethodsFromDB);
     rm->restoreMethods();
+    // The software update compares with the running program and the slave's
+    // firmware; firmware that came with the program is offered once the
+    // slave has said its version.
+    rm->softwareUpdater->setVersionSources([dm] { return dm->appVersionNumber(); },
+                                           [dm] { return dm->identity()->mspVersion(); });
+    QObject::connect(dm, &DataManagerBase::mspVersionUpdated, rm->softwareUpdater, &SoftwareUpdater::checkForFirmwareUpdate);
+    QObject::connect(rm->softwareUpdater, &SoftwareUpdater::slaveVersionToRead, dm, &DataManagerBase::getLoadedMspVersion);
+    dm->sysInfoModel()->setOsTreeHash(SoftwareUpdater::getCurrentOstreeHash());
     mspController *msp = mspController::mspcPtr(); // slave port, version query, 250 ms poll
     // The remote command port: watches for "/dev/ttyMFG"; an attached host has the slave's line.
     auto *consoleHost = new InstrumentConsoleHost(dm, rm);
@@ -229,6 +240,7 @@ int main(int argc, char *argv[])
         connectToRoot(root, measurementLogModel, SIGNAL(logSaved()), "logSaved()");
         connectToRoot(root, rm, SIGNAL(usbIsReadyChanged()), "usbStatusChanged()");
         connectToRoot(root, rm, SIGNAL(usbMessage(QVariant, QVariant)), "showMessage(QVariant,QVariant)");
+        connectToRoot(root, rm->softwareUpdater, SIGNAL(softwareUpdateCompleted(QVariant)), "qmlSoftwareUpdateCompleted(QVariant)");
         // A slave that does not take the burette's size: said on the screen.
         QObject::connect(bc, &BuretteController::buretteErrorOccured, root, [root](const QString &text) {
             QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QCoreApplication::translate("main", "Burette")),

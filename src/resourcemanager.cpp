@@ -4,13 +4,16 @@
 #include "models/databasecopy.h"
 #include "models/methodbackup.h"
 #include "models/methodmodel.h"
+#include "models/importexport.h"
 #include "system/platform.h"
 #include "system/printer.h"
+#include "system/softwareupdater.h"
 #include "system/usb.h"
 #include "system/usbdir.h"
 #include "system/usbdisk.h"
 #include "system/usbhost.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QHostAddress>
 #include <QNetworkInterface>
@@ -27,6 +30,7 @@ ResourceManager::ResourceManager(QObject *parent)
     , usb(new USB(this))
     , usbDisk(new USBDisk(usb, this))
     , printer(new Printer(QStringLiteral("/dev/ttyPOS"), this))
+    , softwareUpdater(new SoftwareUpdater(usbDisk, this))
     , m_usbHost(new USBHost(usb, this))
 {
     connect(usb, &USB::usbPOSPrinterAttached, printer, &Printer::printerAttached);
@@ -40,6 +44,103 @@ ResourceManager::ResourceManager(QObject *parent)
     connect(usbDisk, &USBDisk::usbClearError, this, &ResourceManager::usbIsReadyChanged);
     connect(usb, &USB::usbHostAttached, m_usbHost, &USBHost::hostAttached);
     connect(usb, &USB::usbHostDetached, m_usbHost, &USBHost::hostDetached);
+    // A system image is installed from the disk at the boot: gone with the disk.
+    connect(usb, &USB::usbDiskDetached, this, &ResourceManager::resetPromptReboot);
+
+    SoftwareUpdater *updater = softwareUpdater;
+    connect(updater, &SoftwareUpdater::statusChanged, this, &ResourceManager::versionStatusQmlChanged);
+    connect(updater, &SoftwareUpdater::progressChanged, this, &ResourceManager::versionProgressQmlChanged);
+    connect(updater, &SoftwareUpdater::stateChanged, this, [this] {
+        emit systemUpdateAvailChanged();
+        emit mspUpdateAvailChanged();
+        emit updateInProgressChanged();
+        emit updateButtonStatusChanged();
+    });
+    connect(updater, &SoftwareUpdater::rebootRequested, this, &ResourceManager::reboot);
+    connect(updater, &SoftwareUpdater::restartRequested, this, &ResourceManager::restartApp);
+    updater->setBeforeUpdate([] {
+        // The database as JSON, as before a factory reset: a new program may migrate it.
+        if (!ImportExport(DataMigrator::backupFilePath()).exportAll())
+            qDebug() << "SW Updater: the database's JSON copy could not be written";
+    });
+}
+
+QString ResourceManager::versionStatusQml() const
+{
+    return QCoreApplication::translate("SoftwareUpdater", softwareUpdater->statusText().toUtf8().constData());
+}
+
+int ResourceManager::versionProgressQml() const
+{
+    return softwareUpdater->progress();
+}
+
+bool ResourceManager::systemUpdateAvail() const
+{
+    return softwareUpdater->systemUpdateAvail();
+}
+
+bool ResourceManager::mspUpdateAvail() const
+{
+    return softwareUpdater->mspUpdateAvail();
+}
+
+QString ResourceManager::updateButtonStatus() const
+{
+    return QCoreApplication::translate("SoftwareUpdater", softwareUpdater->buttonText().toUtf8().constData());
+}
+
+bool ResourceManager::updateInProgress() const
+{
+    return softwareUpdater->updateInProgress();
+}
+
+QString ResourceManager::updateFiles() const
+{
+    return softwareUpdater->offeredFiles().join(QStringLiteral(", "));
+}
+
+bool ResourceManager::promptReboot() const
+{
+    return softwareUpdater->promptReboot();
+}
+
+void ResourceManager::resetPromptReboot()
+{
+    softwareUpdater->resetPromptReboot();
+}
+
+void ResourceManager::updateSystem()
+{
+    if (softwareUpdater->updateInProgress() || softwareUpdater->checkingUsb())
+        return;
+    softwareUpdater->setSystemUpdateAvail(false);
+    softwareUpdater->updateSoftware();
+}
+
+void ResourceManager::updateFirmware()
+{
+    softwareUpdater->updateSoftware();
+}
+
+void ResourceManager::updateSoftware()
+{
+    updateSystem();
+}
+
+void ResourceManager::checkUsbForUpdate()
+{
+    if (softwareUpdater->promptReboot())
+        reboot();
+    else
+        softwareUpdater->checkUSBForUpdates();
+}
+
+void ResourceManager::reboot()
+{
+    const Platform::Result r = Platform::run(QStringLiteral("/sbin/reboot"), {}, 30000);
+    if (!r.ok())
+        qDebug() << "ResourceManager: reboot failed, exit" << r.exitCode << r.standardError;
 }
 
 bool ResourceManager::usbIsReady() const
@@ -59,10 +160,7 @@ bool ResourceManager::usbNoError() const
 
 void ResourceManager::setVersionStatusQml(const QString &text)
 {
-    if (text == m_versionStatus)
-        return;
-    m_versionStatus = text;
-    emit versionStatusQmlChanged();
+    softwareUpdater->setStatusText(text);
 }
 
 void ResourceManager::report(const QString &title, const QStringList &lines)
@@ -203,12 +301,6 @@ void ResourceManager::refreshIpAddress()
         m_ipAddress = address;
         emit ipAddressChanged();
     }
-}
-
-void ResourceManager::updateSystem()
-{
-    qDebug() << "ResourceManager: no software update is available here";
-    setVersionStatusQml(QStringLiteral("No update found"));
 }
 
 void ResourceManager::beep(int freq_hz, int duration_ms)

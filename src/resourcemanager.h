@@ -6,6 +6,7 @@
 
 class MethodModel;
 class Printer;
+class SoftwareUpdater;
 class USB;
 class USBDisk;
 class USBHost;
@@ -24,6 +25,14 @@ class ResourceManager : public QObject
     Q_PROPERTY(QString ipAddress READ ipAddress NOTIFY ipAddressChanged)
     Q_PROPERTY(QString versionStatusQml READ versionStatusQml WRITE setVersionStatusQml NOTIFY versionStatusQmlChanged)
     Q_PROPERTY(int versionProgressQml READ versionProgressQml NOTIFY versionProgressQmlChanged)
+    // The software update (SoftwareUpdater), translated where texts are shown.
+    Q_PROPERTY(bool systemUpdateAvail READ systemUpdateAvail NOTIFY systemUpdateAvailChanged)
+    Q_PROPERTY(bool mspUpdateAvail READ mspUpdateAvail NOTIFY mspUpdateAvailChanged)
+    Q_PROPERTY(QString updateButtonStatus READ updateButtonStatus NOTIFY updateButtonStatusChanged)
+    Q_PROPERTY(bool updateInProgress READ updateInProgress NOTIFY updateInProgressChanged)
+    Q_PROPERTY(bool promptReboot READ promptReboot NOTIFY updateButtonStatusChanged)
+    // The disk's files an update would apply, ", " between them ("" when none).
+    Q_PROPERTY(QString updateFiles READ updateFiles NOTIFY updateButtonStatusChanged)
 public:
     static ResourceManager *rmPtr();
     explicit ResourceManager(QObject *parent = nullptr);
@@ -31,6 +40,7 @@ public:
     USB *usb;
     USBDisk *usbDisk;
     Printer *printer;
+    SoftwareUpdater *softwareUpdater;
 
     // The list that imports fill (the method list the screens show); not owned.
     void setMethodList(MethodModel *list) { m_methodList = list; }
@@ -40,9 +50,14 @@ public:
     bool usbNoError() const;
     bool printerIsReady() const;
     QString ipAddress() const { return m_ipAddress; }
-    QString versionStatusQml() const { return m_versionStatus; }
+    QString versionStatusQml() const;
     void setVersionStatusQml(const QString &text);
-    int versionProgressQml() const { return 0; }
+    int versionProgressQml() const;
+    bool systemUpdateAvail() const;
+    bool mspUpdateAvail() const;
+    QString updateButtonStatus() const;
+    bool updateInProgress() const;
+    QString updateFiles() const;
 
     // Installs the methods kept over a factory reset, and empties their folder.
     int restoreMethods();
@@ -51,6 +66,8 @@ public:
     static QString usbMethodsFolder() { return QStringLiteral("/VantorPro/methods_backup/"); }
 
     Q_INVOKABLE void restartApp();
+    // Reboots the machine (recorded on a host).
+    void reboot();
     // The factory reset: the database to JSON, the stored images removed,
     // the database emptied. With keepMethods the methods are written to the
     // backup folder first. Nothing is wiped when that fails, nor after a
@@ -65,7 +82,15 @@ public slots:
     // The beeper: a duration of 0 sounds until stopBeep().
     void beep(int freq_hz, int duration_ms);
     void stopBeep();
+    // The update the check found: firmware first, then the application.
     void updateSystem();
+    void updateFirmware();
+    void updateSoftware();
+    // The button without an update found: a reboot when a system image waits
+    // on the disk, else a check of the disk.
+    void checkUsbForUpdate();
+    bool promptReboot() const;
+    void resetPromptReboot();
     // The database file to /VantorPro/database_backup/ on the stick.
     bool copyDatabaseToUsb();
     // Every stored method to the stick: the number of files, 0 on failure.
@@ -81,6 +106,10 @@ signals:
     void ipAddressChanged();
     void versionStatusQmlChanged();
     void versionProgressQmlChanged();
+    void systemUpdateAvailChanged();
+    void mspUpdateAvailChanged();
+    void updateButtonStatusChanged();
+    void updateInProgressChanged();
     // What went wrong with a USB or backup job, for the screens' message box.
     void usbMessage(const QVariant &title, const QVariant &text);
     // restoreMethods installed methods: the method list is to be read anew.
@@ -93,5 +122,4 @@ private:
     MethodModel *m_methodList = nullptr;
     bool m_methodsBackupFailed = false;
     QString m_ipAddress;
-    QString m_versionStatus;
 };

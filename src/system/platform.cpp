@@ -189,6 +189,87 @@ bool Platform::startDetached(const QString &program, const QStringList &argument
     return QProcess::startDetached(program, arguments);
 }
 
+QProcess *Platform::start(const QString &program, const QStringList &arguments, QObject *parent)
+{
+    auto *process = new QProcess(parent);
+    if (runsForReal(program)) {
+        process->start(program, arguments);
+        return process;
+    }
+    record(commandLine(program, arguments));
+    const QString standIn = standInFolder() + QLatin1Char('/') + QFileInfo(program).fileName();
+    if (QFileInfo(standIn).isExecutable()) {
+        process->start(standIn, arguments);
+    } else {
+        const int exitCode = host().simulated.value(program, Result{true, true, 0, {}, {}}).exitCode;
+        process->start(exitCode == 0 ? QStringLiteral("true") : QStringLiteral("false"), QStringList());
+    }
+    return process;
+}
+
+QString Platform::standInFolder()
+{
+    return isTarget() ? QString() : host().root + QStringLiteral("/host-stand-ins");
+}
+
+QString Platform::programPath()
+{
+    return path(QStringLiteral("/opt/Kestrum/bin/Kestrum"));
+}
+
+int Platform::elfMachine(const QByteArray &head)
+{
+    // e_ident: magic, class (1: 32 bits, 2: 64), data (1: little endian, 2: big); e_machine at 18.
+    if (head.size() < 20 || !head.startsWith("\x7f" "ELF") || (head.at(4) != 1 && head.at(4) != 2))
+        return -1;
+    const auto lo = static_cast<unsigned char>(head.at(18));
+    const auto hi = static_cast<unsigned char>(head.at(19));
+    if (head.at(5) == 1)
+        return lo | (hi << 8);
+    if (head.at(5) == 2)
+        return hi | (lo << 8);
+    return -1;
+}
+
+int Platform::ownElfMachine()
+{
+#if defined(__aarch64__)
+    return 183;
+#elif defined(__arm__)
+    return 40;
+#elif defined(__x86_64__)
+    return 62;
+#elif defined(__i386__)
+    return 3;
+#else
+    return -1;
+#endif
+}
+
+bool Platform::isProgramForThisBoard(const QString &file, QString *why)
+{
+    const QFileInfo info(file);
+    if (!info.isFile() || !info.isExecutable()) {
+        *why = QStringLiteral("not an executable file");
+        return false;
+    }
+    // A host sandbox takes any executable: its program is never started.
+    if (!isTarget())
+        return true;
+    QFile f(file);
+    if (!f.open(QIODevice::ReadOnly)) {
+        *why = f.errorString();
+        return false;
+    }
+    const int machine = elfMachine(f.read(64));
+    if (machine != ownElfMachine()) {
+        *why = machine < 0 ? QStringLiteral("not a program (no ELF header)")
+                           : QStringLiteral("a program for another machine (ELF machine %1)").arg(machine);
+        return false;
+    }
+    return true;
+}
+
 QStringList Platform::recordedCommands()
 {
     return host().recorded;

@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+class QObject;
+class QProcess;
+
 // The one place that knows which profile the program runs in.
 //
 // Target profile: every fixed path and device node is used as written
@@ -69,4 +72,26 @@ public:
 
     // Whether the host profile would run this program for real.
     static bool runsForReal(const QString &program);
+
+    // Starts a long command that reports by signals (the slave's flash tool,
+    // the copy of update files) with an argument list; the caller connects
+    // to the process and deletes it. Host profile: a program that would
+    // change the machine is recorded; the executable of the same name in
+    // standInFolder() runs in its place with the same arguments (tests put a
+    // script there), or, without one, a process that just ends with the
+    // simulated exit code.
+    static QProcess *start(const QString &program, const QStringList &arguments, QObject *parent);
+    // Host profile: "<sandbox>/host-stand-ins" ("" on the target).
+    static QString standInFolder();
+
+    // Where the application's program is installed ("/opt/Kestrum/bin/Kestrum").
+    static QString programPath();
+    // A file may replace the program: executable, and on the target an ELF
+    // file for the machine this program was built for. `why` says what is wrong.
+    static bool isProgramForThisBoard(const QString &file, QString *why);
+    // The machine field of an ELF header (40 ARM, 183 AArch64, 62 x86-64),
+    // -1 when the bytes are no ELF header.
+    static int elfMachine(const QByteArray &head);
+    // The ELF machine this program was built for.
+    static int ownElfMachine();
 };

@@ -60,3 +60,8 @@ endif()
 if(TARGET unit_uiscript)
   target_link_libraries(unit_uiscript PRIVATE vantorcli)
 endif()
+
+# `vantor-cli update` is tested beside the update it reports on.
+if(TARGET unit_softwareupdater)
+  target_link_libraries(unit_softwareupdater PRIVATE vantorcli)
+endif()

@@ -10,6 +10,7 @@
 #include "titraterunner.h"
 #include "transfercommand.h"
 #include "uiscript.h"
+#include "updatecommand.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -44,11 +45,12 @@ QString mainUsage()
                           "  ui        run a UI driver script against the running application\n"
                           "  discover  list the instruments that answer on the network\n"
                           "  remote    send commands to an instrument's remote port\n"
-                          "  report    export the stored reports of a log as PDF or CSV files\n\n")
+                          "  report    export the stored reports of a log as PDF or CSV files\n"
+                          "  update    list what a USB disk's update files would offer\n\n")
            + TitrateOptions::usage() + QStringLiteral("\n") + MethodCommand::usage() + QStringLiteral("\n")
            + TransferCommand::usage() + QStringLiteral("\n") + UiScript::usage() + QStringLiteral("\n")
            + DiscoverCommand::usage() + QStringLiteral("\n") + RemotePortCommand::usage() + QStringLiteral("\n")
-           + ReportCommand::usage();
+           + ReportCommand::usage() + QStringLiteral("\n") + UpdateCommand::usage();
 }
 
 } // namespace
@@ -118,6 +120,13 @@ int main(int argc, char *argv[])
             return 0;
         }
         return ReportCommand::run(args, out, err);
+    }
+    if (command == QLatin1String("update")) {
+        if (args.contains(QStringLiteral("--help"))) {
+            out << UpdateCommand::usage();
+            return 0;
+        }
+        return UpdateCommand::run(args, out, err);
     }
     if (command == QLatin1String("ui")) {
         if (args.contains(QStringLiteral("--help"))) {
