@@ -406,7 +406,9 @@ void EngineDataPort::setTitrationCoreVersion(const QString &version)
 
 int EngineDataPort::displayBrightness() const
 {
-    return m_setup ? m_setup->displayBrightness() : 3;
+    // The brightness page's scratch level, which equals the stored one but
+    // while the page is open: + and - reach the backlight at once.
+    return m_setup ? m_setup->tempDisplayBrightness() : 3;
 }
 
 // ---- Live state ----

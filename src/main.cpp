@@ -228,6 +228,9 @@ int main(int argc, char *argv[])
         if (!DatabaseStartup::message().isEmpty())
             QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QCoreApplication::translate("main", "Database")),
                                       Q_ARG(QVariant, DatabaseStartup::translatedMessage()));
+        // The maintenance reminder is looked at once, at start-up.
+        if (dm->setupModel()->isMaintainanceDueNotifOn())
+            dm->setupModel()->startMaintainanceNotification();
     }
     // A stick already there at start counts as just attached.
     rm->usb->usbDevChanged();

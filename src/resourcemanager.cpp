@@ -4,6 +4,7 @@
 #include "models/databasecopy.h"
 #include "models/methodbackup.h"
 #include "models/methodmodel.h"
+#include "system/beeper.h"
 #include "system/platform.h"
 #include "system/usb.h"
 #include "system/usbdir.h"
@@ -26,6 +27,7 @@ ResourceManager::ResourceManager(QObject *parent)
     , usb(new USB(this))
     , usbDisk(new USBDisk(usb, this))
     , m_usbHost(new USBHost(usb, this))
+    , m_beeper(new Beeper(this))
 {
     connect(usb, &USB::usbDiskDetached, usbDisk, &USBDisk::resetState);
     connect(usb, &USB::usbDiskDetached, this, &ResourceManager::usbIsReadyChanged);
@@ -204,9 +206,20 @@ void ResourceManager::updateSystem()
 void ResourceManager::beep(int freq_hz, int duration_ms)
 {
     qDebug() << "ResourceManager: beep" << freq_hz << "Hz for" << duration_ms << "ms";
+    m_beeper->beep(freq_hz, duration_ms);
 }
 
 void ResourceManager::stopBeep()
 {
-    qDebug() << "ResourceManager: beeper stopped";
+    m_beeper->stopBeeping();
+}
+
+void ResourceManager::playNotify()
+{
+    m_beeper->playNotify();
+}
+
+void ResourceManager::playWarning()
+{
+    m_beeper->playWarning();
 }

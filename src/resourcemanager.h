@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVariant>
 
+class Beeper;
 class MethodModel;
 class USB;
 class USBDisk;
@@ -55,9 +56,10 @@ public:
 
 public slots:
     void refreshIpAddress();
-    void playNotify() {}
-    void playWarning() {}
-    // The beeper: a duration of 0 sounds until stopBeep().
+    void playNotify();
+    void playWarning();
+    // The beeper: a duration of 0 sounds until stopBeep(); a frequency of 0
+    // is refused.
     void beep(int freq_hz, int duration_ms);
     void stopBeep();
     void updateSystem();
@@ -84,6 +86,7 @@ private:
     void report(const QString &title, const QStringList &lines);
 
     USBHost *m_usbHost;
+    Beeper *m_beeper;
     MethodModel *m_methodList = nullptr;
     bool m_methodsBackupFailed = false;
     QString m_ipAddress;

@@ -9,8 +9,11 @@
 #include "models/titrationmodel.h"
 #include "system/clock.h"
 #include "testdatabase.h"
+#include "testsupport.h"
+#include "system/platform.h"
 
 #include <QImage>
+#include <QSignalSpy>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <gtest/gtest.h>
@@ -438,9 +441,11 @@ TEST_F(Records, TheSettingsRowTakesDefaultsOnFirstStartAndKeepsChanges)
     EXPECT_FALSE(third.isPhCalibrationNotifOn());
     EXPECT_TRUE(third.isDataUpdated());
 
+    // The reset takes the first start's values (12-hour form, °C, 25 °C).
     third.resetSetupValues();
-    EXPECT_EQ(1, third.timeFormat_Index());
-    EXPECT_EQ(0.0f, third.temperatureInput());
+    EXPECT_EQ(0, third.timeFormat_Index());
+    EXPECT_EQ(0, third.temperatureFormat_Index());
+    EXPECT_EQ(25.0f, third.temperatureInput());
     EXPECT_TRUE(third.instrumentName().isEmpty());
     EXPECT_EQ(QStringLiteral("Lab 2"), cell(QStringLiteral("SELECT instrumentName FROM setupTable")).toString())
         << "a reset is memory only";
@@ -456,6 +461,33 @@ TEST_F(Records, TheMaintenanceScheduleRunsOnePeriodAheadInTheTable)
     EXPECT_EQ(start.addMonths(6), setup.maintainanceScheduledAt());
     EXPECT_EQ(start.addMonths(9), cell(QStringLiteral("SELECT maintainanceScheduledAt FROM setupTable")).toDateTime());
     EXPECT_EQ(3, cell(QStringLiteral("SELECT maintainanceDue FROM setupTable")).toInt());
+}
+
+// The reminder at start-up sounds and leaves only on the day the schedule
+// names, and then moves the schedule on; the tone is 440 Hz.
+TEST_F(Records, TheMaintenanceReminderSoundsOnItsDayOnly)
+{
+    TempSandbox sandbox;
+    const struct { int daysAfterStart; bool raised; } rows[] = {{0, true}, {1, false}, {-1, false}};
+    for (const auto &r : rows) {
+        SetupModel setup;
+        setup.setDate(clock.now().addMonths(-2));
+        setup.setIsMaintainanceDueNotifOn(true);
+        setup.updateMaintainanceDue(1);
+        ASSERT_EQ(clock.now(), setup.maintainanceScheduledAt());
+        setup.setMaintainanceScheduledAt(clock.now().addDays(r.daysAfterStart));
+        QSignalSpy notified(&setup, &SetupModel::notificationSignal);
+        Platform::clearRecordedCommands();
+        setup.startMaintainanceNotification();
+        ASSERT_EQ(notified.count(), r.raised ? 1 : 0) << r.daysAfterStart;
+        if (!r.raised)
+            continue;
+        EXPECT_EQ(9, notified.at(0).at(0).value<QVariant>().toInt());
+        EXPECT_TRUE(Platform::recordedCommands().contains(QStringLiteral("write /sys/class/pwm/pwmchip0/pwm0/period 2272728")));
+        EXPECT_TRUE(setup.beeper().isStopPending());
+        EXPECT_EQ(SetupModel::notificationToneMs, setup.beeper().stopDelayMs());
+        EXPECT_EQ(clock.now().addMonths(1), cell(QStringLiteral("SELECT maintainanceScheduledAt FROM setupTable")).toDateTime());
+    }
 }
 
 TEST_F(Records, SettingsKnowTheLastCalibrationOfEachKind)
