@@ -382,6 +382,12 @@ ApplicationWindow {
     function qmlSoftwareUpdateCompleted(successful) {
         console.log("Software update completed:", successful)
     }
+    // SOFTWARE UPDATE ENTRY POINT: the button of the Software Versions page
+    // (Settings > Files and Info > Software Versions) calls this; the update
+    // page and its popups take it over.
+    function openSoftwareUpdate() {
+        console.log("Software update: not available in this build")
+    }
     function qmlShowSoftwareUpdateWarning() {
         console.log("Software update warning")
     }
@@ -494,6 +500,20 @@ ApplicationWindow {
         onCurrentItemChanged: sideBar.resetBackButton()
         Settings01 { id: settings01; visible: false }
         Display01 { id: display01; visible: false }
+        DisplayBrightnessSettings { id: dispBrightPage; visible: false }
+        InstrumentNameSettings { id: insNamePage; visible: false }
+        DateSettings { id: dateSettingsPage; visible: false }
+        TimeHoursDisplay { id: timeHourPage; visible: false }
+        LanguageSettings { id: langSettingsPage; visible: false }
+        TemperatureSettings { id: tempSettingsPage; visible: false }
+        Settings_Notifications { id: settingsNotifications; visible: false }
+        Diagnostics_Notif_CalibrationDue { id: notifCalibrationDue; visible: false }
+        Diagnostics_Notif_MaintenanceDue { id: notifMaintenanceDue; visible: false }
+        Settings_FilesandInfo { id: settingsFilesandInfo; visible: false }
+        Settings_FilesInfo_Firmware { id: settingsFilesInfoFirmware; visible: false }
+        DiagnosticsSettings { id: diagnosticsSettings; visible: false }
+        Diagnostics_FactoryReset { id: diagnosticsFactoryReset; visible: false }
+        Diagnostics_FactoryReset01 { id: diagnosticsFactoryReset01; visible: false }
     }
     CustomStackView {
         id: logStack
