@@ -96,7 +96,13 @@ MainContentBackground {
                         font.family: "Roboto"
                         font.pixelSize: 18
                         onTextEdited: page.message = ""
-                        onActiveFocusChanged: if (activeFocus) mainWindow.currentEdit = hoursInput
+                        // A tap takes the whole value: the digits typed replace it.
+                        onActiveFocusChanged: {
+                            if (activeFocus) {
+                                mainWindow.currentEdit = hoursInput
+                                selectAll()
+                            }
+                        }
                     }
                 }
                 Text {

@@ -122,6 +122,8 @@ MainContentBackground {
             height: 46
             label: qsTr("Temperature Units") + ls.translatedText
             options: page.temperatureOptions
+            // clear of the tip corner below it
+            boxRightMargin: 84
             onChosen: {
                 setup.temperatureFormat_Index = index
                 setup.setSetupValues()

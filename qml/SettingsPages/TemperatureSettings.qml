@@ -63,7 +63,12 @@ MainContentBackground {
                 font.family: "Roboto"
                 font.pixelSize: 20
                 onTextEdited: page.message = ""
-                onActiveFocusChanged: if (activeFocus) mainWindow.currentEdit = valueInput
+                onActiveFocusChanged: {
+                    if (activeFocus) {
+                        mainWindow.currentEdit = valueInput
+                        selectAll()
+                    }
+                }
             }
         }
         Text {
