@@ -37,6 +37,12 @@ MainContentBackground {
         }
     }
 
+    // Leaving the page before the bar is full is a cancel too.
+    onVisibleChanged: {
+        if (!visible && simpletimer.running)
+            simpletimer.stop()
+    }
+
     Timer {
         id: simpletimer
         interval: 20
