@@ -21,7 +21,9 @@ MainContentBackground {
         dateRow.value = displayValues.formatDate(new Date())
         timeRow.value = setup.time
         languageRow.value = setup.language
-        temperatureInputRow.value = dm.isProbePresent() ? "ATC" : "MAN"
+        var probe = dm.isProbePresent()
+        temperatureInputRow.value = probe ? "ATC" : "MAN"
+        temperatureInputRow.opensPage = !probe
         reIntializeUI()
     }
     // The forms of today's date, and both lists at their kept index.
@@ -110,6 +112,7 @@ MainContentBackground {
             objectName: "temperatureInputRow"
             height: 46
             label: qsTr("Temperature Input") + ls.translatedText
+            // With a probe the temperature is measured: nothing to enter.
             opensPage: true
             onClicked: {
                 tempSettingsPage.loadValue()
