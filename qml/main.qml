@@ -506,6 +506,7 @@ ApplicationWindow {
         TimeHoursDisplay { id: timeHourPage; visible: false }
         LanguageSettings { id: langSettingsPage; visible: false }
         TemperatureSettings { id: tempSettingsPage; visible: false }
+        TemperatureCurrentSettings { id: tempCurSettingsPage; visible: false }
         Settings_Notifications { id: settingsNotifications; visible: false }
         Diagnostics_Notif_CalibrationDue { id: notifCalibrationDue; visible: false }
         Diagnostics_Notif_MaintenanceDue { id: notifMaintenanceDue; visible: false }

@@ -21,9 +21,7 @@ MainContentBackground {
         dateRow.value = displayValues.formatDate(new Date())
         timeRow.value = setup.time
         languageRow.value = setup.language
-        var probe = dm.isProbePresent()
-        temperatureInputRow.value = probe ? "ATC" : "MAN"
-        temperatureInputRow.opensPage = !probe
+        temperatureInputRow.value = dm.isProbePresent() ? "ATC" : "MAN"
         reIntializeUI()
     }
     // The forms of today's date, and both lists at their kept index.
@@ -35,6 +33,13 @@ MainContentBackground {
         dateOptions = list
         dateDisplayRow.currentIndex = setup.dateFormat_Index
         temperatureUnitsRow.currentIndex = setup.temperatureFormat_Index
+    }
+
+    // A probe plugged in while the page is open shows at once.
+    Connections {
+        target: dm
+        enabled: page.visible
+        function onProbeTempChanged() { temperatureInputRow.value = dm.isProbePresent() ? "ATC" : "MAN" }
     }
 
     Column {
@@ -112,11 +117,12 @@ MainContentBackground {
             objectName: "temperatureInputRow"
             height: 46
             label: qsTr("Temperature Input") + ls.translatedText
-            // With a probe the temperature is measured: nothing to enter.
             opensPage: true
+            // With a probe: its calibration; without: the manual temperature.
             onClicked: {
-                tempSettingsPage.loadValue()
-                settingsStack.push(tempSettingsPage)
+                var page = dm.isProbePresent() ? tempCurSettingsPage : tempSettingsPage
+                page.loadValue()
+                settingsStack.push(page)
             }
         }
         ChoiceRow {

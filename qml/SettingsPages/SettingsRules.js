@@ -71,3 +71,19 @@ function temperatureCelsius(text, unitIndex) {
     }
     return v < 0 || v > 100 ? NaN : v
 }
+
+// The probe's calibration against a reference thermometer. `shown` is the
+// probe's reading as the page shows it (the current offset included), both
+// in the unit of the settings. Gives the reference in °C and the new offset
+// (°C, one decimal in °C; unrounded when entered in °F), or null when the
+// reference is refused.
+function atcCalibration(referenceText, shown, currentOffset, unitIndex) {
+    var reference = temperatureCelsius(referenceText, unitIndex)
+    if (isNaN(reference))
+        return null
+    var shownC = unitIndex === 1 ? Temperature.fahrenhiteTcelcious(shown) : shown
+    var offset = reference - shownC + currentOffset
+    if (unitIndex !== 1)
+        offset = Number(offset.toFixed(1))
+    return { reference: reference, offset: offset }
+}

@@ -55,6 +55,22 @@ TestCase {
             fuzzyCompare(c, data.celsius, 1e-9)
     }
 
+    function test_atc_data() {
+        return [
+            { tag: "reading 1.2 low", text: "25.0", shown: 23.8, offset: 0.5, unit: 0, expected: 1.7 },
+            { tag: "rounded to a tenth", text: "25.04", shown: 25.0, offset: 0, unit: 0, expected: 0 },
+            { tag: "in °F", text: "77", shown: 75.2, offset: 0, unit: 1, expected: 1 },
+            { tag: "refused", text: "101", shown: 25, offset: 0, unit: 0, expected: NaN }
+        ]
+    }
+    function test_atc(data) {
+        var r = SettingsRules.atcCalibration(data.text, data.shown, data.offset, data.unit)
+        if (isNaN(data.expected))
+            compare(r, null)
+        else
+            fuzzyCompare(r.offset, data.expected, 1e-6)
+    }
+
     function test_maintenance() {
         compare(SettingsRules.maintenanceIndex(6), 2)
         compare(SettingsRules.maintenanceIndex(0), 0)
