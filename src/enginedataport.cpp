@@ -392,6 +392,9 @@ QString EngineDataPort::getMspVersion() const
 void EngineDataPort::setMfgSerialNum(const QString &serial)
 {
     m_identity->setMfgSerialNum(serial);
+    // The settings' Files and Info page shows it as setup.mfgSerialNo.
+    if (m_setup)
+        m_setup->setMfgSerialNo(serial);
 }
 
 QString EngineDataPort::getMfgSerialNum() const

@@ -51,6 +51,12 @@ MainContentBackground {
         x: 30
         y: 24
         spacing: 12
+        Text {
+            color: Colors.slateColor
+            font.family: "Roboto"
+            font.pixelSize: 16
+            text: qsTr("Up to 14 letters and digits") + ls.translatedText
+        }
         Row {
             spacing: 10
             Rectangle {

@@ -40,9 +40,17 @@ MainContentBackground {
         anchors.fill: parent
         onClicked: valueInput.focus = false
     }
+    Text {
+        x: 30
+        y: 16
+        color: Colors.slateColor
+        font.family: "Roboto"
+        font.pixelSize: 16
+        text: (page.tempUnit === 1 ? qsTr("Manual temperature, 32.0 - 192.0 °F") : qsTr("Manual temperature, 0.0 - 100.0 °C")) + ls.translatedText
+    }
     Row {
         x: 30
-        y: 30
+        y: 48
         spacing: 12
         Rectangle {
             width: 200
@@ -82,7 +90,7 @@ MainContentBackground {
     Text {
         objectName: "temperatureMessage"
         x: 30
-        y: 100
+        y: 112
         width: 480
         wrapMode: Text.WordWrap
         font.family: "Roboto"
