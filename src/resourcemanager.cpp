@@ -4,6 +4,7 @@
 #include "models/databasecopy.h"
 #include "models/methodbackup.h"
 #include "models/methodmodel.h"
+#include "models/setupmodel.h"
 #include "system/beeper.h"
 #include "system/platform.h"
 #include "system/usb.h"
@@ -222,4 +223,18 @@ void ResourceManager::playNotify()
 void ResourceManager::playWarning()
 {
     m_beeper->playWarning();
+}
+
+void ResourceManager::titrationNotificationResponse(bool maxReached)
+{
+    const QString name = m_setup ? m_setup->instrumentName() : QString();
+    if (name == QLatin1String("SS Enterprise")) {
+        m_beeper->playEnterprise();
+    } else if (name == QLatin1String("Death Star")) {
+        m_beeper->playStarWars();
+    } else if (m_setup && maxReached && m_setup->maxTitrantVolumeNotification()) {
+        playWarning();
+    } else if (m_setup && m_setup->titrationCycleCompleteNotification()) {
+        beep(SetupModel::notificationToneHz, SetupModel::notificationToneMs);
+    }
 }

@@ -6,6 +6,7 @@
 
 class Beeper;
 class MethodModel;
+class SetupModel;
 class USB;
 class USBDisk;
 class USBHost;
@@ -31,6 +32,8 @@ public:
 
     // The list that imports fill (the method list the screens show); not owned.
     void setMethodList(MethodModel *list) { m_methodList = list; }
+    // The settings whose switches and name choose the end-of-run sound; not owned.
+    void setSetup(const SetupModel *setup) { m_setup = setup; }
 
     // The stick is there, has passed its arrival test and shows no error.
     bool usbIsReady() const;
@@ -62,6 +65,11 @@ public slots:
     // is refused.
     void beep(int freq_hz, int duration_ms);
     void stopBeep();
+    // The end of a titration: the instrument names "SS Enterprise" and
+    // "Death Star" play their tunes; else the warning tune when the
+    // burette's maximum was reached (switch "Maximum Titrant Volume"), or
+    // 440 Hz for a second (switch "Titration Cycle Complete").
+    void titrationNotificationResponse(bool maxReached);
     void updateSystem();
     // The database file to /VantorPro/database_backup/ on the stick.
     bool copyDatabaseToUsb();
@@ -87,6 +95,7 @@ private:
 
     USBHost *m_usbHost;
     Beeper *m_beeper;
+    const SetupModel *m_setup = nullptr;
     MethodModel *m_methodList = nullptr;
     bool m_methodsBackupFailed = false;
     QString m_ipAddress;

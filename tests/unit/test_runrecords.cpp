@@ -10,7 +10,9 @@
 #include "system/clock.h"
 #include "testdatabase.h"
 #include "testsupport.h"
+#include "system/beeper.h"
 #include "system/platform.h"
+#include "resourcemanager.h"
 
 #include <QImage>
 #include <QSignalSpy>
@@ -487,6 +489,41 @@ TEST_F(Records, TheMaintenanceReminderSoundsOnItsDayOnly)
         EXPECT_TRUE(setup.beeper().isStopPending());
         EXPECT_EQ(SetupModel::notificationToneMs, setup.beeper().stopDelayMs());
         EXPECT_EQ(clock.now().addMonths(1), cell(QStringLiteral("SELECT maintainanceScheduledAt FROM setupTable")).toDateTime());
+    }
+}
+
+// The end of a run sounds by the name and the two switches: the first
+// note's period tells which sound it was.
+TEST_F(Records, TheEndOfARunSoundsAsTheNameAndTheSwitchesSay)
+{
+    TempSandbox sandbox;
+    SetupModel setup;
+    ResourceManager rm;
+    rm.setSetup(&setup);
+    const struct { const char *name; bool maxReached, cycleOn, maxOn; int hz; } rows[] = {
+        {"Lab", false, true, true, 440},
+        {"Lab", true, true, true, 988},     // the warning tune
+        {"Lab", true, true, false, 440},
+        {"Lab", false, false, true, 0},     // silent
+        {"SS Enterprise", false, false, false, 294},
+        {"Death Star", true, true, true, 392},
+    };
+    for (const auto &r : rows) {
+        setup.setInstrumentName(QString::fromLatin1(r.name));
+        setup.setTitrationCycleCompleteNotification(r.cycleOn);
+        setup.setMaxTitrantVolumeNotification(r.maxOn);
+        Platform::clearRecordedCommands();
+        rm.titrationNotificationResponse(r.maxReached);
+        const QStringList written = Platform::recordedCommands();
+        if (r.hz == 0) {
+            EXPECT_TRUE(written.isEmpty()) << r.name;
+        } else {
+            ASSERT_GE(written.size(), 2) << r.name;
+            EXPECT_EQ(written[1], QStringLiteral("write %1 %2").arg(QLatin1String(Beeper::periodPath)).arg(Beeper::periodNs(r.hz)))
+                << r.name << " " << r.maxReached;
+        }
+        for (int i = 0; i < 10; ++i)
+            rm.stopBeep(); // to the end of any tune
     }
 }
 
