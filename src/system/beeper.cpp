@@ -29,9 +29,6 @@ Beeper::Beeper(QObject *parent)
 {
     m_stopTimer.setSingleShot(true);
     connect(&m_stopTimer, &QTimer::timeout, this, &Beeper::stopBeeping);
-    // A second export of the same channel is refused by the kernel; the
-    // channel is there all the same.
-    writeText(exportPath, 0);
 }
 
 int Beeper::periodNs(int freq_hz)
@@ -46,6 +43,12 @@ int Beeper::periodNs(int freq_hz)
 
 void Beeper::sound(int period, int dutyCycle, int duration_ms)
 {
+    if (!m_exported) {
+        // A second export of the same channel is refused by the kernel;
+        // the channel is there all the same.
+        writeText(exportPath, 0);
+        m_exported = true;
+    }
     writeText(dutyCyclePath, dutyCycle);
     writeText(periodPath, period);
     writeText(enablePath, 1);

@@ -20,7 +20,9 @@ public:
     static constexpr int defaultPeriodNs = 239000;
     static constexpr int defaultDutyCycleNs = 119500;
 
-    // Exports channel 0 (a channel exported before refuses; that is fine).
+    // Channel 0 is exported before the first tone (a channel exported
+    // before refuses; that is fine), so a beeper that never sounds writes
+    // nothing.
     explicit Beeper(QObject *parent = nullptr);
 
     // The period of a tone in ns, rounded as the channel takes it; 0 for a
@@ -61,6 +63,7 @@ private:
     const Note *m_song = nullptr;
     int m_songLength = 0;
     QTimer m_stopTimer;
+    bool m_exported = false;
     // How far the tune has come; shared by every beeper, as there is one buzzer.
     static int s_position;
 };

@@ -98,7 +98,7 @@ TEST(Beeper, TonesWriteTheChannelFilesAndStopAfterTheirDuration)
 {
     TempSandbox sandbox;
     Beeper beeper;
-    EXPECT_EQ(Platform::recordedCommands(), QStringList{QStringLiteral("write /sys/class/pwm/pwmchip0/export 0")});
+    EXPECT_TRUE(Platform::recordedCommands().isEmpty()) << "nothing before the first tone";
     const struct { int hz, ms; const char *period, *duty; bool stopPending; } rows[] = {
         {440, 1000, "2272728", "1136364", true},
         {4000, 200, "250001", "125000", true}, // half a ns added, then rounded
@@ -111,7 +111,7 @@ TEST(Beeper, TonesWriteTheChannelFilesAndStopAfterTheirDuration)
         EXPECT_EQ(deviceFile(Beeper::periodPath), QString::fromLatin1(r.period)) << r.hz;
         EXPECT_EQ(deviceFile(Beeper::dutyCyclePath), QString::fromLatin1(r.duty)) << r.hz;
         EXPECT_EQ(deviceFile(Beeper::enablePath), QStringLiteral("1"));
-        const QStringList written = Platform::recordedCommands();
+        const QStringList written = Platform::recordedCommands().filter(QStringLiteral("/pwm0/"));
         ASSERT_EQ(written.size(), 3);
         EXPECT_TRUE(written[0].startsWith(QStringLiteral("write /sys/class/pwm/pwmchip0/pwm0/duty_cycle ")));
         EXPECT_TRUE(written[2].endsWith(QStringLiteral("enable 1")));
@@ -120,6 +120,7 @@ TEST(Beeper, TonesWriteTheChannelFilesAndStopAfterTheirDuration)
             EXPECT_EQ(beeper.stopDelayMs(), r.ms);
         }
     }
+    EXPECT_EQ(deviceFile(Beeper::exportPath), QStringLiteral("0")) << "exported before the first tone";
     QSignalSpy complete(&beeper, &Beeper::beepComplete);
     beeper.stopBeeping();
     EXPECT_EQ(deviceFile(Beeper::enablePath), QStringLiteral("0"));

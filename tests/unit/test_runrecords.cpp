@@ -514,12 +514,12 @@ TEST_F(Records, TheEndOfARunSoundsAsTheNameAndTheSwitchesSay)
         setup.setMaxTitrantVolumeNotification(r.maxOn);
         Platform::clearRecordedCommands();
         rm.titrationNotificationResponse(r.maxReached);
-        const QStringList written = Platform::recordedCommands();
+        const QStringList written = Platform::recordedCommands().filter(QStringLiteral("/period "));
         if (r.hz == 0) {
             EXPECT_TRUE(written.isEmpty()) << r.name;
         } else {
-            ASSERT_GE(written.size(), 2) << r.name;
-            EXPECT_EQ(written[1], QStringLiteral("write %1 %2").arg(QLatin1String(Beeper::periodPath)).arg(Beeper::periodNs(r.hz)))
+            ASSERT_FALSE(written.isEmpty()) << r.name;
+            EXPECT_EQ(written[0], QStringLiteral("write %1 %2").arg(QLatin1String(Beeper::periodPath)).arg(Beeper::periodNs(r.hz)))
                 << r.name << " " << r.maxReached;
         }
         for (int i = 0; i < 10; ++i)
