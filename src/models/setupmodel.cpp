@@ -65,6 +65,9 @@ SetupModel::SetupModel(QObject *parent)
 {
     applyDefaults();
     connect(&m_dueTimer, &QTimer::timeout, this, &SetupModel::calibrationDueNotificationSlot);
+    // A coarse timer may fire up to 5 % early, twice in one minute, and a
+    // reminder would be given twice.
+    m_dueTimer.setTimerType(Qt::PreciseTimer);
     m_dueTimer.start(dueCheckIntervalMs);
     load();
 }
