@@ -505,7 +505,21 @@ ApplicationWindow {
         onCurrentItemChanged: sideBar.resetBackButton()
         Settings01 { id: settings01; visible: false }
         Display01 { id: display01; visible: false }
+        DisplayBrightnessSettings { id: dispBrightPage; visible: false }
+        InstrumentNameSettings { id: insNamePage; visible: false }
+        DateSettings { id: dateSettingsPage; visible: false }
+        TimeHoursDisplay { id: timeHourPage; visible: false }
+        LanguageSettings { id: langSettingsPage; visible: false }
+        TemperatureSettings { id: tempSettingsPage; visible: false }
+        TemperatureCurrentSettings { id: tempCurSettingsPage; visible: false }
+        Settings_Notifications { id: settingsNotifications; visible: false }
+        Diagnostics_Notif_CalibrationDue { id: notifCalibrationDue; visible: false }
+        Diagnostics_Notif_MaintenanceDue { id: notifMaintenanceDue; visible: false }
+        Settings_FilesandInfo { id: settingsFilesandInfo; visible: false }
         Settings_FilesInfo_Firmware { id: settingsFilesInfoFirmware; visible: false }
+        DiagnosticsSettings { id: diagnosticsSettings; visible: false }
+        Diagnostics_FactoryReset { id: diagnosticsFactoryReset; visible: false }
+        Diagnostics_FactoryReset01 { id: diagnosticsFactoryReset01; visible: false }
     }
     CustomStackView {
         id: logStack

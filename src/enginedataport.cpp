@@ -392,6 +392,9 @@ QString EngineDataPort::getMspVersion() const
 void EngineDataPort::setMfgSerialNum(const QString &serial)
 {
     m_identity->setMfgSerialNum(serial);
+    // The settings' Files and Info page shows it as setup.mfgSerialNo.
+    if (m_setup)
+        m_setup->setMfgSerialNo(serial);
 }
 
 QString EngineDataPort::getMfgSerialNum() const
@@ -406,7 +409,9 @@ void EngineDataPort::setTitrationCoreVersion(const QString &version)
 
 int EngineDataPort::displayBrightness() const
 {
-    return m_setup ? m_setup->displayBrightness() : 3;
+    // The brightness page's scratch level, which equals the stored one but
+    // while the page is open: + and - reach the backlight at once.
+    return m_setup ? m_setup->tempDisplayBrightness() : 3;
 }
 
 // ---- Live state ----

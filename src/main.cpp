@@ -129,6 +129,7 @@ int main(int argc, char *argv[])
     rm->refreshIpAddress();
     discovery->updateJSONDiscoveryFile();
     rm->setMethodList(dm->methodModel());
+    rm->setSetup(dm->setupModel());
     // Methods kept over a factory reset come back once, and their files go.
     QObject::connect(rm, &ResourceManager::methodsRestored, dm, &DataManagerBase::getMethodsFromDB);
     rm->restoreMethods();
@@ -152,6 +153,8 @@ int main(int argc, char *argv[])
     MeterController *mc = MeterController::mcPtr(dm); // the measurement engine, lent to the data layer
     TitrationControllerBase *tc = TitrationControllerBase::tcPtr(); // the run controller; sets the backlight
     consoleHost->setRunController(tc); // the remote port never stops the poll during a run
+    // The end of a run sounds as the notification switches and the name say.
+    QObject::connect(tc, &TitrationController::titrationNotification, rm, &ResourceManager::titrationNotificationResponse);
     // Host builds: KESTRUM_SPEED runs the clock faster, with the virtual instrument's.
     HostSpeed::apply(HostSpeed::fromEnvironment(), msp, bc, tc, dm->setupModel());
 
@@ -250,6 +253,9 @@ int main(int argc, char *argv[])
         if (!DatabaseStartup::message().isEmpty())
             QMetaObject::invokeMethod(root, "showMessage", Q_ARG(QVariant, QCoreApplication::translate("main", "Database")),
                                       Q_ARG(QVariant, DatabaseStartup::translatedMessage()));
+        // The maintenance reminder is looked at once, at start-up.
+        if (dm->setupModel()->isMaintainanceDueNotifOn())
+            dm->setupModel()->startMaintainanceNotification();
     }
     // A stick already there at start counts as just attached.
     rm->usb->usbDevChanged();

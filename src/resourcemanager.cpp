@@ -5,6 +5,8 @@
 #include "models/methodbackup.h"
 #include "models/methodmodel.h"
 #include "models/importexport.h"
+#include "models/setupmodel.h"
+#include "system/beeper.h"
 #include "system/platform.h"
 #include "system/printer.h"
 #include "system/softwareupdater.h"
@@ -32,6 +34,7 @@ ResourceManager::ResourceManager(QObject *parent)
     , printer(new Printer(QStringLiteral("/dev/ttyPOS"), this))
     , softwareUpdater(new SoftwareUpdater(usbDisk, this))
     , m_usbHost(new USBHost(usb, this))
+    , m_beeper(new Beeper(this))
 {
     connect(usb, &USB::usbPOSPrinterAttached, printer, &Printer::printerAttached);
     connect(usb, &USB::usbPOSPrinterDetached, printer, &Printer::printerDetached);
@@ -306,9 +309,34 @@ void ResourceManager::refreshIpAddress()
 void ResourceManager::beep(int freq_hz, int duration_ms)
 {
     qDebug() << "ResourceManager: beep" << freq_hz << "Hz for" << duration_ms << "ms";
+    m_beeper->beep(freq_hz, duration_ms);
 }
 
 void ResourceManager::stopBeep()
 {
-    qDebug() << "ResourceManager: beeper stopped";
+    m_beeper->stopBeeping();
+}
+
+void ResourceManager::playNotify()
+{
+    m_beeper->playNotify();
+}
+
+void ResourceManager::playWarning()
+{
+    m_beeper->playWarning();
+}
+
+void ResourceManager::titrationNotificationResponse(bool maxReached)
+{
+    const QString name = m_setup ? m_setup->instrumentName() : QString();
+    if (name == QLatin1String("SS Enterprise")) {
+        m_beeper->playEnterprise();
+    } else if (name == QLatin1String("Death Star")) {
+        m_beeper->playStarWars();
+    } else if (m_setup && maxReached && m_setup->maxTitrantVolumeNotification()) {
+        playWarning();
+    } else if (m_setup && m_setup->titrationCycleCompleteNotification()) {
+        beep(SetupModel::notificationToneHz, SetupModel::notificationToneMs);
+    }
 }

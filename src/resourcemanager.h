@@ -4,9 +4,11 @@
 #include <QString>
 #include <QVariant>
 
+class Beeper;
 class MethodModel;
 class Printer;
 class SoftwareUpdater;
+class SetupModel;
 class USB;
 class USBDisk;
 class USBHost;
@@ -44,6 +46,8 @@ public:
 
     // The list that imports fill (the method list the screens show); not owned.
     void setMethodList(MethodModel *list) { m_methodList = list; }
+    // The settings whose switches and name choose the end-of-run sound; not owned.
+    void setSetup(const SetupModel *setup) { m_setup = setup; }
 
     // The stick is there, has passed its arrival test and shows no error.
     bool usbIsReady() const;
@@ -77,11 +81,17 @@ public:
 
 public slots:
     void refreshIpAddress();
-    void playNotify() {}
-    void playWarning() {}
-    // The beeper: a duration of 0 sounds until stopBeep().
+    void playNotify();
+    void playWarning();
+    // The beeper: a duration of 0 sounds until stopBeep(); a frequency of 0
+    // is refused.
     void beep(int freq_hz, int duration_ms);
     void stopBeep();
+    // The end of a titration: the instrument names "SS Enterprise" and
+    // "Death Star" play their tunes; else the warning tune when the
+    // burette's maximum was reached (switch "Maximum Titrant Volume"), or
+    // 440 Hz for a second (switch "Titration Cycle Complete").
+    void titrationNotificationResponse(bool maxReached);
     // The update the check found: firmware first, then the application.
     void updateSystem();
     void updateFirmware();
@@ -119,6 +129,8 @@ private:
     void report(const QString &title, const QStringList &lines);
 
     USBHost *m_usbHost;
+    Beeper *m_beeper;
+    const SetupModel *m_setup = nullptr;
     MethodModel *m_methodList = nullptr;
     bool m_methodsBackupFailed = false;
     QString m_ipAddress;

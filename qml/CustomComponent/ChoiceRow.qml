@@ -9,6 +9,8 @@ Rectangle {
     property alias label: labelText.text
     property var options: []
     property alias currentIndex: box.currentIndex
+    // Room on the right, for a row that lies under the window's tip corner.
+    property int boxRightMargin: 12
     readonly property string currentText: box.currentText
     signal chosen(int index, string text)
 
@@ -36,7 +38,7 @@ Rectangle {
         id: box
         objectName: row.objectName + "Box"
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: row.boxRightMargin
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width * 0.46
         height: Math.min(48, row.height - 2)

@@ -95,6 +95,7 @@ Rectangle {
         State { name: "usbNotReady"; PropertyChanges { target: busy; header: qsTr("Error") + ls.translatedText; message: qsTr("USB is not ready") + ls.translatedText } },
         State { name: "methodFull"; PropertyChanges { target: busy; header: qsTr("Error") + ls.translatedText; message: qsTr("Method log is full, new method cannot be saved.") + ls.translatedText; buttonText: qsTr("Continue") + ls.translatedText } },
         State { name: "copyMethodError"; PropertyChanges { target: busy; header: qsTr("Error") + ls.translatedText; message: qsTr("Method log is full, new method cannot be saved.") + ls.translatedText } },
+        State { name: "factoryReset"; PropertyChanges { target: busy; header: qsTr("Factory Reset") + ls.translatedText; message: qsTr("Restarting Application...") + ls.translatedText; working: true } },
         State { name: "restarting"; PropertyChanges { target: busy; header: qsTr("Restart") + ls.translatedText; message: qsTr("Restarting Application...") + ls.translatedText; working: true } }
     ]
 }

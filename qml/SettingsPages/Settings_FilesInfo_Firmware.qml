@@ -36,18 +36,22 @@ MainContentBackground {
     Column {
         width: parent.width
         SettingRow {
+            objectName: "modelStringRow"
             label: qsTr("Model") + ls.translatedText
             value: dm.titratorModelString
         }
         SettingRow {
+            objectName: "appVersionRow"
             label: qsTr("Application Version") + ls.translatedText
             value: dm.appVersionNumber
         }
         SettingRow {
+            objectName: "firmwareVersionRow"
             label: qsTr("Firmware Version") + ls.translatedText
             value: dm.mspQmlVersion
         }
         SettingRow {
+            objectName: "ipAddressRow"
             label: qsTr("IP Address") + ls.translatedText
             value: rm.ipAddress.length > 0 ? rm.ipAddress.split(",").join(", ") : qsTr("Not connected") + ls.translatedText
         }

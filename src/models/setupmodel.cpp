@@ -65,6 +65,9 @@ SetupModel::SetupModel(QObject *parent)
 {
     applyDefaults();
     connect(&m_dueTimer, &QTimer::timeout, this, &SetupModel::calibrationDueNotificationSlot);
+    // A coarse timer may fire up to 5 % early, twice in one minute, and a
+    // reminder would be given twice.
+    m_dueTimer.setTimerType(Qt::PreciseTimer);
     m_dueTimer.start(dueCheckIntervalMs);
     load();
 }
@@ -172,6 +175,8 @@ bool SetupModel::setSetupValues()
 
 void SetupModel::resetSetupValues()
 {
+    // The factory values are those a first start writes: the 12-hour form
+    // (0), degrees Celsius (0) and 25 °C of manual temperature.
     m_id = rowId;
     m_language.clear();
     m_time.clear();
@@ -179,12 +184,12 @@ void SetupModel::resetSetupValues()
     m_screenSensitivity.clear();
     m_screenSaverTime.clear();
     m_dateFormat_Index = 0;
-    m_timeFormat_Index = 1;
-    m_temperatureFormat_Index = 1;
+    m_timeFormat_Index = 0;
+    m_temperatureFormat_Index = 0;
     m_displayBrightness = 3;
     m_tempDisplayBrightness = 3;
     m_isSetupLoaded = false;
-    m_temperatureInput = 0.0f;
+    m_temperatureInput = 25.0f;
     m_temperatureInputAtc = 0.0f;
     m_temperatureOffset = 0.0f;
     m_buretteSize = 20;
@@ -396,8 +401,26 @@ void SetupModel::calibrationDueNotificationSlot()
     const bool on[3] = {m_isPhCalibrationNotifOn, m_isRedoxCalibrationNotifOn, m_isIseCalibrationNotifOn};
     for (int kind = 0; kind < 3; ++kind) {
         if (on[kind] && isCalibrationDue(m_lastTime[kind], now, hours[kind])) {
+            startBeep();
             emit notificationSignal(QVariant(kind + 1));
             return;
         }
     }
+}
+
+void SetupModel::startBeep()
+{
+    m_beeper.beep(notificationToneHz, notificationToneMs);
+}
+
+void SetupModel::startMaintainanceNotification()
+{
+    const QDateTime now = Clock::now();
+    qDebug() << "maintainance Date " << m_maintainanceScheduledAt;
+    qDebug() << "current Date " << now;
+    if (!m_maintainanceScheduledAt.isValid() || m_maintainanceScheduledAt.date() != now.date())
+        return;
+    updatemaintainanceScheduledAt();
+    startBeep();
+    emit notificationSignal(QVariant(9));
 }

@@ -2,6 +2,7 @@
 
 #include "models/columnspec.h"
 #include "models/modelproperty.h"
+#include "system/beeper.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -77,6 +78,12 @@ public:
     // period of `hours` after the calibration, in its first minute too.
     static bool isCalibrationDue(const QDateTime &last, const QDateTime &now, int hours);
     static constexpr int dueCheckIntervalMs = 60000;
+    static constexpr int notificationToneHz = 440;
+    static constexpr int notificationToneMs = 1000;
+    // At start-up, with the maintenance switch on: on the day the schedule
+    // names, the schedule moves on, a tone sounds and etype 9 leaves.
+    void startMaintainanceNotification();
+    Beeper &beeper() { return m_beeper; }
     // The accelerated host clock checks as often in the instrument's time.
     void setDueCheckInterval(int ms) { m_dueTimer.setInterval(ms); }
 
@@ -125,6 +132,8 @@ public slots:
     void getLastCalibrationTime();
     // The due check of the three kinds: at most one notification, pH first.
     void calibrationDueNotificationSlot();
+    // The tone of a notification: 440 Hz for one second.
+    void startBeep();
 
 signals:
     void idChanged();
@@ -149,6 +158,7 @@ private:
     bool m_loading = false;
     QString m_mfgSerialNo;
     QTimer m_dueTimer;
+    Beeper m_beeper;
     QDateTime m_lastTime[3];
     float m_lastAvg[3] = {0.0f, 0.0f, 0.0f};
 };

@@ -66,7 +66,7 @@ void record(const QString &line)
     QDir().mkpath(QFileInfo(logPath).absolutePath());
     QFile log(logPath);
     if (log.open(QIODevice::Append | QIODevice::Text)) {
-        log.write(QDateTime::currentDateTime().toString(Qt::ISODate).toUtf8() + ' ' + line.toUtf8() + '\n');
+        log.write(QDateTime::currentDateTime().toString(Qt::ISODateWithMs).toUtf8() + ' ' + line.toUtf8() + '\n');
     }
     qDebug() << "Platform (host): not run, recorded:" << line;
 }
@@ -109,7 +109,7 @@ void Platform::prepareSandbox()
     if (isTarget())
         return;
     // /dev/bus/usb/002 is the bus of the device port while no host computer is attached.
-    for (const char *dir : {"/var/Kestrum/log", "/dev/bus/usb/002", "/media/usb", "/opt/www", "/sys/class/pwm/pwmchip0"})
+    for (const char *dir : {"/var/Kestrum/log", "/dev/bus/usb/002", "/media/usb", "/opt/www", "/sys/class/pwm/pwmchip0/pwm0"})
         QDir().mkpath(path(QString::fromLatin1(dir)));
 }
 
@@ -178,6 +178,19 @@ Platform::Result Platform::run(const QString &program, const QStringList &argume
     result.standardOutput = process.readAllStandardOutput();
     result.standardError = process.readAllStandardError();
     return result;
+}
+
+bool Platform::writeDeviceFile(const QString &targetPath, const QByteArray &text)
+{
+    QFile file(path(targetPath));
+    // Unbuffered: a kernel attribute takes one write() of the whole text.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(text + '\n') != text.size() + 1) {
+        qDebug() << "Platform: could not write" << text << "to" << targetPath << file.errorString();
+        return false;
+    }
+    if (!isTarget())
+        record(QStringLiteral("write %1 %2").arg(targetPath, QString::fromLatin1(text)));
+    return true;
 }
 
 bool Platform::startDetached(const QString &program, const QStringList &arguments)

@@ -48,6 +48,12 @@ public:
     // Runs a command with an argument list (never a shell string built from
     // data) and waits up to timeoutMs.
     static Result run(const QString &program, const QStringList &arguments, int timeoutMs);
+    // Writes a text into a device file of the kernel (a sysfs attribute such
+    // as "/sys/class/pwm/pwmchip0/pwm0/period") as one write, no shell. On a
+    // host the file in the sandbox is written and the write is recorded as
+    // "write PATH TEXT" beside the commands. False when the file can't be
+    // written (logged).
+    static bool writeDeviceFile(const QString &targetPath, const QByteArray &text);
     // Starts a command without waiting for it.
     static bool startDetached(const QString &program, const QStringList &arguments);
 

@@ -12,7 +12,8 @@ foreach(script sections firststart notification screenshot baddatabase
                phcalibration onepointcalibration slopelimits burette redoxcalibration fivepointcalibration
                firststartpickers firststartlanguages usbimport readonlydatabase repeatedbuffer runoffers nooffers
                translatedmessages methodlibrary methodlimit methodexchange logs logprint reportoutput
-               softwareupdate softwareupdatefailure)
+               softwareupdate softwareupdatefailure
+               settingsdisplay settingsnotifications factoryreset settingsatc settingspages)
   add_test(NAME e2e_ui_${script} COMMAND ${CMAKE_CURRENT_LIST_DIR}/ui/run-ui-test.sh ${script})
   set_tests_properties(e2e_ui_${script} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 240)
 endforeach()

@@ -272,6 +272,11 @@ TEST_F(EnginePort, SetupRowGivesBuretteSizeAndTemperatures)
     EXPECT_FLOAT_EQ(dm->getTemperature(), 21.5f) << "no probe: the manual temperature";
     EXPECT_FLOAT_EQ(dm->engine()->temperatureRawCelcius(), 125.f);
     EXPECT_EQ(seen.count(), 1);
+
+    // The backlight follows the brightness page's level before it is saved.
+    dm->setupModel()->setTempDisplayBrightness(5);
+    EXPECT_EQ(dm->engine()->displayBrightness(), 5);
+    EXPECT_EQ(dm->setupModel()->displayBrightness(), 3);
 }
 
 TEST_F(EnginePort, ScaledValueIsPhOnlyForAPhElectrodeShownInPh)

@@ -1,8 +1,10 @@
+#include "system/beeper.h"
 #include "system/platform.h"
 #include "testsupport.h"
 
 #include <QDateTime>
 #include <QFile>
+#include <QSignalSpy>
 #include <gtest/gtest.h>
 
 namespace {
@@ -82,6 +84,77 @@ TEST(Platform, SimulatedAnswersAndHarmlessCommandsRunForReal)
     const Platform::Result missing = Platform::run(QStringLiteral("find"), {QStringLiteral("/nonexistent-kestrum")}, 5000);
     EXPECT_TRUE(missing.started);
     EXPECT_NE(missing.exitCode, 0);
+}
+
+QString deviceFile(const char *path)
+{
+    return readTextFile(Platform::path(QString::fromLatin1(path))).trimmed();
+}
+
+// A tone writes duty cycle, period and enable, in this order, straight into
+// the channel's files; its stop writes 0. A frequency of 0 (which would
+// divide by zero) is refused before anything is written.
+TEST(Beeper, TonesWriteTheChannelFilesAndStopAfterTheirDuration)
+{
+    TempSandbox sandbox;
+    Beeper beeper;
+    EXPECT_TRUE(Platform::recordedCommands().isEmpty()) << "nothing before the first tone";
+    const struct { int hz, ms; const char *period, *duty; bool stopPending; } rows[] = {
+        {440, 1000, "2272728", "1136364", true},
+        {4000, 200, "250001", "125000", true}, // half a ns added, then rounded
+        {1, 50, "1000000000", "500000000", true},
+        {440, 0, "2272728", "1136364", false}, // sounds until stopped
+    };
+    for (const auto &r : rows) {
+        Platform::clearRecordedCommands();
+        ASSERT_TRUE(beeper.beep(r.hz, r.ms)) << r.hz;
+        EXPECT_EQ(deviceFile(Beeper::periodPath), QString::fromLatin1(r.period)) << r.hz;
+        EXPECT_EQ(deviceFile(Beeper::dutyCyclePath), QString::fromLatin1(r.duty)) << r.hz;
+        EXPECT_EQ(deviceFile(Beeper::enablePath), QStringLiteral("1"));
+        const QStringList written = Platform::recordedCommands().filter(QStringLiteral("/pwm0/"));
+        ASSERT_EQ(written.size(), 3);
+        EXPECT_TRUE(written[0].startsWith(QStringLiteral("write /sys/class/pwm/pwmchip0/pwm0/duty_cycle ")));
+        EXPECT_TRUE(written[2].endsWith(QStringLiteral("enable 1")));
+        EXPECT_EQ(beeper.isStopPending(), r.stopPending) << r.hz;
+        if (r.stopPending) {
+            EXPECT_EQ(beeper.stopDelayMs(), r.ms);
+        }
+    }
+    EXPECT_EQ(deviceFile(Beeper::exportPath), QStringLiteral("0")) << "exported before the first tone";
+    QSignalSpy complete(&beeper, &Beeper::beepComplete);
+    beeper.stopBeeping();
+    EXPECT_EQ(deviceFile(Beeper::enablePath), QStringLiteral("0"));
+    EXPECT_EQ(complete.count(), 1);
+
+    Platform::clearRecordedCommands();
+    for (int hz : {0, -440})
+        EXPECT_FALSE(beeper.beep(hz, 1000));
+    EXPECT_TRUE(Platform::recordedCommands().isEmpty());
+    EXPECT_FALSE(beeper.isStopPending());
+}
+
+// Each note's end starts the next; a tune's end leaves no connection, so a
+// plain tone afterwards plays no further note.
+TEST(Beeper, ATuneWalksItsNotesOnEachStopAndThenLetsGo)
+{
+    TempSandbox sandbox;
+    Beeper beeper;
+    beeper.playNotify();
+    QStringList periods{deviceFile(Beeper::periodPath)};
+    for (int i = 0; i < 3; ++i) {
+        beeper.stopBeeping();
+        periods << deviceFile(Beeper::periodPath);
+    }
+    EXPECT_EQ(periods.size(), 4);
+    EXPECT_NE(periods[0], periods[1]);
+    EXPECT_NE(periods[1], periods[2]);
+    EXPECT_EQ(periods[2], periods[3]) << "no fourth note";
+    EXPECT_EQ(deviceFile(Beeper::enablePath), QStringLiteral("0"));
+
+    beeper.beep(440, 100);
+    beeper.stopBeeping();
+    EXPECT_EQ(deviceFile(Beeper::periodPath), QStringLiteral("2272728"));
+    EXPECT_EQ(deviceFile(Beeper::enablePath), QStringLiteral("0"));
 }
 
 } // namespace

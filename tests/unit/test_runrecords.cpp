@@ -9,8 +9,13 @@
 #include "models/titrationmodel.h"
 #include "system/clock.h"
 #include "testdatabase.h"
+#include "testsupport.h"
+#include "system/beeper.h"
+#include "system/platform.h"
+#include "resourcemanager.h"
 
 #include <QImage>
+#include <QSignalSpy>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <gtest/gtest.h>
@@ -438,9 +443,11 @@ TEST_F(Records, TheSettingsRowTakesDefaultsOnFirstStartAndKeepsChanges)
     EXPECT_FALSE(third.isPhCalibrationNotifOn());
     EXPECT_TRUE(third.isDataUpdated());
 
+    // The reset takes the first start's values (12-hour form, °C, 25 °C).
     third.resetSetupValues();
-    EXPECT_EQ(1, third.timeFormat_Index());
-    EXPECT_EQ(0.0f, third.temperatureInput());
+    EXPECT_EQ(0, third.timeFormat_Index());
+    EXPECT_EQ(0, third.temperatureFormat_Index());
+    EXPECT_EQ(25.0f, third.temperatureInput());
     EXPECT_TRUE(third.instrumentName().isEmpty());
     EXPECT_EQ(QStringLiteral("Lab 2"), cell(QStringLiteral("SELECT instrumentName FROM setupTable")).toString())
         << "a reset is memory only";
@@ -456,6 +463,68 @@ TEST_F(Records, TheMaintenanceScheduleRunsOnePeriodAheadInTheTable)
     EXPECT_EQ(start.addMonths(6), setup.maintainanceScheduledAt());
     EXPECT_EQ(start.addMonths(9), cell(QStringLiteral("SELECT maintainanceScheduledAt FROM setupTable")).toDateTime());
     EXPECT_EQ(3, cell(QStringLiteral("SELECT maintainanceDue FROM setupTable")).toInt());
+}
+
+// The reminder at start-up sounds and leaves only on the day the schedule
+// names, and then moves the schedule on; the tone is 440 Hz.
+TEST_F(Records, TheMaintenanceReminderSoundsOnItsDayOnly)
+{
+    TempSandbox sandbox;
+    const struct { int daysAfterStart; bool raised; } rows[] = {{0, true}, {1, false}, {-1, false}};
+    for (const auto &r : rows) {
+        SetupModel setup;
+        setup.setDate(clock.now().addMonths(-2));
+        setup.setIsMaintainanceDueNotifOn(true);
+        setup.updateMaintainanceDue(1);
+        ASSERT_EQ(clock.now(), setup.maintainanceScheduledAt());
+        setup.setMaintainanceScheduledAt(clock.now().addDays(r.daysAfterStart));
+        QSignalSpy notified(&setup, &SetupModel::notificationSignal);
+        Platform::clearRecordedCommands();
+        setup.startMaintainanceNotification();
+        ASSERT_EQ(notified.count(), r.raised ? 1 : 0) << r.daysAfterStart;
+        if (!r.raised)
+            continue;
+        EXPECT_EQ(9, notified.at(0).at(0).value<QVariant>().toInt());
+        EXPECT_TRUE(Platform::recordedCommands().contains(QStringLiteral("write /sys/class/pwm/pwmchip0/pwm0/period 2272728")));
+        EXPECT_TRUE(setup.beeper().isStopPending());
+        EXPECT_EQ(SetupModel::notificationToneMs, setup.beeper().stopDelayMs());
+        EXPECT_EQ(clock.now().addMonths(1), cell(QStringLiteral("SELECT maintainanceScheduledAt FROM setupTable")).toDateTime());
+    }
+}
+
+// The end of a run sounds by the name and the two switches: the first
+// note's period tells which sound it was.
+TEST_F(Records, TheEndOfARunSoundsAsTheNameAndTheSwitchesSay)
+{
+    TempSandbox sandbox;
+    SetupModel setup;
+    ResourceManager rm;
+    rm.setSetup(&setup);
+    const struct { const char *name; bool maxReached, cycleOn, maxOn; int hz; } rows[] = {
+        {"Lab", false, true, true, 440},
+        {"Lab", true, true, true, 988},     // the warning tune
+        {"Lab", true, true, false, 440},
+        {"Lab", false, false, true, 0},     // silent
+        {"SS Enterprise", false, false, false, 294},
+        {"Death Star", true, true, true, 392},
+    };
+    for (const auto &r : rows) {
+        setup.setInstrumentName(QString::fromLatin1(r.name));
+        setup.setTitrationCycleCompleteNotification(r.cycleOn);
+        setup.setMaxTitrantVolumeNotification(r.maxOn);
+        Platform::clearRecordedCommands();
+        rm.titrationNotificationResponse(r.maxReached);
+        const QStringList written = Platform::recordedCommands().filter(QStringLiteral("/period "));
+        if (r.hz == 0) {
+            EXPECT_TRUE(written.isEmpty()) << r.name;
+        } else {
+            ASSERT_FALSE(written.isEmpty()) << r.name;
+            EXPECT_EQ(written[0], QStringLiteral("write %1 %2").arg(QLatin1String(Beeper::periodPath)).arg(Beeper::periodNs(r.hz)))
+                << r.name << " " << r.maxReached;
+        }
+        for (int i = 0; i < 10; ++i)
+            rm.stopBeep(); // to the end of any tune
+    }
 }
 
 TEST_F(Records, SettingsKnowTheLastCalibrationOfEachKind)
