@@ -490,6 +490,21 @@
         </message>
     </context>
     <context>
+        <name>DateSettings</name>
+        <message>
+            <source>Date</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+        <message>
+            <source>Save Date</source>
+            <translation>Guardar data</translation>
+        </message>
+    </context>
+    <context>
         <name>DeleteLogConfirmPopup</name>
         <message>
             <source>Delete Data Confirm</source>
@@ -506,6 +521,113 @@
         <message>
             <source>Cancel</source>
             <translation>Cancelar</translation>
+        </message>
+    </context>
+    <context>
+        <name>DiagnosticsSettings</name>
+        <message>
+            <source>Diagnostics</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Reposição de fábrica</translation>
+        </message>
+    </context>
+    <context>
+        <name>Diagnostics_FactoryReset</name>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Reposição de fábrica</translation>
+        </message>
+        <message>
+            <source>Resetting the unit to factory defaults will
+ erase all settings, will delete any saved
+ methods and any data in the logs.
+ This action cannot be undone.
+</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Do not delete methods</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Start</source>
+            <translation>Iniciar</translation>
+        </message>
+    </context>
+    <context>
+        <name>Diagnostics_FactoryReset01</name>
+        <message>
+            <source>Factory reset in progress...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+    </context>
+    <context>
+        <name>Diagnostics_Notif_CalibrationDue</name>
+        <message>
+            <source>Calibration Due Alarm</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Enter Calibration due hours between 1 - 9999 hours</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>pH Cal Due</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Redox Cal Due</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>ISE Cal Due</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Hours</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
+        </message>
+    </context>
+    <context>
+        <name>Diagnostics_Notif_MaintenanceDue</name>
+        <message>
+            <source>Maintenance Due</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>1 Month</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>3 Months</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>6 Months</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>12 Months</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Reminder</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
         </message>
     </context>
     <context>
@@ -568,6 +690,53 @@
         <message>
             <source>Display</source>
             <translation>Ecrã</translation>
+        </message>
+        <message>
+            <source>Display Brightness</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Instrument Name</source>
+            <translation>Nome do instrumento</translation>
+        </message>
+        <message>
+            <source>Date</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Date Display</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Time</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Language</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Temperature Input</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Temperature Units</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>DisplayBrightnessSettings</name>
+        <message>
+            <source>Display Brightness</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Level %1 of %2</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
         </message>
     </context>
     <context>
@@ -858,6 +1027,21 @@
         </message>
     </context>
     <context>
+        <name>FPopup</name>
+        <message>
+            <source>Software Updating</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Do not power off titrator while software update is in progress.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Close</source>
+            <translation>Fechar</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -937,7 +1121,45 @@
         </message>
     </context>
     <context>
+        <name>InstrumentNameSettings</name>
+        <message>
+            <source>Instrument Name</source>
+            <translation>Nome do instrumento</translation>
+        </message>
+        <message>
+            <source>Up to 14 letters and digits</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
+            <translation>Nome inválido. Introduza até 14 carateres alfanuméricos.</translation>
+        </message>
+        <message>
+            <source>Special characters are not allowed</source>
+            <translation>Não são permitidos carateres especiais</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
+        </message>
+    </context>
+    <context>
         <name>KeypadEntry</name>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
+        </message>
+    </context>
+    <context>
+        <name>LanguageSettings</name>
+        <message>
+            <source>Language</source>
+            <translation type="unfinished" />
+        </message>
         <message>
             <source>Cancel</source>
             <translation>Cancelar</translation>
@@ -1297,6 +1519,10 @@
             <source>Printer not connected</source>
             <translation>Impressora não ligada</translation>
         </message>
+        <message>
+            <source>Factory Reset</source>
+            <translation>Reposição de fábrica</translation>
+        </message>
     </context>
     <context>
         <name>ProcessDestroyConfirmation</name>
@@ -1388,6 +1614,25 @@
         </message>
     </context>
     <context>
+        <name>SWUpdatePopup</name>
+        <message>
+            <source>Software Update</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Visit</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>to download software updates for your titrator and access the latest functions and features.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>OK</source>
+            <translation>OK</translation>
+        </message>
+    </context>
+    <context>
         <name>SelectExportMethodsPopup</name>
         <message>
             <source>Print Methods</source>
@@ -1423,6 +1668,107 @@
         <message>
             <source>Settings</source>
             <translation>Definições</translation>
+        </message>
+        <message>
+            <source>Diagnostics</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Display</source>
+            <translation>Ecrã</translation>
+        </message>
+        <message>
+            <source>Files and Info</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Notifications</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>Settings_FilesInfo_Firmware</name>
+        <message>
+            <source>Software Versions</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Model</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Application Version</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Firmware Version</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>IP Address</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Not connected</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Found: %1</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>Settings_FilesandInfo</name>
+        <message>
+            <source>Files and Info</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Not set</source>
+            <translation>Não definido</translation>
+        </message>
+        <message>
+            <source>Serial No.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Model No.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Burette Installation Date</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Software Versions</source>
+            <translation type="unfinished" />
+        </message>
+    </context>
+    <context>
+        <name>Settings_Notifications</name>
+        <message>
+            <source>Notifications</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Calibration Due</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Maintenance Due</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Titration Cycle Complete</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Maximum Titrant Volume</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Data Log Full</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -1565,6 +1911,109 @@
         <message>
             <source>Installation Date</source>
             <translation>Data de instalação</translation>
+        </message>
+    </context>
+    <context>
+        <name>SoftwareUpdater</name>
+        <message>
+            <source>No new software available.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>The USB disk could not be read.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Reboot required to perform upgrade.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>New firmware available!</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>New Application Available!</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Update failed: the USB disk was removed during the copy.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Update failed: the files could not be copied from the USB disk.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Updating firmware: Starting...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Updating firmware: Erasing...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Updating firmware: Programming...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Firmware Updated Successfully!</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Updating firmware: Rebooting</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Firmware update failed. The running version stays.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Firmware update failed: the update file is missing.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Updating Appication: Copying...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Updating Application: Restarting...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Application update failed. The running version stays.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>System Update Completed</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>System Update Failed!</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Updating...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Update System</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Update Firmware</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Checking USB...</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Reboot and Update</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Check for Updates</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
@@ -1767,6 +2216,83 @@
         <message>
             <source>Done Editing</source>
             <translation>Concluir edição</translation>
+        </message>
+    </context>
+    <context>
+        <name>TemperatureCurrentSettings</name>
+        <message>
+            <source>ATC Probe Calibration</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>ATC Probe Calibrated</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Temperature offset</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Current Temperature</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Reference Temperature</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
+        </message>
+    </context>
+    <context>
+        <name>TemperatureSettings</name>
+        <message>
+            <source>Temperature Input</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Invalid value. Please enter a value between</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Manual temperature, 32.0 - 192.0 °F</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Manual temperature, 0.0 - 100.0 °C</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Save</source>
+            <translation>Guardar</translation>
+        </message>
+    </context>
+    <context>
+        <name>TimeHoursDisplay</name>
+        <message>
+            <source>Time</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancelar</translation>
+        </message>
+        <message>
+            <source>Save Time</source>
+            <translation type="unfinished" />
         </message>
     </context>
     <context>
