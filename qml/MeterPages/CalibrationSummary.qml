@@ -150,7 +150,8 @@ MainContentBackground {
             height: 34
             Repeater {
                 model: [qsTr("Cal. Point"), qsTr("Calibration Value"), qsTr("mV Value"),
-                        setup.temperatureFormat_Index === 0 ? qsTr("Temp. °C") : qsTr("Temp. °F"),
+                        // the unit's symbol is the same in every language
+                        qsTr("Temp. °C").replace("°C", Temperature.unitText(setup.temperatureFormat_Index)),
                         page.electrodeType === "Redox" ? qsTr("Offset") : qsTr("Segment Slope")]
                 Text {
                     width: page.columnWidths[index]
