@@ -35,14 +35,12 @@ def index(log, out):
             name = os.path.basename(line[5:].strip())
             if name not in shots:
                 shots.append(name)
-    groups = []
+    # by the script they came from (the stem up to its first dash), in the order taken
+    groups = {}
     for name in shots:
-        group = name.split("-", 1)[0]
-        if not groups or groups[-1][0] != group:
-            groups.append((group, []))
-        groups[-1][1].append(name)
+        groups.setdefault(name.split("-", 1)[0], []).append(name)
     body = []
-    for group, names in groups:
+    for group, names in groups.items():
         body.append(f"<h2>{html.escape(group)}</h2><div class=\"row\">")
         for n in names:
             e = html.escape(n)
