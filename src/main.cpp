@@ -56,6 +56,19 @@
 
 namespace {
 
+// A host draws the screens with Qt Quick's software renderer: a host's
+// display here is Xvfb, where OpenGL is Mesa's emulation on the processor,
+// which costs about 85 MB of resident memory and compiles code for every new
+// drawing state (docs/performance.md). QT_QUICK_BACKEND, when set, or
+// KESTRUM_RENDERER=opengl chooses otherwise; the instrument keeps OpenGL.
+void chooseSceneGraph()
+{
+    if (Platform::isTarget() || !qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")
+        || qgetenv("KESTRUM_RENDERER") == "opengl")
+        return;
+    QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+}
+
 // Connects a signal to a function of the root window when the screens have
 // that function; a missing one is logged, never a failure.
 void connectToRoot(QObject *root, QObject *sender, const char *signal, const char *function)
@@ -83,6 +96,7 @@ int main(int argc, char *argv[])
 
     qputenv("QT_IM_MODULE", QByteArray("qtvirtualkeyboard"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    chooseSceneGraph();
     QApplication app(argc, argv);
     QQuickStyle::setStyle(QStringLiteral("Material"));
     // Roboto for every text, those that name no family (the run screen's,

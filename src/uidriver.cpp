@@ -2,12 +2,14 @@
 
 #include "reports/logmanager.h"
 #include "system/platform.h"
+#include "uiframeclock.h"
 #include "uigesture.h"
 #include "uidriverusb.h"
 #include "uiscene.h"
 
 #include <QDebug>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -44,6 +46,21 @@ QString shownList(const UiScene &scene, int limit = 40)
         texts << QLatin1Char('"') + t.text + QLatin1Char('"');
     }
     return texts.isEmpty() ? QStringLiteral("no text on show") : QStringLiteral("on show: ") + texts.join(QStringLiteral(", "));
+}
+
+// The process's resident memory now and its open descriptors, from /proc.
+QString processFigures()
+{
+    long residentKb = -1;
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &line : status.readAll().split('\n')) {
+            if (line.startsWith("VmRSS:"))
+                residentKb = line.mid(6).trimmed().split(' ').value(0).toLong();
+        }
+    }
+    const int files = int(QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
+    return QStringLiteral("resident kB %1, open files %2").arg(residentKb).arg(files);
 }
 
 } // namespace
@@ -113,6 +130,9 @@ void UiDriver::attach(QQuickWindow *window)
 void UiDriver::setWindow(QQuickWindow *window)
 {
     m_window = window;
+    if (!m_frames)
+        m_frames = new UiFrameClock(this);
+    m_frames->setWindow(window);
 }
 
 bool UiDriver::listen(const QString &path, QString *error)
@@ -183,6 +203,8 @@ void UiDriver::execute(const QString &line, Reply reply)
         p.timeoutMs = TapWaitMs;
         if (!parseGesture(&p))
             return;
+    } else if (p.command == QLatin1String("frame")) {
+        p.timeoutMs = TapWaitMs;
     } else if (p.command == QLatin1String("wait")) {
         p.timeoutMs = DefaultWaitMs;
         // A last word that is a number is the time limit in seconds.
@@ -301,6 +323,8 @@ bool UiDriver::attempt(const Pending &p, bool last)
             return true;
         }
         if (item) {
+            if (m_frames)
+                m_frames->markTap();
             scene.tap(item);
             p.reply(true, QString());
             return true;
@@ -361,6 +385,17 @@ bool UiDriver::attempt(const Pending &p, bool last)
             p.reply(false, error);
         else
             p.reply(true, arg);
+        return true;
+    }
+    if (p.command == QLatin1String("frame")) {
+        // waits (as wait does) until the last tap's frame is drawn
+        const double ms = m_frames ? m_frames->lastTapToFrameMs() : -1;
+        if (ms >= 0 || last)
+            p.reply(ms >= 0, ms >= 0 ? QString::number(ms, 'f', 3) : QStringLiteral("no frame drawn since the last tap"));
+        return ms >= 0 || last;
+    }
+    if (p.command == QLatin1String("memory")) {
+        p.reply(true, processFigures());
         return true;
     }
     if (p.command == QLatin1String("nowarnings")) {

@@ -9,6 +9,7 @@
 #include <functional>
 
 class LogManager;
+class UiFrameClock;
 class UiGesture;
 class QLocalServer;
 class QLocalSocket;
@@ -22,7 +23,7 @@ class QQuickWindow;
 //   tap TEXT | tap #NAME, type TEXT, wait TEXT [SECONDS], expect TEXT,
 //   absent TEXT, texts, shot FILE, nowarnings, hold TEXT|#NAME SECONDS,
 //   swipe #NAME up|down|left|right [STEPS],
-//   usb in [FOLDER], usb out
+//   usb in [FOLDER], usb out, frame, memory
 // The client (vantor-cli ui) keeps sleep and beaker for itself. Each command
 // and its answer is kept in a cyclic log file of the sandbox.
 class UiDriver : public QObject
@@ -91,4 +92,5 @@ private:
     // ("logFiles/uiDriverLogs", one file per start of the application).
     LogManager *m_trail = nullptr;
     UiGesture *m_gesture = nullptr;
+    UiFrameClock *m_frames = nullptr;
 };

@@ -26,7 +26,10 @@ Rectangle {
     }
     Item {
         id: closeButton
+        objectName: "versionCloseButton"
+        // left of the window's screenshot corner (x 600 on), which takes every tap there
         anchors.right: parent.right
+        anchors.rightMargin: 48
         anchors.top: parent.top
         width: 56
         height: 56

@@ -2,6 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
+import "../Constants/Temperature.js" as Temperature
 import "../CustomComponent"
 import "MeterFormat.js" as MeterFormat
 
@@ -31,7 +32,10 @@ MainContentBackground {
     function refresh() {
         valueText.text = scaledValue()
         mvText.text = calibrationCycleModel.voltage.toFixed(1) + "  mV"
-        temperatureText.text = measurement.temp.toFixed(1) + " °C  " + (measurement.isATC ? "ATC" : "MAN")
+        // in the unit of the settings, as the reading shows it
+        var unit = setup.temperatureFormat_Index
+        temperatureText.text = Temperature.inUnit(measurement.temp, unit).toFixed(1) + " " + Temperature.unitText(unit) + "  "
+                               + (measurement.isATC ? "ATC" : "MAN")
     }
 
     function showButtons(stableNow) {

@@ -2,6 +2,7 @@ import QtQuick 2.12
 import "../Background"
 import "../Buttons"
 import "../Constants/Colors.js" as Colors
+import "../Constants/Temperature.js" as Temperature
 import "MeterFormat.js" as MeterFormat
 
 // The stored calibration: its points, average slope (the offset of a
@@ -44,7 +45,8 @@ MainContentBackground {
             offsets.push(p.offset)
             var last = electrodeType === "Redox" ? p.offset.toFixed(1) + " mV" : p.slope.toFixed(1) + (unit ? " " + unit : "")
             pointsModel.append({ point: String(i + 1), value: pointValueText(p), mv: p.voltage.toFixed(1) + " mV",
-                                 temp: p.temperature.toFixed(1) + " °C", slope: last })
+                                 temp: Temperature.inUnit(p.temperature, setup.temperatureFormat_Index).toFixed(1) + " "
+                                       + Temperature.unitText(setup.temperatureFormat_Index), slope: last })
         }
         dateText.text = displayValues.formatCalibrationDate(cycles.get(cycles.length - 1).timestamp)
         offsetText.text = electrodeType === "pH" ? qsTr("Offset") + ls.translatedText + ": "
@@ -147,7 +149,9 @@ MainContentBackground {
             x: 6
             height: 34
             Repeater {
-                model: [qsTr("Cal. Point"), qsTr("Calibration Value"), qsTr("mV Value"), qsTr("Temp. °C"),
+                model: [qsTr("Cal. Point"), qsTr("Calibration Value"), qsTr("mV Value"),
+                        // the unit's symbol is the same in every language
+                        qsTr("Temp. °C").replace("°C", Temperature.unitText(setup.temperatureFormat_Index)),
                         page.electrodeType === "Redox" ? qsTr("Offset") : qsTr("Segment Slope")]
                 Text {
                     width: page.columnWidths[index]

@@ -471,7 +471,9 @@ TEST_F(Screens, DriverAnswers)
         {"wait Home 0", false, "time limit"},
         {"texts", true, "Home"},
         {"tap #settingsButton", true, ""},
+        {"frame", true, "."}, // milliseconds from the tap to its frame, as 1.234
         {"wait Settings 2", true, ""},
+        {"memory", true, "resident kB "},
         {"tap Settings", true, ""}, // a title takes the tap and does nothing
         {"shot relative.png", false, "absolute"},
         {"frobnicate", false, "unknown command"},

@@ -63,6 +63,8 @@ QString UiScript::usage()
         "    beaker JSON             to the virtual instrument\n"
         "    usb in [FOLDER] | usb out  the files of FOLDER onto the USB disk, and the disk in;\n"
         "                            the disk out (each waits until the application sees it)\n"
+        "    frame                   milliseconds from the last tap to its drawn frame\n"
+        "    memory                  the application's resident memory and open files\n"
         "    nowarnings              fails on any warning of the QML engine since start\n"
         "    sleep SECONDS\n"
         "    include FILE            the lines of FILE (beside the script) in place\n");
@@ -261,6 +263,10 @@ int UiScript::run(QTextStream &out, QTextStream &err)
                 out << seen << "\n";
             if (ok && command == QLatin1String("shot"))
                 out << "shot " << seen << "\n";
+            if (ok && command == QLatin1String("frame"))
+                out << "frame ms " << seen << "\n";
+            if (ok && command == QLatin1String("memory"))
+                out << "memory " << seen << "\n";
         }
         ++commands;
         if (!ok) {
