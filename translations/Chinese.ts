@@ -493,7 +493,7 @@
         <name>DateSettings</name>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>日期</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -527,7 +527,7 @@
         <name>DiagnosticsSettings</name>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>诊断</translation>
         </message>
         <message>
             <source>Factory Reset</source>
@@ -546,11 +546,15 @@
  methods and any data in the logs.
  This action cannot be undone.
 </source>
-            <translation type="unfinished" />
+            <translation>恢复出厂设置将清除所有设置，
+ 删除所有已保存的方法
+ 以及记录中的所有数据。
+ 此操作无法撤销。
+</translation>
         </message>
         <message>
             <source>Do not delete methods</source>
-            <translation type="unfinished" />
+            <translation>不删除方法</translation>
         </message>
         <message>
             <source>Start</source>
@@ -561,7 +565,7 @@
         <name>Diagnostics_FactoryReset01</name>
         <message>
             <source>Factory reset in progress...</source>
-            <translation type="unfinished" />
+            <translation>正在恢复出厂设置...</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -572,27 +576,27 @@
         <name>Diagnostics_Notif_CalibrationDue</name>
         <message>
             <source>Calibration Due Alarm</source>
-            <translation type="unfinished" />
+            <translation>校准到期提醒</translation>
         </message>
         <message>
             <source>Enter Calibration due hours between 1 - 9999 hours</source>
-            <translation type="unfinished" />
+            <translation>请输入 1 - 9999 小时之间的校准间隔</translation>
         </message>
         <message>
             <source>pH Cal Due</source>
-            <translation type="unfinished" />
+            <translation>pH 校准到期</translation>
         </message>
         <message>
             <source>Redox Cal Due</source>
-            <translation type="unfinished" />
+            <translation>氧化还原校准到期</translation>
         </message>
         <message>
             <source>ISE Cal Due</source>
-            <translation type="unfinished" />
+            <translation>ISE 校准到期</translation>
         </message>
         <message>
             <source>Hours</source>
-            <translation type="unfinished" />
+            <translation>小时</translation>
         </message>
         <message>
             <source>Save</source>
@@ -603,27 +607,27 @@
         <name>Diagnostics_Notif_MaintenanceDue</name>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>维护到期</translation>
         </message>
         <message>
             <source>1 Month</source>
-            <translation type="unfinished" />
+            <translation>1 个月</translation>
         </message>
         <message>
             <source>3 Months</source>
-            <translation type="unfinished" />
+            <translation>3 个月</translation>
         </message>
         <message>
             <source>6 Months</source>
-            <translation type="unfinished" />
+            <translation>6 个月</translation>
         </message>
         <message>
             <source>12 Months</source>
-            <translation type="unfinished" />
+            <translation>12 个月</translation>
         </message>
         <message>
             <source>Reminder</source>
-            <translation type="unfinished" />
+            <translation>提醒</translation>
         </message>
         <message>
             <source>Save</source>
@@ -693,7 +697,7 @@
         </message>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>显示亮度</translation>
         </message>
         <message>
             <source>Instrument Name</source>
@@ -701,38 +705,38 @@
         </message>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>日期</translation>
         </message>
         <message>
             <source>Date Display</source>
-            <translation type="unfinished" />
+            <translation>日期显示</translation>
         </message>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>时间</translation>
         </message>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>语言</translation>
         </message>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>温度输入</translation>
         </message>
         <message>
             <source>Temperature Units</source>
-            <translation type="unfinished" />
+            <translation>温度单位</translation>
         </message>
     </context>
     <context>
         <name>DisplayBrightnessSettings</name>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>显示亮度</translation>
         </message>
         <message>
             <source>Level %1 of %2</source>
-            <translation type="unfinished" />
+            <translation>第 %1 级（共 %2 级）</translation>
         </message>
         <message>
             <source>Save</source>
@@ -1030,11 +1034,11 @@
         <name>FPopup</name>
         <message>
             <source>Software Updating</source>
-            <translation type="unfinished" />
+            <translation>正在更新软件</translation>
         </message>
         <message>
             <source>Do not power off titrator while software update is in progress.</source>
-            <translation type="unfinished" />
+            <translation>软件更新期间请勿关闭滴定仪电源。</translation>
         </message>
         <message>
             <source>Close</source>
@@ -1128,7 +1132,7 @@
         </message>
         <message>
             <source>Up to 14 letters and digits</source>
-            <translation type="unfinished" />
+            <translation>最多 14 个字母和数字</translation>
         </message>
         <message>
             <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
@@ -1158,7 +1162,7 @@
         <name>LanguageSettings</name>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>语言</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1617,15 +1621,15 @@
         <name>SWUpdatePopup</name>
         <message>
             <source>Software Update</source>
-            <translation type="unfinished" />
+            <translation>软件更新</translation>
         </message>
         <message>
             <source>Visit</source>
-            <translation type="unfinished" />
+            <translation>请访问</translation>
         </message>
         <message>
             <source>to download software updates for your titrator and access the latest functions and features.</source>
-            <translation type="unfinished" />
+            <translation>下载滴定仪的软件更新，获取最新的功能。</translation>
         </message>
         <message>
             <source>OK</source>
@@ -1671,7 +1675,7 @@
         </message>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>诊断</translation>
         </message>
         <message>
             <source>Display</source>
@@ -1679,49 +1683,49 @@
         </message>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>文件和信息</translation>
         </message>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>通知</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesInfo_Firmware</name>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>软件版本</translation>
         </message>
         <message>
             <source>Model</source>
-            <translation type="unfinished" />
+            <translation>型号</translation>
         </message>
         <message>
             <source>Application Version</source>
-            <translation type="unfinished" />
+            <translation>应用程序版本</translation>
         </message>
         <message>
             <source>Firmware Version</source>
-            <translation type="unfinished" />
+            <translation>固件版本</translation>
         </message>
         <message>
             <source>IP Address</source>
-            <translation type="unfinished" />
+            <translation>IP 地址</translation>
         </message>
         <message>
             <source>Not connected</source>
-            <translation type="unfinished" />
+            <translation>未连接</translation>
         </message>
         <message>
             <source>Found: %1</source>
-            <translation type="unfinished" />
+            <translation>已找到：%1</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesandInfo</name>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>文件和信息</translation>
         </message>
         <message>
             <source>Not set</source>
@@ -1729,46 +1733,46 @@
         </message>
         <message>
             <source>Serial No.</source>
-            <translation type="unfinished" />
+            <translation>序列号</translation>
         </message>
         <message>
             <source>Model No.</source>
-            <translation type="unfinished" />
+            <translation>型号</translation>
         </message>
         <message>
             <source>Burette Installation Date</source>
-            <translation type="unfinished" />
+            <translation>滴定管安装日期</translation>
         </message>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>软件版本</translation>
         </message>
     </context>
     <context>
         <name>Settings_Notifications</name>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>通知</translation>
         </message>
         <message>
             <source>Calibration Due</source>
-            <translation type="unfinished" />
+            <translation>校准到期</translation>
         </message>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>维护到期</translation>
         </message>
         <message>
             <source>Titration Cycle Complete</source>
-            <translation type="unfinished" />
+            <translation>滴定周期完成</translation>
         </message>
         <message>
             <source>Maximum Titrant Volume</source>
-            <translation type="unfinished" />
+            <translation>最大滴定剂体积</translation>
         </message>
         <message>
             <source>Data Log Full</source>
-            <translation type="unfinished" />
+            <translation>数据记录已满</translation>
         </message>
     </context>
     <context>
@@ -1917,103 +1921,103 @@
         <name>SoftwareUpdater</name>
         <message>
             <source>No new software available.</source>
-            <translation type="unfinished" />
+            <translation>没有可用的新软件。</translation>
         </message>
         <message>
             <source>The USB disk could not be read.</source>
-            <translation type="unfinished" />
+            <translation>无法读取 USB 驱动器。</translation>
         </message>
         <message>
             <source>Reboot required to perform upgrade.</source>
-            <translation type="unfinished" />
+            <translation>需要重新启动才能执行升级。</translation>
         </message>
         <message>
             <source>New firmware available!</source>
-            <translation type="unfinished" />
+            <translation>有新的固件可用！</translation>
         </message>
         <message>
             <source>New Application Available!</source>
-            <translation type="unfinished" />
+            <translation>有新的应用程序可用！</translation>
         </message>
         <message>
             <source>Update failed: the USB disk was removed during the copy.</source>
-            <translation type="unfinished" />
+            <translation>更新失败：复制过程中 USB 驱动器被移除。</translation>
         </message>
         <message>
             <source>Update failed: the files could not be copied from the USB disk.</source>
-            <translation type="unfinished" />
+            <translation>更新失败：无法从 USB 驱动器复制文件。</translation>
         </message>
         <message>
             <source>Updating firmware: Starting...</source>
-            <translation type="unfinished" />
+            <translation>正在更新固件：启动中...</translation>
         </message>
         <message>
             <source>Updating firmware: Erasing...</source>
-            <translation type="unfinished" />
+            <translation>正在更新固件：擦除中...</translation>
         </message>
         <message>
             <source>Updating firmware: Programming...</source>
-            <translation type="unfinished" />
+            <translation>正在更新固件：编程中...</translation>
         </message>
         <message>
             <source>Firmware Updated Successfully!</source>
-            <translation type="unfinished" />
+            <translation>固件更新成功！</translation>
         </message>
         <message>
             <source>Updating firmware: Rebooting</source>
-            <translation type="unfinished" />
+            <translation>正在更新固件：重新启动</translation>
         </message>
         <message>
             <source>Firmware update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>固件更新失败。继续使用当前版本。</translation>
         </message>
         <message>
             <source>Firmware update failed: the update file is missing.</source>
-            <translation type="unfinished" />
+            <translation>固件更新失败：缺少更新文件。</translation>
         </message>
         <message>
             <source>Updating Appication: Copying...</source>
-            <translation type="unfinished" />
+            <translation>正在更新应用程序：复制中...</translation>
         </message>
         <message>
             <source>Updating Application: Restarting...</source>
-            <translation type="unfinished" />
+            <translation>正在更新应用程序：重新启动中...</translation>
         </message>
         <message>
             <source>Application update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>应用程序更新失败。继续使用当前版本。</translation>
         </message>
         <message>
             <source>System Update Completed</source>
-            <translation type="unfinished" />
+            <translation>系统更新完成</translation>
         </message>
         <message>
             <source>System Update Failed!</source>
-            <translation type="unfinished" />
+            <translation>系统更新失败！</translation>
         </message>
         <message>
             <source>Updating...</source>
-            <translation type="unfinished" />
+            <translation>正在更新...</translation>
         </message>
         <message>
             <source>Update System</source>
-            <translation type="unfinished" />
+            <translation>更新系统</translation>
         </message>
         <message>
             <source>Update Firmware</source>
-            <translation type="unfinished" />
+            <translation>更新固件</translation>
         </message>
         <message>
             <source>Checking USB...</source>
-            <translation type="unfinished" />
+            <translation>正在检查 USB...</translation>
         </message>
         <message>
             <source>Reboot and Update</source>
-            <translation type="unfinished" />
+            <translation>重启并更新</translation>
         </message>
         <message>
             <source>Check for Updates</source>
-            <translation type="unfinished" />
+            <translation>检查更新</translation>
         </message>
     </context>
     <context>
@@ -2222,31 +2226,31 @@
         <name>TemperatureCurrentSettings</name>
         <message>
             <source>ATC Probe Calibration</source>
-            <translation type="unfinished" />
+            <translation>ATC 探头校准</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>无效值。请输入 32.0 - 192.0 °F 之间的值。</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>无效值。有效范围为</translation>
         </message>
         <message>
             <source>ATC Probe Calibrated</source>
-            <translation type="unfinished" />
+            <translation>ATC 探头已校准</translation>
         </message>
         <message>
             <source>Temperature offset</source>
-            <translation type="unfinished" />
+            <translation>温度偏移</translation>
         </message>
         <message>
             <source>Current Temperature</source>
-            <translation type="unfinished" />
+            <translation>当前温度</translation>
         </message>
         <message>
             <source>Reference Temperature</source>
-            <translation type="unfinished" />
+            <translation>参考温度</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2257,23 +2261,23 @@
         <name>TemperatureSettings</name>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>温度输入</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>无效值。请输入 32.0 - 192.0 °F 之间的值。</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>无效值。有效范围为</translation>
         </message>
         <message>
             <source>Manual temperature, 32.0 - 192.0 °F</source>
-            <translation type="unfinished" />
+            <translation>手动输入温度，32.0 - 192.0 °F</translation>
         </message>
         <message>
             <source>Manual temperature, 0.0 - 100.0 °C</source>
-            <translation type="unfinished" />
+            <translation>手动输入温度，0.0 - 100.0 °C</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2284,7 +2288,7 @@
         <name>TimeHoursDisplay</name>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>时间</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2292,7 +2296,7 @@
         </message>
         <message>
             <source>Save Time</source>
-            <translation type="unfinished" />
+            <translation>保存时间</translation>
         </message>
     </context>
     <context>

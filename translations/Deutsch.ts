@@ -493,7 +493,7 @@
         <name>DateSettings</name>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Datum</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -527,7 +527,7 @@
         <name>DiagnosticsSettings</name>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnose</translation>
         </message>
         <message>
             <source>Factory Reset</source>
@@ -546,11 +546,15 @@
  methods and any data in the logs.
  This action cannot be undone.
 </source>
-            <translation type="unfinished" />
+            <translation>Das Zurücksetzen auf Werkseinstellungen
+ löscht alle Einstellungen, alle gespeicherten
+ Methoden und alle Daten in den Protokollen.
+ Dieser Vorgang kann nicht rückgängig gemacht werden.
+</translation>
         </message>
         <message>
             <source>Do not delete methods</source>
-            <translation type="unfinished" />
+            <translation>Methoden nicht löschen</translation>
         </message>
         <message>
             <source>Start</source>
@@ -561,7 +565,7 @@
         <name>Diagnostics_FactoryReset01</name>
         <message>
             <source>Factory reset in progress...</source>
-            <translation type="unfinished" />
+            <translation>Werkseinstellungen werden wiederhergestellt...</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -572,27 +576,27 @@
         <name>Diagnostics_Notif_CalibrationDue</name>
         <message>
             <source>Calibration Due Alarm</source>
-            <translation type="unfinished" />
+            <translation>Alarm: Kalibrierung fällig</translation>
         </message>
         <message>
             <source>Enter Calibration due hours between 1 - 9999 hours</source>
-            <translation type="unfinished" />
+            <translation>Geben Sie ein Kalibrierintervall zwischen 1 - 9999 Stunden ein</translation>
         </message>
         <message>
             <source>pH Cal Due</source>
-            <translation type="unfinished" />
+            <translation>pH-Kal. fällig</translation>
         </message>
         <message>
             <source>Redox Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Redox-Kal. fällig</translation>
         </message>
         <message>
             <source>ISE Cal Due</source>
-            <translation type="unfinished" />
+            <translation>ISE-Kal. fällig</translation>
         </message>
         <message>
             <source>Hours</source>
-            <translation type="unfinished" />
+            <translation>Stunden</translation>
         </message>
         <message>
             <source>Save</source>
@@ -603,27 +607,27 @@
         <name>Diagnostics_Notif_MaintenanceDue</name>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Wartung fällig</translation>
         </message>
         <message>
             <source>1 Month</source>
-            <translation type="unfinished" />
+            <translation>1 Monat</translation>
         </message>
         <message>
             <source>3 Months</source>
-            <translation type="unfinished" />
+            <translation>3 Monate</translation>
         </message>
         <message>
             <source>6 Months</source>
-            <translation type="unfinished" />
+            <translation>6 Monate</translation>
         </message>
         <message>
             <source>12 Months</source>
-            <translation type="unfinished" />
+            <translation>12 Monate</translation>
         </message>
         <message>
             <source>Reminder</source>
-            <translation type="unfinished" />
+            <translation>Erinnerung</translation>
         </message>
         <message>
             <source>Save</source>
@@ -693,7 +697,7 @@
         </message>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Bildschirmhelligkeit</translation>
         </message>
         <message>
             <source>Instrument Name</source>
@@ -701,38 +705,38 @@
         </message>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Datum</translation>
         </message>
         <message>
             <source>Date Display</source>
-            <translation type="unfinished" />
+            <translation>Datumsanzeige</translation>
         </message>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Uhrzeit</translation>
         </message>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Sprache</translation>
         </message>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Temperatureingabe</translation>
         </message>
         <message>
             <source>Temperature Units</source>
-            <translation type="unfinished" />
+            <translation>Temperatureinheit</translation>
         </message>
     </context>
     <context>
         <name>DisplayBrightnessSettings</name>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Bildschirmhelligkeit</translation>
         </message>
         <message>
             <source>Level %1 of %2</source>
-            <translation type="unfinished" />
+            <translation>Stufe %1 von %2</translation>
         </message>
         <message>
             <source>Save</source>
@@ -1030,11 +1034,11 @@
         <name>FPopup</name>
         <message>
             <source>Software Updating</source>
-            <translation type="unfinished" />
+            <translation>Software wird aktualisiert</translation>
         </message>
         <message>
             <source>Do not power off titrator while software update is in progress.</source>
-            <translation type="unfinished" />
+            <translation>Schalten Sie den Titrator während des Software-Updates nicht aus.</translation>
         </message>
         <message>
             <source>Close</source>
@@ -1128,7 +1132,7 @@
         </message>
         <message>
             <source>Up to 14 letters and digits</source>
-            <translation type="unfinished" />
+            <translation>Bis zu 14 Buchstaben und Ziffern</translation>
         </message>
         <message>
             <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
@@ -1158,7 +1162,7 @@
         <name>LanguageSettings</name>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Sprache</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1617,15 +1621,15 @@
         <name>SWUpdatePopup</name>
         <message>
             <source>Software Update</source>
-            <translation type="unfinished" />
+            <translation>Software-Update</translation>
         </message>
         <message>
             <source>Visit</source>
-            <translation type="unfinished" />
+            <translation>Unter</translation>
         </message>
         <message>
             <source>to download software updates for your titrator and access the latest functions and features.</source>
-            <translation type="unfinished" />
+            <translation>finden Sie Software-Updates für Ihren Titrator mit den neuesten Funktionen.</translation>
         </message>
         <message>
             <source>OK</source>
@@ -1671,7 +1675,7 @@
         </message>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnose</translation>
         </message>
         <message>
             <source>Display</source>
@@ -1679,49 +1683,49 @@
         </message>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>Dateien und Info</translation>
         </message>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Benachrichtigungen</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesInfo_Firmware</name>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Softwareversionen</translation>
         </message>
         <message>
             <source>Model</source>
-            <translation type="unfinished" />
+            <translation>Modell</translation>
         </message>
         <message>
             <source>Application Version</source>
-            <translation type="unfinished" />
+            <translation>Anwendungsversion</translation>
         </message>
         <message>
             <source>Firmware Version</source>
-            <translation type="unfinished" />
+            <translation>Firmware-Version</translation>
         </message>
         <message>
             <source>IP Address</source>
-            <translation type="unfinished" />
+            <translation>IP-Adresse</translation>
         </message>
         <message>
             <source>Not connected</source>
-            <translation type="unfinished" />
+            <translation>Nicht verbunden</translation>
         </message>
         <message>
             <source>Found: %1</source>
-            <translation type="unfinished" />
+            <translation>Gefunden: %1</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesandInfo</name>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>Dateien und Info</translation>
         </message>
         <message>
             <source>Not set</source>
@@ -1729,46 +1733,46 @@
         </message>
         <message>
             <source>Serial No.</source>
-            <translation type="unfinished" />
+            <translation>Seriennr.</translation>
         </message>
         <message>
             <source>Model No.</source>
-            <translation type="unfinished" />
+            <translation>Modellnr.</translation>
         </message>
         <message>
             <source>Burette Installation Date</source>
-            <translation type="unfinished" />
+            <translation>Einbaudatum der Bürette</translation>
         </message>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Softwareversionen</translation>
         </message>
     </context>
     <context>
         <name>Settings_Notifications</name>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Benachrichtigungen</translation>
         </message>
         <message>
             <source>Calibration Due</source>
-            <translation type="unfinished" />
+            <translation>Kalibrierung fällig</translation>
         </message>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Wartung fällig</translation>
         </message>
         <message>
             <source>Titration Cycle Complete</source>
-            <translation type="unfinished" />
+            <translation>Titrationszyklus abgeschlossen</translation>
         </message>
         <message>
             <source>Maximum Titrant Volume</source>
-            <translation type="unfinished" />
+            <translation>Max. Titriermittelvolumen</translation>
         </message>
         <message>
             <source>Data Log Full</source>
-            <translation type="unfinished" />
+            <translation>Datenprotokoll voll</translation>
         </message>
     </context>
     <context>
@@ -1917,103 +1921,103 @@
         <name>SoftwareUpdater</name>
         <message>
             <source>No new software available.</source>
-            <translation type="unfinished" />
+            <translation>Keine neue Software verfügbar.</translation>
         </message>
         <message>
             <source>The USB disk could not be read.</source>
-            <translation type="unfinished" />
+            <translation>Der USB-Stick konnte nicht gelesen werden.</translation>
         </message>
         <message>
             <source>Reboot required to perform upgrade.</source>
-            <translation type="unfinished" />
+            <translation>Für das Update ist ein Neustart erforderlich.</translation>
         </message>
         <message>
             <source>New firmware available!</source>
-            <translation type="unfinished" />
+            <translation>Neue Firmware verfügbar!</translation>
         </message>
         <message>
             <source>New Application Available!</source>
-            <translation type="unfinished" />
+            <translation>Neue Anwendung verfügbar!</translation>
         </message>
         <message>
             <source>Update failed: the USB disk was removed during the copy.</source>
-            <translation type="unfinished" />
+            <translation>Update fehlgeschlagen: Der USB-Stick wurde während des Kopierens entfernt.</translation>
         </message>
         <message>
             <source>Update failed: the files could not be copied from the USB disk.</source>
-            <translation type="unfinished" />
+            <translation>Update fehlgeschlagen: Die Dateien konnten nicht vom USB-Stick kopiert werden.</translation>
         </message>
         <message>
             <source>Updating firmware: Starting...</source>
-            <translation type="unfinished" />
+            <translation>Firmware wird aktualisiert: Start...</translation>
         </message>
         <message>
             <source>Updating firmware: Erasing...</source>
-            <translation type="unfinished" />
+            <translation>Firmware wird aktualisiert: Löschen...</translation>
         </message>
         <message>
             <source>Updating firmware: Programming...</source>
-            <translation type="unfinished" />
+            <translation>Firmware wird aktualisiert: Programmieren...</translation>
         </message>
         <message>
             <source>Firmware Updated Successfully!</source>
-            <translation type="unfinished" />
+            <translation>Firmware erfolgreich aktualisiert!</translation>
         </message>
         <message>
             <source>Updating firmware: Rebooting</source>
-            <translation type="unfinished" />
+            <translation>Firmware wird aktualisiert: Neustart</translation>
         </message>
         <message>
             <source>Firmware update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Firmware-Aktualisierung fehlgeschlagen. Die laufende Version bleibt erhalten.</translation>
         </message>
         <message>
             <source>Firmware update failed: the update file is missing.</source>
-            <translation type="unfinished" />
+            <translation>Firmware-Aktualisierung fehlgeschlagen: Die Update-Datei fehlt.</translation>
         </message>
         <message>
             <source>Updating Appication: Copying...</source>
-            <translation type="unfinished" />
+            <translation>Anwendung wird aktualisiert: Kopieren...</translation>
         </message>
         <message>
             <source>Updating Application: Restarting...</source>
-            <translation type="unfinished" />
+            <translation>Anwendung wird aktualisiert: Neustart...</translation>
         </message>
         <message>
             <source>Application update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Aktualisierung der Anwendung fehlgeschlagen. Die laufende Version bleibt erhalten.</translation>
         </message>
         <message>
             <source>System Update Completed</source>
-            <translation type="unfinished" />
+            <translation>System-Update abgeschlossen</translation>
         </message>
         <message>
             <source>System Update Failed!</source>
-            <translation type="unfinished" />
+            <translation>System-Update fehlgeschlagen!</translation>
         </message>
         <message>
             <source>Updating...</source>
-            <translation type="unfinished" />
+            <translation>Aktualisierung...</translation>
         </message>
         <message>
             <source>Update System</source>
-            <translation type="unfinished" />
+            <translation>System aktualisieren</translation>
         </message>
         <message>
             <source>Update Firmware</source>
-            <translation type="unfinished" />
+            <translation>Firmware aktualisieren</translation>
         </message>
         <message>
             <source>Checking USB...</source>
-            <translation type="unfinished" />
+            <translation>USB wird geprüft...</translation>
         </message>
         <message>
             <source>Reboot and Update</source>
-            <translation type="unfinished" />
+            <translation>Neustart und Update</translation>
         </message>
         <message>
             <source>Check for Updates</source>
-            <translation type="unfinished" />
+            <translation>Nach Updates suchen</translation>
         </message>
     </context>
     <context>
@@ -2222,31 +2226,31 @@
         <name>TemperatureCurrentSettings</name>
         <message>
             <source>ATC Probe Calibration</source>
-            <translation type="unfinished" />
+            <translation>Kalibrierung ATC-Fühler</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 32.0 - 192.0 °F ein.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Ungültiger Wert. Zulässiger Bereich:</translation>
         </message>
         <message>
             <source>ATC Probe Calibrated</source>
-            <translation type="unfinished" />
+            <translation>ATC-Fühler kalibriert</translation>
         </message>
         <message>
             <source>Temperature offset</source>
-            <translation type="unfinished" />
+            <translation>Temperatur-Offset</translation>
         </message>
         <message>
             <source>Current Temperature</source>
-            <translation type="unfinished" />
+            <translation>Aktuelle Temperatur</translation>
         </message>
         <message>
             <source>Reference Temperature</source>
-            <translation type="unfinished" />
+            <translation>Referenztemperatur</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2257,23 +2261,23 @@
         <name>TemperatureSettings</name>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Temperatureingabe</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Ungültiger Wert. Bitte geben Sie einen Wert zwischen 32.0 - 192.0 °F ein.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Ungültiger Wert. Zulässiger Bereich:</translation>
         </message>
         <message>
             <source>Manual temperature, 32.0 - 192.0 °F</source>
-            <translation type="unfinished" />
+            <translation>Manuelle Temperatur, 32.0 - 192.0 °F</translation>
         </message>
         <message>
             <source>Manual temperature, 0.0 - 100.0 °C</source>
-            <translation type="unfinished" />
+            <translation>Manuelle Temperatur, 0.0 - 100.0 °C</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2284,7 +2288,7 @@
         <name>TimeHoursDisplay</name>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Uhrzeit</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2292,7 +2296,7 @@
         </message>
         <message>
             <source>Save Time</source>
-            <translation type="unfinished" />
+            <translation>Uhrzeit speichern</translation>
         </message>
     </context>
     <context>

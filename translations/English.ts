@@ -493,7 +493,7 @@
         <name>DateSettings</name>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Date</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -527,7 +527,7 @@
         <name>DiagnosticsSettings</name>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnostics</translation>
         </message>
         <message>
             <source>Factory Reset</source>
@@ -546,11 +546,15 @@
  methods and any data in the logs.
  This action cannot be undone.
 </source>
-            <translation type="unfinished" />
+            <translation>Resetting the unit to factory defaults will
+ erase all settings, will delete any saved
+ methods and any data in the logs.
+ This action cannot be undone.
+</translation>
         </message>
         <message>
             <source>Do not delete methods</source>
-            <translation type="unfinished" />
+            <translation>Do not delete methods</translation>
         </message>
         <message>
             <source>Start</source>
@@ -561,7 +565,7 @@
         <name>Diagnostics_FactoryReset01</name>
         <message>
             <source>Factory reset in progress...</source>
-            <translation type="unfinished" />
+            <translation>Factory reset in progress...</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -572,27 +576,27 @@
         <name>Diagnostics_Notif_CalibrationDue</name>
         <message>
             <source>Calibration Due Alarm</source>
-            <translation type="unfinished" />
+            <translation>Calibration Due Alarm</translation>
         </message>
         <message>
             <source>Enter Calibration due hours between 1 - 9999 hours</source>
-            <translation type="unfinished" />
+            <translation>Enter Calibration due hours between 1 - 9999 hours</translation>
         </message>
         <message>
             <source>pH Cal Due</source>
-            <translation type="unfinished" />
+            <translation>pH Cal Due</translation>
         </message>
         <message>
             <source>Redox Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Redox Cal Due</translation>
         </message>
         <message>
             <source>ISE Cal Due</source>
-            <translation type="unfinished" />
+            <translation>ISE Cal Due</translation>
         </message>
         <message>
             <source>Hours</source>
-            <translation type="unfinished" />
+            <translation>Hours</translation>
         </message>
         <message>
             <source>Save</source>
@@ -603,27 +607,27 @@
         <name>Diagnostics_Notif_MaintenanceDue</name>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Maintenance Due</translation>
         </message>
         <message>
             <source>1 Month</source>
-            <translation type="unfinished" />
+            <translation>1 Month</translation>
         </message>
         <message>
             <source>3 Months</source>
-            <translation type="unfinished" />
+            <translation>3 Months</translation>
         </message>
         <message>
             <source>6 Months</source>
-            <translation type="unfinished" />
+            <translation>6 Months</translation>
         </message>
         <message>
             <source>12 Months</source>
-            <translation type="unfinished" />
+            <translation>12 Months</translation>
         </message>
         <message>
             <source>Reminder</source>
-            <translation type="unfinished" />
+            <translation>Reminder</translation>
         </message>
         <message>
             <source>Save</source>
@@ -693,7 +697,7 @@
         </message>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Display Brightness</translation>
         </message>
         <message>
             <source>Instrument Name</source>
@@ -701,38 +705,38 @@
         </message>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Date</translation>
         </message>
         <message>
             <source>Date Display</source>
-            <translation type="unfinished" />
+            <translation>Date Display</translation>
         </message>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Time</translation>
         </message>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Language</translation>
         </message>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Temperature Input</translation>
         </message>
         <message>
             <source>Temperature Units</source>
-            <translation type="unfinished" />
+            <translation>Temperature Units</translation>
         </message>
     </context>
     <context>
         <name>DisplayBrightnessSettings</name>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Display Brightness</translation>
         </message>
         <message>
             <source>Level %1 of %2</source>
-            <translation type="unfinished" />
+            <translation>Level %1 of %2</translation>
         </message>
         <message>
             <source>Save</source>
@@ -1030,11 +1034,11 @@
         <name>FPopup</name>
         <message>
             <source>Software Updating</source>
-            <translation type="unfinished" />
+            <translation>Software Updating</translation>
         </message>
         <message>
             <source>Do not power off titrator while software update is in progress.</source>
-            <translation type="unfinished" />
+            <translation>Do not power off titrator while software update is in progress.</translation>
         </message>
         <message>
             <source>Close</source>
@@ -1128,7 +1132,7 @@
         </message>
         <message>
             <source>Up to 14 letters and digits</source>
-            <translation type="unfinished" />
+            <translation>Up to 14 letters and digits</translation>
         </message>
         <message>
             <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
@@ -1158,7 +1162,7 @@
         <name>LanguageSettings</name>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Language</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1617,15 +1621,15 @@
         <name>SWUpdatePopup</name>
         <message>
             <source>Software Update</source>
-            <translation type="unfinished" />
+            <translation>Software Update</translation>
         </message>
         <message>
             <source>Visit</source>
-            <translation type="unfinished" />
+            <translation>Visit</translation>
         </message>
         <message>
             <source>to download software updates for your titrator and access the latest functions and features.</source>
-            <translation type="unfinished" />
+            <translation>to download software updates for your titrator and access the latest functions and features.</translation>
         </message>
         <message>
             <source>OK</source>
@@ -1671,7 +1675,7 @@
         </message>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnostics</translation>
         </message>
         <message>
             <source>Display</source>
@@ -1679,49 +1683,49 @@
         </message>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>Files and Info</translation>
         </message>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Notifications</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesInfo_Firmware</name>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Software Versions</translation>
         </message>
         <message>
             <source>Model</source>
-            <translation type="unfinished" />
+            <translation>Model</translation>
         </message>
         <message>
             <source>Application Version</source>
-            <translation type="unfinished" />
+            <translation>Application Version</translation>
         </message>
         <message>
             <source>Firmware Version</source>
-            <translation type="unfinished" />
+            <translation>Firmware Version</translation>
         </message>
         <message>
             <source>IP Address</source>
-            <translation type="unfinished" />
+            <translation>IP Address</translation>
         </message>
         <message>
             <source>Not connected</source>
-            <translation type="unfinished" />
+            <translation>Not connected</translation>
         </message>
         <message>
             <source>Found: %1</source>
-            <translation type="unfinished" />
+            <translation>Found: %1</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesandInfo</name>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>Files and Info</translation>
         </message>
         <message>
             <source>Not set</source>
@@ -1729,46 +1733,46 @@
         </message>
         <message>
             <source>Serial No.</source>
-            <translation type="unfinished" />
+            <translation>Serial No.</translation>
         </message>
         <message>
             <source>Model No.</source>
-            <translation type="unfinished" />
+            <translation>Model No.</translation>
         </message>
         <message>
             <source>Burette Installation Date</source>
-            <translation type="unfinished" />
+            <translation>Burette Installation Date</translation>
         </message>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Software Versions</translation>
         </message>
     </context>
     <context>
         <name>Settings_Notifications</name>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Notifications</translation>
         </message>
         <message>
             <source>Calibration Due</source>
-            <translation type="unfinished" />
+            <translation>Calibration Due</translation>
         </message>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Maintenance Due</translation>
         </message>
         <message>
             <source>Titration Cycle Complete</source>
-            <translation type="unfinished" />
+            <translation>Titration Cycle Complete</translation>
         </message>
         <message>
             <source>Maximum Titrant Volume</source>
-            <translation type="unfinished" />
+            <translation>Maximum Titrant Volume</translation>
         </message>
         <message>
             <source>Data Log Full</source>
-            <translation type="unfinished" />
+            <translation>Data Log Full</translation>
         </message>
     </context>
     <context>
@@ -1917,103 +1921,103 @@
         <name>SoftwareUpdater</name>
         <message>
             <source>No new software available.</source>
-            <translation type="unfinished" />
+            <translation>No new software available.</translation>
         </message>
         <message>
             <source>The USB disk could not be read.</source>
-            <translation type="unfinished" />
+            <translation>The USB disk could not be read.</translation>
         </message>
         <message>
             <source>Reboot required to perform upgrade.</source>
-            <translation type="unfinished" />
+            <translation>Reboot required to perform upgrade.</translation>
         </message>
         <message>
             <source>New firmware available!</source>
-            <translation type="unfinished" />
+            <translation>New firmware available!</translation>
         </message>
         <message>
             <source>New Application Available!</source>
-            <translation type="unfinished" />
+            <translation>New Application Available!</translation>
         </message>
         <message>
             <source>Update failed: the USB disk was removed during the copy.</source>
-            <translation type="unfinished" />
+            <translation>Update failed: the USB disk was removed during the copy.</translation>
         </message>
         <message>
             <source>Update failed: the files could not be copied from the USB disk.</source>
-            <translation type="unfinished" />
+            <translation>Update failed: the files could not be copied from the USB disk.</translation>
         </message>
         <message>
             <source>Updating firmware: Starting...</source>
-            <translation type="unfinished" />
+            <translation>Updating firmware: Starting...</translation>
         </message>
         <message>
             <source>Updating firmware: Erasing...</source>
-            <translation type="unfinished" />
+            <translation>Updating firmware: Erasing...</translation>
         </message>
         <message>
             <source>Updating firmware: Programming...</source>
-            <translation type="unfinished" />
+            <translation>Updating firmware: Programming...</translation>
         </message>
         <message>
             <source>Firmware Updated Successfully!</source>
-            <translation type="unfinished" />
+            <translation>Firmware Updated Successfully!</translation>
         </message>
         <message>
             <source>Updating firmware: Rebooting</source>
-            <translation type="unfinished" />
+            <translation>Updating firmware: Rebooting</translation>
         </message>
         <message>
             <source>Firmware update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Firmware update failed. The running version stays.</translation>
         </message>
         <message>
             <source>Firmware update failed: the update file is missing.</source>
-            <translation type="unfinished" />
+            <translation>Firmware update failed: the update file is missing.</translation>
         </message>
         <message>
             <source>Updating Appication: Copying...</source>
-            <translation type="unfinished" />
+            <translation>Updating Appication: Copying...</translation>
         </message>
         <message>
             <source>Updating Application: Restarting...</source>
-            <translation type="unfinished" />
+            <translation>Updating Application: Restarting...</translation>
         </message>
         <message>
             <source>Application update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Application update failed. The running version stays.</translation>
         </message>
         <message>
             <source>System Update Completed</source>
-            <translation type="unfinished" />
+            <translation>System Update Completed</translation>
         </message>
         <message>
             <source>System Update Failed!</source>
-            <translation type="unfinished" />
+            <translation>System Update Failed!</translation>
         </message>
         <message>
             <source>Updating...</source>
-            <translation type="unfinished" />
+            <translation>Updating...</translation>
         </message>
         <message>
             <source>Update System</source>
-            <translation type="unfinished" />
+            <translation>Update System</translation>
         </message>
         <message>
             <source>Update Firmware</source>
-            <translation type="unfinished" />
+            <translation>Update Firmware</translation>
         </message>
         <message>
             <source>Checking USB...</source>
-            <translation type="unfinished" />
+            <translation>Checking USB...</translation>
         </message>
         <message>
             <source>Reboot and Update</source>
-            <translation type="unfinished" />
+            <translation>Reboot and Update</translation>
         </message>
         <message>
             <source>Check for Updates</source>
-            <translation type="unfinished" />
+            <translation>Check for Updates</translation>
         </message>
     </context>
     <context>
@@ -2222,31 +2226,31 @@
         <name>TemperatureCurrentSettings</name>
         <message>
             <source>ATC Probe Calibration</source>
-            <translation type="unfinished" />
+            <translation>ATC Probe Calibration</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Invalid value. Please enter a value between 32.0 - 192.0 °F.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Invalid value. Please enter a value between</translation>
         </message>
         <message>
             <source>ATC Probe Calibrated</source>
-            <translation type="unfinished" />
+            <translation>ATC Probe Calibrated</translation>
         </message>
         <message>
             <source>Temperature offset</source>
-            <translation type="unfinished" />
+            <translation>Temperature offset</translation>
         </message>
         <message>
             <source>Current Temperature</source>
-            <translation type="unfinished" />
+            <translation>Current Temperature</translation>
         </message>
         <message>
             <source>Reference Temperature</source>
-            <translation type="unfinished" />
+            <translation>Reference Temperature</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2257,23 +2261,23 @@
         <name>TemperatureSettings</name>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Temperature Input</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Invalid value. Please enter a value between 32.0 - 192.0 °F.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Invalid value. Please enter a value between</translation>
         </message>
         <message>
             <source>Manual temperature, 32.0 - 192.0 °F</source>
-            <translation type="unfinished" />
+            <translation>Manual temperature, 32.0 - 192.0 °F</translation>
         </message>
         <message>
             <source>Manual temperature, 0.0 - 100.0 °C</source>
-            <translation type="unfinished" />
+            <translation>Manual temperature, 0.0 - 100.0 °C</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2284,7 +2288,7 @@
         <name>TimeHoursDisplay</name>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Time</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2292,7 +2296,7 @@
         </message>
         <message>
             <source>Save Time</source>
-            <translation type="unfinished" />
+            <translation>Save Time</translation>
         </message>
     </context>
     <context>

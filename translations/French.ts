@@ -493,7 +493,7 @@
         <name>DateSettings</name>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Date</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -527,7 +527,7 @@
         <name>DiagnosticsSettings</name>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnostics</translation>
         </message>
         <message>
             <source>Factory Reset</source>
@@ -546,11 +546,15 @@
  methods and any data in the logs.
  This action cannot be undone.
 </source>
-            <translation type="unfinished" />
+            <translation>La réinitialisation aux réglages d'usine
+ efface tous les réglages, supprime les
+ méthodes enregistrées et les données des journaux.
+ Cette action est irréversible.
+</translation>
         </message>
         <message>
             <source>Do not delete methods</source>
-            <translation type="unfinished" />
+            <translation>Ne pas supprimer les méthodes</translation>
         </message>
         <message>
             <source>Start</source>
@@ -561,7 +565,7 @@
         <name>Diagnostics_FactoryReset01</name>
         <message>
             <source>Factory reset in progress...</source>
-            <translation type="unfinished" />
+            <translation>Réinitialisation d'usine en cours...</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -572,27 +576,27 @@
         <name>Diagnostics_Notif_CalibrationDue</name>
         <message>
             <source>Calibration Due Alarm</source>
-            <translation type="unfinished" />
+            <translation>Alarme de rappel d'étalonnage</translation>
         </message>
         <message>
             <source>Enter Calibration due hours between 1 - 9999 hours</source>
-            <translation type="unfinished" />
+            <translation>Saisissez un délai d'étalonnage entre 1 - 9999 heures</translation>
         </message>
         <message>
             <source>pH Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Rappel étal. pH</translation>
         </message>
         <message>
             <source>Redox Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Rappel étal. redox</translation>
         </message>
         <message>
             <source>ISE Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Rappel étal. ISE</translation>
         </message>
         <message>
             <source>Hours</source>
-            <translation type="unfinished" />
+            <translation>heures</translation>
         </message>
         <message>
             <source>Save</source>
@@ -603,27 +607,27 @@
         <name>Diagnostics_Notif_MaintenanceDue</name>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Maintenance due</translation>
         </message>
         <message>
             <source>1 Month</source>
-            <translation type="unfinished" />
+            <translation>1 mois</translation>
         </message>
         <message>
             <source>3 Months</source>
-            <translation type="unfinished" />
+            <translation>3 mois</translation>
         </message>
         <message>
             <source>6 Months</source>
-            <translation type="unfinished" />
+            <translation>6 mois</translation>
         </message>
         <message>
             <source>12 Months</source>
-            <translation type="unfinished" />
+            <translation>12 mois</translation>
         </message>
         <message>
             <source>Reminder</source>
-            <translation type="unfinished" />
+            <translation>Rappel</translation>
         </message>
         <message>
             <source>Save</source>
@@ -693,7 +697,7 @@
         </message>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Luminosité de l'écran</translation>
         </message>
         <message>
             <source>Instrument Name</source>
@@ -701,38 +705,38 @@
         </message>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Date</translation>
         </message>
         <message>
             <source>Date Display</source>
-            <translation type="unfinished" />
+            <translation>Affichage de la date</translation>
         </message>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Heure</translation>
         </message>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Langue</translation>
         </message>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Saisie de la température</translation>
         </message>
         <message>
             <source>Temperature Units</source>
-            <translation type="unfinished" />
+            <translation>Unités de température</translation>
         </message>
     </context>
     <context>
         <name>DisplayBrightnessSettings</name>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Luminosité de l'écran</translation>
         </message>
         <message>
             <source>Level %1 of %2</source>
-            <translation type="unfinished" />
+            <translation>Niveau %1 sur %2</translation>
         </message>
         <message>
             <source>Save</source>
@@ -1030,11 +1034,11 @@
         <name>FPopup</name>
         <message>
             <source>Software Updating</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour du logiciel en cours</translation>
         </message>
         <message>
             <source>Do not power off titrator while software update is in progress.</source>
-            <translation type="unfinished" />
+            <translation>N'éteignez pas le titrateur pendant la mise à jour du logiciel.</translation>
         </message>
         <message>
             <source>Close</source>
@@ -1128,7 +1132,7 @@
         </message>
         <message>
             <source>Up to 14 letters and digits</source>
-            <translation type="unfinished" />
+            <translation>14 lettres et chiffres au maximum</translation>
         </message>
         <message>
             <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
@@ -1158,7 +1162,7 @@
         <name>LanguageSettings</name>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Langue</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1617,15 +1621,15 @@
         <name>SWUpdatePopup</name>
         <message>
             <source>Software Update</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour du logiciel</translation>
         </message>
         <message>
             <source>Visit</source>
-            <translation type="unfinished" />
+            <translation>Rendez-vous sur</translation>
         </message>
         <message>
             <source>to download software updates for your titrator and access the latest functions and features.</source>
-            <translation type="unfinished" />
+            <translation>pour télécharger les mises à jour logicielles de votre titrateur et accéder aux dernières fonctions.</translation>
         </message>
         <message>
             <source>OK</source>
@@ -1671,7 +1675,7 @@
         </message>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnostics</translation>
         </message>
         <message>
             <source>Display</source>
@@ -1679,49 +1683,49 @@
         </message>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>Fichiers et infos</translation>
         </message>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Notifications</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesInfo_Firmware</name>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Versions logicielles</translation>
         </message>
         <message>
             <source>Model</source>
-            <translation type="unfinished" />
+            <translation>Modèle</translation>
         </message>
         <message>
             <source>Application Version</source>
-            <translation type="unfinished" />
+            <translation>Version de l'application</translation>
         </message>
         <message>
             <source>Firmware Version</source>
-            <translation type="unfinished" />
+            <translation>Version du micrologiciel</translation>
         </message>
         <message>
             <source>IP Address</source>
-            <translation type="unfinished" />
+            <translation>Adresse IP</translation>
         </message>
         <message>
             <source>Not connected</source>
-            <translation type="unfinished" />
+            <translation>Non connecté</translation>
         </message>
         <message>
             <source>Found: %1</source>
-            <translation type="unfinished" />
+            <translation>Fichiers trouvés : %1</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesandInfo</name>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>Fichiers et infos</translation>
         </message>
         <message>
             <source>Not set</source>
@@ -1729,46 +1733,46 @@
         </message>
         <message>
             <source>Serial No.</source>
-            <translation type="unfinished" />
+            <translation>N° de série</translation>
         </message>
         <message>
             <source>Model No.</source>
-            <translation type="unfinished" />
+            <translation>N° de modèle</translation>
         </message>
         <message>
             <source>Burette Installation Date</source>
-            <translation type="unfinished" />
+            <translation>Date d'installation de la burette</translation>
         </message>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Versions logicielles</translation>
         </message>
     </context>
     <context>
         <name>Settings_Notifications</name>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Notifications</translation>
         </message>
         <message>
             <source>Calibration Due</source>
-            <translation type="unfinished" />
+            <translation>Rappel d'étalonnage</translation>
         </message>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Maintenance due</translation>
         </message>
         <message>
             <source>Titration Cycle Complete</source>
-            <translation type="unfinished" />
+            <translation>Fin du cycle de titrage</translation>
         </message>
         <message>
             <source>Maximum Titrant Volume</source>
-            <translation type="unfinished" />
+            <translation>Volume max. de titrant</translation>
         </message>
         <message>
             <source>Data Log Full</source>
-            <translation type="unfinished" />
+            <translation>Journal plein</translation>
         </message>
     </context>
     <context>
@@ -1917,103 +1921,103 @@
         <name>SoftwareUpdater</name>
         <message>
             <source>No new software available.</source>
-            <translation type="unfinished" />
+            <translation>Aucun nouveau logiciel disponible.</translation>
         </message>
         <message>
             <source>The USB disk could not be read.</source>
-            <translation type="unfinished" />
+            <translation>Impossible de lire la clé USB.</translation>
         </message>
         <message>
             <source>Reboot required to perform upgrade.</source>
-            <translation type="unfinished" />
+            <translation>Redémarrage nécessaire pour effectuer la mise à jour.</translation>
         </message>
         <message>
             <source>New firmware available!</source>
-            <translation type="unfinished" />
+            <translation>Nouveau micrologiciel disponible !</translation>
         </message>
         <message>
             <source>New Application Available!</source>
-            <translation type="unfinished" />
+            <translation>Nouvelle application disponible !</translation>
         </message>
         <message>
             <source>Update failed: the USB disk was removed during the copy.</source>
-            <translation type="unfinished" />
+            <translation>Échec de la mise à jour : la clé USB a été retirée pendant la copie.</translation>
         </message>
         <message>
             <source>Update failed: the files could not be copied from the USB disk.</source>
-            <translation type="unfinished" />
+            <translation>Échec de la mise à jour : impossible de copier les fichiers depuis la clé USB.</translation>
         </message>
         <message>
             <source>Updating firmware: Starting...</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour du micrologiciel : démarrage...</translation>
         </message>
         <message>
             <source>Updating firmware: Erasing...</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour du micrologiciel : effacement...</translation>
         </message>
         <message>
             <source>Updating firmware: Programming...</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour du micrologiciel : programmation...</translation>
         </message>
         <message>
             <source>Firmware Updated Successfully!</source>
-            <translation type="unfinished" />
+            <translation>Micrologiciel mis à jour avec succès !</translation>
         </message>
         <message>
             <source>Updating firmware: Rebooting</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour du micrologiciel : redémarrage</translation>
         </message>
         <message>
             <source>Firmware update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Échec de la mise à jour du micrologiciel. La version actuelle est conservée.</translation>
         </message>
         <message>
             <source>Firmware update failed: the update file is missing.</source>
-            <translation type="unfinished" />
+            <translation>Échec de la mise à jour du micrologiciel : le fichier de mise à jour est absent.</translation>
         </message>
         <message>
             <source>Updating Appication: Copying...</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour de l'application : copie...</translation>
         </message>
         <message>
             <source>Updating Application: Restarting...</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour de l'application : redémarrage...</translation>
         </message>
         <message>
             <source>Application update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Échec de la mise à jour de l'application. La version actuelle est conservée.</translation>
         </message>
         <message>
             <source>System Update Completed</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour du système terminée</translation>
         </message>
         <message>
             <source>System Update Failed!</source>
-            <translation type="unfinished" />
+            <translation>Échec de la mise à jour du système !</translation>
         </message>
         <message>
             <source>Updating...</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour...</translation>
         </message>
         <message>
             <source>Update System</source>
-            <translation type="unfinished" />
+            <translation>Mettre à jour le système</translation>
         </message>
         <message>
             <source>Update Firmware</source>
-            <translation type="unfinished" />
+            <translation>Mise à jour micrologiciel</translation>
         </message>
         <message>
             <source>Checking USB...</source>
-            <translation type="unfinished" />
+            <translation>Vérification USB...</translation>
         </message>
         <message>
             <source>Reboot and Update</source>
-            <translation type="unfinished" />
+            <translation>Redémarrer et mettre à jour</translation>
         </message>
         <message>
             <source>Check for Updates</source>
-            <translation type="unfinished" />
+            <translation>Rechercher des mises à jour</translation>
         </message>
     </context>
     <context>
@@ -2222,31 +2226,31 @@
         <name>TemperatureCurrentSettings</name>
         <message>
             <source>ATC Probe Calibration</source>
-            <translation type="unfinished" />
+            <translation>Étalonnage de la sonde CAT</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 32.0 - 192.0 °F.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Valeur non valide. Veuillez saisir une valeur entre</translation>
         </message>
         <message>
             <source>ATC Probe Calibrated</source>
-            <translation type="unfinished" />
+            <translation>Sonde CAT étalonnée</translation>
         </message>
         <message>
             <source>Temperature offset</source>
-            <translation type="unfinished" />
+            <translation>Décalage de température</translation>
         </message>
         <message>
             <source>Current Temperature</source>
-            <translation type="unfinished" />
+            <translation>Température actuelle</translation>
         </message>
         <message>
             <source>Reference Temperature</source>
-            <translation type="unfinished" />
+            <translation>Température de référence</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2257,23 +2261,23 @@
         <name>TemperatureSettings</name>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Saisie de la température</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Valeur non valide. Veuillez saisir une valeur entre 32.0 - 192.0 °F.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Valeur non valide. Veuillez saisir une valeur entre</translation>
         </message>
         <message>
             <source>Manual temperature, 32.0 - 192.0 °F</source>
-            <translation type="unfinished" />
+            <translation>Température manuelle, 32.0 - 192.0 °F</translation>
         </message>
         <message>
             <source>Manual temperature, 0.0 - 100.0 °C</source>
-            <translation type="unfinished" />
+            <translation>Température manuelle, 0.0 - 100.0 °C</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2284,7 +2288,7 @@
         <name>TimeHoursDisplay</name>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Heure</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2292,7 +2296,7 @@
         </message>
         <message>
             <source>Save Time</source>
-            <translation type="unfinished" />
+            <translation>Enregistrer l'heure</translation>
         </message>
     </context>
     <context>

@@ -493,7 +493,7 @@
         <name>DateSettings</name>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Data</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -527,7 +527,7 @@
         <name>DiagnosticsSettings</name>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnostica</translation>
         </message>
         <message>
             <source>Factory Reset</source>
@@ -546,11 +546,15 @@
  methods and any data in the logs.
  This action cannot be undone.
 </source>
-            <translation type="unfinished" />
+            <translation>Il ripristino delle impostazioni di fabbrica
+ cancella tutte le impostazioni, elimina i metodi
+ salvati e tutti i dati dei registri.
+ Questa operazione non può essere annullata.
+</translation>
         </message>
         <message>
             <source>Do not delete methods</source>
-            <translation type="unfinished" />
+            <translation>Non eliminare i metodi</translation>
         </message>
         <message>
             <source>Start</source>
@@ -561,7 +565,7 @@
         <name>Diagnostics_FactoryReset01</name>
         <message>
             <source>Factory reset in progress...</source>
-            <translation type="unfinished" />
+            <translation>Ripristino di fabbrica in corso...</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -572,27 +576,27 @@
         <name>Diagnostics_Notif_CalibrationDue</name>
         <message>
             <source>Calibration Due Alarm</source>
-            <translation type="unfinished" />
+            <translation>Allarme calibrazione dovuta</translation>
         </message>
         <message>
             <source>Enter Calibration due hours between 1 - 9999 hours</source>
-            <translation type="unfinished" />
+            <translation>Inserire un intervallo di calibrazione tra 1 - 9999 ore</translation>
         </message>
         <message>
             <source>pH Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Cal. pH dovuta</translation>
         </message>
         <message>
             <source>Redox Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Cal. redox dovuta</translation>
         </message>
         <message>
             <source>ISE Cal Due</source>
-            <translation type="unfinished" />
+            <translation>Cal. ISE dovuta</translation>
         </message>
         <message>
             <source>Hours</source>
-            <translation type="unfinished" />
+            <translation>ore</translation>
         </message>
         <message>
             <source>Save</source>
@@ -603,27 +607,27 @@
         <name>Diagnostics_Notif_MaintenanceDue</name>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Manutenzione dovuta</translation>
         </message>
         <message>
             <source>1 Month</source>
-            <translation type="unfinished" />
+            <translation>1 mese</translation>
         </message>
         <message>
             <source>3 Months</source>
-            <translation type="unfinished" />
+            <translation>3 mesi</translation>
         </message>
         <message>
             <source>6 Months</source>
-            <translation type="unfinished" />
+            <translation>6 mesi</translation>
         </message>
         <message>
             <source>12 Months</source>
-            <translation type="unfinished" />
+            <translation>12 mesi</translation>
         </message>
         <message>
             <source>Reminder</source>
-            <translation type="unfinished" />
+            <translation>Promemoria</translation>
         </message>
         <message>
             <source>Save</source>
@@ -693,7 +697,7 @@
         </message>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Luminosità display</translation>
         </message>
         <message>
             <source>Instrument Name</source>
@@ -701,38 +705,38 @@
         </message>
         <message>
             <source>Date</source>
-            <translation type="unfinished" />
+            <translation>Data</translation>
         </message>
         <message>
             <source>Date Display</source>
-            <translation type="unfinished" />
+            <translation>Visualizzazione data</translation>
         </message>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Ora</translation>
         </message>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Lingua</translation>
         </message>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Immissione temperatura</translation>
         </message>
         <message>
             <source>Temperature Units</source>
-            <translation type="unfinished" />
+            <translation>Unità di temperatura</translation>
         </message>
     </context>
     <context>
         <name>DisplayBrightnessSettings</name>
         <message>
             <source>Display Brightness</source>
-            <translation type="unfinished" />
+            <translation>Luminosità display</translation>
         </message>
         <message>
             <source>Level %1 of %2</source>
-            <translation type="unfinished" />
+            <translation>Livello %1 di %2</translation>
         </message>
         <message>
             <source>Save</source>
@@ -1030,11 +1034,11 @@
         <name>FPopup</name>
         <message>
             <source>Software Updating</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento software in corso</translation>
         </message>
         <message>
             <source>Do not power off titrator while software update is in progress.</source>
-            <translation type="unfinished" />
+            <translation>Non spegnere il titolatore durante l'aggiornamento del software.</translation>
         </message>
         <message>
             <source>Close</source>
@@ -1128,7 +1132,7 @@
         </message>
         <message>
             <source>Up to 14 letters and digits</source>
-            <translation type="unfinished" />
+            <translation>Fino a 14 lettere e cifre</translation>
         </message>
         <message>
             <source>Invalid name. Please enter up to 14 alphanumeric characters.</source>
@@ -1158,7 +1162,7 @@
         <name>LanguageSettings</name>
         <message>
             <source>Language</source>
-            <translation type="unfinished" />
+            <translation>Lingua</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -1617,15 +1621,15 @@
         <name>SWUpdatePopup</name>
         <message>
             <source>Software Update</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento software</translation>
         </message>
         <message>
             <source>Visit</source>
-            <translation type="unfinished" />
+            <translation>Visitare</translation>
         </message>
         <message>
             <source>to download software updates for your titrator and access the latest functions and features.</source>
-            <translation type="unfinished" />
+            <translation>per scaricare gli aggiornamenti software del titolatore e accedere alle funzioni più recenti.</translation>
         </message>
         <message>
             <source>OK</source>
@@ -1671,7 +1675,7 @@
         </message>
         <message>
             <source>Diagnostics</source>
-            <translation type="unfinished" />
+            <translation>Diagnostica</translation>
         </message>
         <message>
             <source>Display</source>
@@ -1679,49 +1683,49 @@
         </message>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>File e info</translation>
         </message>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Notifiche</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesInfo_Firmware</name>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Versioni software</translation>
         </message>
         <message>
             <source>Model</source>
-            <translation type="unfinished" />
+            <translation>Modello</translation>
         </message>
         <message>
             <source>Application Version</source>
-            <translation type="unfinished" />
+            <translation>Versione applicazione</translation>
         </message>
         <message>
             <source>Firmware Version</source>
-            <translation type="unfinished" />
+            <translation>Versione firmware</translation>
         </message>
         <message>
             <source>IP Address</source>
-            <translation type="unfinished" />
+            <translation>Indirizzo IP</translation>
         </message>
         <message>
             <source>Not connected</source>
-            <translation type="unfinished" />
+            <translation>Non connesso</translation>
         </message>
         <message>
             <source>Found: %1</source>
-            <translation type="unfinished" />
+            <translation>Trovati: %1</translation>
         </message>
     </context>
     <context>
         <name>Settings_FilesandInfo</name>
         <message>
             <source>Files and Info</source>
-            <translation type="unfinished" />
+            <translation>File e info</translation>
         </message>
         <message>
             <source>Not set</source>
@@ -1729,46 +1733,46 @@
         </message>
         <message>
             <source>Serial No.</source>
-            <translation type="unfinished" />
+            <translation>N. di serie</translation>
         </message>
         <message>
             <source>Model No.</source>
-            <translation type="unfinished" />
+            <translation>N. modello</translation>
         </message>
         <message>
             <source>Burette Installation Date</source>
-            <translation type="unfinished" />
+            <translation>Data di installazione buretta</translation>
         </message>
         <message>
             <source>Software Versions</source>
-            <translation type="unfinished" />
+            <translation>Versioni software</translation>
         </message>
     </context>
     <context>
         <name>Settings_Notifications</name>
         <message>
             <source>Notifications</source>
-            <translation type="unfinished" />
+            <translation>Notifiche</translation>
         </message>
         <message>
             <source>Calibration Due</source>
-            <translation type="unfinished" />
+            <translation>Calibrazione dovuta</translation>
         </message>
         <message>
             <source>Maintenance Due</source>
-            <translation type="unfinished" />
+            <translation>Manutenzione dovuta</translation>
         </message>
         <message>
             <source>Titration Cycle Complete</source>
-            <translation type="unfinished" />
+            <translation>Ciclo di titolazione completato</translation>
         </message>
         <message>
             <source>Maximum Titrant Volume</source>
-            <translation type="unfinished" />
+            <translation>Volume massimo titolante</translation>
         </message>
         <message>
             <source>Data Log Full</source>
-            <translation type="unfinished" />
+            <translation>Registro dati pieno</translation>
         </message>
     </context>
     <context>
@@ -1917,103 +1921,103 @@
         <name>SoftwareUpdater</name>
         <message>
             <source>No new software available.</source>
-            <translation type="unfinished" />
+            <translation>Nessun nuovo software disponibile.</translation>
         </message>
         <message>
             <source>The USB disk could not be read.</source>
-            <translation type="unfinished" />
+            <translation>Impossibile leggere la chiavetta USB.</translation>
         </message>
         <message>
             <source>Reboot required to perform upgrade.</source>
-            <translation type="unfinished" />
+            <translation>Riavvio necessario per eseguire l'aggiornamento.</translation>
         </message>
         <message>
             <source>New firmware available!</source>
-            <translation type="unfinished" />
+            <translation>Nuovo firmware disponibile!</translation>
         </message>
         <message>
             <source>New Application Available!</source>
-            <translation type="unfinished" />
+            <translation>Nuova applicazione disponibile!</translation>
         </message>
         <message>
             <source>Update failed: the USB disk was removed during the copy.</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento non riuscito: la chiavetta USB è stata rimossa durante la copia.</translation>
         </message>
         <message>
             <source>Update failed: the files could not be copied from the USB disk.</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento non riuscito: impossibile copiare i file dalla chiavetta USB.</translation>
         </message>
         <message>
             <source>Updating firmware: Starting...</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento firmware: avvio...</translation>
         </message>
         <message>
             <source>Updating firmware: Erasing...</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento firmware: cancellazione...</translation>
         </message>
         <message>
             <source>Updating firmware: Programming...</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento firmware: programmazione...</translation>
         </message>
         <message>
             <source>Firmware Updated Successfully!</source>
-            <translation type="unfinished" />
+            <translation>Firmware aggiornato correttamente!</translation>
         </message>
         <message>
             <source>Updating firmware: Rebooting</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento firmware: riavvio</translation>
         </message>
         <message>
             <source>Firmware update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento del firmware non riuscito. Resta la versione in uso.</translation>
         </message>
         <message>
             <source>Firmware update failed: the update file is missing.</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento del firmware non riuscito: manca il file di aggiornamento.</translation>
         </message>
         <message>
             <source>Updating Appication: Copying...</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento applicazione: copia...</translation>
         </message>
         <message>
             <source>Updating Application: Restarting...</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento applicazione: riavvio...</translation>
         </message>
         <message>
             <source>Application update failed. The running version stays.</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento dell'applicazione non riuscito. Resta la versione in uso.</translation>
         </message>
         <message>
             <source>System Update Completed</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento del sistema completato</translation>
         </message>
         <message>
             <source>System Update Failed!</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento del sistema non riuscito!</translation>
         </message>
         <message>
             <source>Updating...</source>
-            <translation type="unfinished" />
+            <translation>Aggiornamento...</translation>
         </message>
         <message>
             <source>Update System</source>
-            <translation type="unfinished" />
+            <translation>Aggiorna sistema</translation>
         </message>
         <message>
             <source>Update Firmware</source>
-            <translation type="unfinished" />
+            <translation>Aggiorna firmware</translation>
         </message>
         <message>
             <source>Checking USB...</source>
-            <translation type="unfinished" />
+            <translation>Verifica USB...</translation>
         </message>
         <message>
             <source>Reboot and Update</source>
-            <translation type="unfinished" />
+            <translation>Riavvia e aggiorna</translation>
         </message>
         <message>
             <source>Check for Updates</source>
-            <translation type="unfinished" />
+            <translation>Cerca aggiornamenti</translation>
         </message>
     </context>
     <context>
@@ -2222,31 +2226,31 @@
         <name>TemperatureCurrentSettings</name>
         <message>
             <source>ATC Probe Calibration</source>
-            <translation type="unfinished" />
+            <translation>Calibrazione sonda ATC</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Valore non valido. Inserire un valore tra 32.0 - 192.0 °F.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Valore non valido. Inserire un valore tra</translation>
         </message>
         <message>
             <source>ATC Probe Calibrated</source>
-            <translation type="unfinished" />
+            <translation>Sonda ATC calibrata</translation>
         </message>
         <message>
             <source>Temperature offset</source>
-            <translation type="unfinished" />
+            <translation>Offset di temperatura</translation>
         </message>
         <message>
             <source>Current Temperature</source>
-            <translation type="unfinished" />
+            <translation>Temperatura attuale</translation>
         </message>
         <message>
             <source>Reference Temperature</source>
-            <translation type="unfinished" />
+            <translation>Temperatura di riferimento</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2257,23 +2261,23 @@
         <name>TemperatureSettings</name>
         <message>
             <source>Temperature Input</source>
-            <translation type="unfinished" />
+            <translation>Immissione temperatura</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between 32.0 - 192.0 °F.</source>
-            <translation type="unfinished" />
+            <translation>Valore non valido. Inserire un valore tra 32.0 - 192.0 °F.</translation>
         </message>
         <message>
             <source>Invalid value. Please enter a value between</source>
-            <translation type="unfinished" />
+            <translation>Valore non valido. Inserire un valore tra</translation>
         </message>
         <message>
             <source>Manual temperature, 32.0 - 192.0 °F</source>
-            <translation type="unfinished" />
+            <translation>Temperatura manuale, 32.0 - 192.0 °F</translation>
         </message>
         <message>
             <source>Manual temperature, 0.0 - 100.0 °C</source>
-            <translation type="unfinished" />
+            <translation>Temperatura manuale, 0.0 - 100.0 °C</translation>
         </message>
         <message>
             <source>Save</source>
@@ -2284,7 +2288,7 @@
         <name>TimeHoursDisplay</name>
         <message>
             <source>Time</source>
-            <translation type="unfinished" />
+            <translation>Ora</translation>
         </message>
         <message>
             <source>Cancel</source>
@@ -2292,7 +2296,7 @@
         </message>
         <message>
             <source>Save Time</source>
-            <translation type="unfinished" />
+            <translation>Salva ora</translation>
         </message>
     </context>
     <context>
