@@ -1,5 +1,7 @@
 #include "models/objectlistmodel.h"
 
+#include <QQmlEngine>
+
 ObjectListModel::ObjectListModel(QObject *parent)
     : QAbstractListModel(parent)
 {
@@ -24,7 +26,13 @@ QHash<int, QByteArray> ObjectListModel::roleNames() const
 
 QObject *ObjectListModel::get(int row) const
 {
-    return row >= 0 && row < m_objects.size() ? m_objects.at(row).data() : nullptr;
+    QObject *object = row >= 0 && row < m_objects.size() ? m_objects.at(row).data() : nullptr;
+    // A parentless object that a method hands to a script would become the
+    // script engine's, and its collector would delete a row that the list's
+    // owner still holds (and deletes again).
+    if (object)
+        QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
+    return object;
 }
 
 void ObjectListModel::append(QObject *object)

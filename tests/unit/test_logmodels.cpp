@@ -6,6 +6,7 @@
 #include "models/logcapacity.h"
 #include "models/measurementlogmodel.h"
 #include "models/methodmodel.h"
+#include "models/objectlistmodel.h"
 #include "models/reportmodel.h"
 #include "models/standardisationlogmodel.h"
 #include "models/titrantsetupmodel.h"
@@ -14,6 +15,9 @@
 #include "system/clock.h"
 #include "testdatabase.h"
 
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlExpression>
 #include <QSignalSpy>
 #include <QSqlQuery>
 #include <gtest/gtest.h>
@@ -514,3 +518,23 @@ TEST_F(LogModels, MeasurementLogSaysSavedUnlessItWarns)
 }
 
 } // namespace
+
+// A script that reads a row through get() and lets it go must not hand the
+// row to the script engine's collector: the list's owner deletes it.
+TEST(ObjectList, ARowReadByAScriptOutlivesTheCollector)
+{
+    ObjectListModel list;
+    auto row = std::make_unique<QObject>();
+    row->setObjectName(QStringLiteral("row"));
+    QPointer<QObject> watched(row.get());
+    list.append(row.get());
+    {
+        QQmlEngine engine;
+        engine.rootContext()->setContextProperty(QStringLiteral("rows"), &list);
+        QQmlExpression read(engine.rootContext(), nullptr, QStringLiteral("rows.get(0).objectName"));
+        EXPECT_EQ(read.evaluate().toString(), QStringLiteral("row"));
+        engine.collectGarbage();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_FALSE(watched.isNull());
+}
