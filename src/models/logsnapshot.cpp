@@ -45,6 +45,7 @@ QVariantMap LogSnapshot::lastCalibration(const QString &electrodeType)
     const QVariant id = last.value(0);
     calibration.insert(QStringLiteral("id"), id);
     calibration.insert(QStringLiteral("avgSlope"), last.value(1).toDouble());
+    calibration.insert(QStringLiteral("mcreatedAt"), last.value(2));
     double sum = 0.0;
     int n = 0;
     if (DbUtil::tableExists(QStringLiteral("calibrationCycleTable"))) {
@@ -83,6 +84,20 @@ QVariantMap LogSnapshot::blockValues(const LogLayout &layout, const QSqlRecord &
     QVariantMap values;
     for (int i = 0; i < record.count(); ++i)
         values.insert(record.fieldName(i), record.value(i));
+    return values;
+}
+
+QVariantMap LogSnapshot::storedCalibration(const LogLayout &layout, const QSqlRecord &row)
+{
+    QVariantMap values = blockValues(layout, row, LogBlock::Calibration);
+    const int id = values.value(QStringLiteral("id")).toInt();
+    QSqlQuery slope;
+    if (id != 0 && DbUtil::tableExists(QStringLiteral("calibrationTable"))
+        && slope.prepare(QStringLiteral("Select avgSlope from calibrationTable where id = :id"))) {
+        slope.bindValue(QStringLiteral(":id"), id);
+        if (DbUtil::exec(slope) && slope.next())
+            values.insert(QStringLiteral("avgSlope"), slope.value(0).toDouble());
+    }
     return values;
 }
 

@@ -26,7 +26,7 @@ public:
     // The method's run as its table holds it, once the run has been written;
     // until then the values given.
     static QVariantMap runRow(const MethodModel *method, const QVariantMap &unwritten);
-    // The newest calibration of an electrode type: `id`, `avgSlope`, and
+    // The newest calibration of an electrode type: `id`, `avgSlope`, `mcreatedAt` and
     // `avgOffset`, the mean offset of its points (0 without points). Empty
     // when there is none.
     static QVariantMap lastCalibration(const QString &electrodeType);
@@ -34,6 +34,10 @@ public:
     static int insert(const LogLayout &layout, const QString &table, const LogSourceRows &rows, const char *errorText);
     // The values of one block of a stored row, by the source's column names.
     static QVariantMap blockValues(const LogLayout &layout, const QSqlRecord &row, LogBlock block);
+    // A run's stored calibration block with the average slope of that
+    // calibration, which the block has no column for (kept while the
+    // calibration is).
+    static QVariantMap storedCalibration(const LogLayout &layout, const QSqlRecord &row);
     // Loads the parts that exist in the layout from a stored row; a null
     // part is skipped.
     static void loadParts(const LogLayout &layout, const QSqlRecord &row, MethodModel *method,

@@ -303,12 +303,12 @@ QString crossProblem(const QVariantMap rows[PartCount], double buretteMl)
     } doses[] = {{TitrantPart, "preDoseTitrantVolume", "maxTotalVolume"},
                  {TitrationPart, "preDoseTitrantVolume", "maxTotalTitrantVolume"}};
     for (const auto &d : doses) {
-        // A run stops at its maximum volume: none at all, or more than the
-        // burette can give, leaves nothing a run can do.
+        // A run stops at its maximum volume: none at all leaves nothing a
+        // run can do. More than the burette holds is a run that refills it
+        // (the field's own rule bounds it as the method screens do).
         const double max = num(d.part, d.max);
-        if (!(max > 0.0) || max > buretteMl)
-            return field(d.part, d.max) + QStringLiteral(": %1 mL is not above 0 and at most %2 mL (the burette's size)")
-                                              .arg(number(max), number(buretteMl));
+        if (!(max > 0.0))
+            return field(d.part, d.max) + QStringLiteral(": %1 mL is not above 0").arg(number(max));
         const double preDose = num(d.part, d.preDose);
         if (preDose > buretteMl)
             return field(d.part, d.preDose) + QStringLiteral(": %1 mL is more than the burette holds (%2 mL)")

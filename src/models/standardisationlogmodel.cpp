@@ -123,7 +123,7 @@ void StandardisationLogModel::loadFromRecord(const QSqlRecord &row)
     const LogLayout &l = layout();
     setId(row.value(QStringLiteral("id")).toInt());
     LogSnapshot::loadParts(l, row, m_method, m_electrode, m_titrant, nullptr);
-    setCalibrationValues(LogSnapshot::blockValues(l, row, LogBlock::Calibration));
+    setCalibrationValues(LogSnapshot::storedCalibration(l, row));
     setCalibrationCycleValues(LogSnapshot::blockValues(l, row, LogBlock::CalibrationPoint));
     setRunValues(LogSnapshot::blockValues(l, row, LogBlock::Run));
     setCreatedAt(row.value(QStringLiteral("logCreatedAt")).toDateTime());

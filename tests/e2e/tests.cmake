@@ -22,7 +22,7 @@ set_tests_properties(e2e_ui_runoffers PROPERTIES TIMEOUT 480)
 
 # The journeys: a new instrument from its first start through a chemist's
 # work, checked against the database (tests/e2e/ui/journeyNAME.ui).
-foreach(journey acidbase knownaddition redox)
+foreach(journey acidbase knownaddition redox factoryreset update)
   add_test(NAME e2e_journey_${journey} COMMAND ${CMAKE_CURRENT_LIST_DIR}/ui/run-ui-test.sh journey${journey})
   set_tests_properties(e2e_journey_${journey} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 480)
 endforeach()
