@@ -17,13 +17,13 @@ QString ScreenshotFolder::save(const QImage &image, USBDisk *disk, QString *erro
         *error = QStringLiteral("USB Device not connected");
         return QString();
     }
-    const QString stem = QStringLiteral("screenshot_") + Clock::now().toString(QStringLiteral("yyyyMMdd_hhmmss"));
-    QString name = stem + QStringLiteral(".png");
+    const QString stem = Clock::now().toString(QStringLiteral("dd_MM_yyyy_hh_mm_ss"));
+    QString name = stem + QStringLiteral(".jpg");
     for (int n = 2; dir.exists(name); ++n)
-        name = QStringLiteral("%1_%2.png").arg(stem).arg(n);
+        name = QStringLiteral("%1_%2.jpg").arg(stem).arg(n);
     const QString target = dir.absoluteFilePath(name);
     const QString temporary = target + QStringLiteral(".part");
-    const bool saved = image.save(temporary, "PNG") && dir.isUsable() && QFile::rename(temporary, target);
+    const bool saved = image.save(temporary, "JPG") && dir.isUsable() && QFile::rename(temporary, target);
     if (!saved) {
         QFile::remove(temporary);
         *error = QStringLiteral("the screenshot could not be written to the USB disk");

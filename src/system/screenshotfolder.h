@@ -6,8 +6,8 @@ class QImage;
 class USBDisk;
 
 // The screenshot folder of the memory stick, /VantorPro/Screenshots/: each
-// picture is a PNG named by the clock's time ("screenshot_20260101_120000.png",
-// "_2", "_3" when a name is taken), written under a temporary name and
+// picture is a JPEG named by the clock's time ("01_01_2026_12_00_00.jpg",
+// "_2", "_3" when a name is taken, never written over), written under a temporary name and
 // renamed once complete, while the stick is held.
 class ScreenshotFolder
 {

@@ -258,8 +258,8 @@ TEST_F(UsbDiskTest, ScreenshotsGoToTheScreenshotFolderUnderNamesOfTheirOwn)
     const QImage image(64, 48, QImage::Format_RGB32);
     const QString first = ScreenshotFolder::save(image, rm->usbDisk, &error);
     const QString second = ScreenshotFolder::save(image, rm->usbDisk, &error);
-    EXPECT_EQ(first.toStdString(), disk("VantorPro/Screenshots/screenshot_20260101_120001.png").toStdString());
-    EXPECT_EQ(second.toStdString(), disk("VantorPro/Screenshots/screenshot_20260101_120001_2.png").toStdString());
+    EXPECT_EQ(first.toStdString(), disk("VantorPro/Screenshots/01_01_2026_12_00_01.jpg").toStdString());
+    EXPECT_EQ(second.toStdString(), disk("VantorPro/Screenshots/01_01_2026_12_00_01_2.jpg").toStdString());
     EXPECT_EQ(QImage(second).size(), image.size());
     EXPECT_EQ(diskFiles().size(), 2) << "no temporary file is left";
 }
