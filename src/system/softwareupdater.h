@@ -35,7 +35,6 @@ public:
     static constexpr qint64 maxApplicationBytes = 512LL * 1024 * 1024;
     static constexpr qint64 maxFirmwareBytes = 8LL * 1024 * 1024;
     static constexpr int maxListedFiles = 200;
-    static constexpr int applicationCopyTimeoutMs = 30000;
 
     explicit SoftwareUpdater(USBDisk *disk, QObject *parent = nullptr);
     ~SoftwareUpdater() override;
@@ -97,10 +96,6 @@ signals:
     void restartRequested();
 
 private:
-    struct Candidate {
-        QString name;
-        qint64 bytes = 0;
-    };
     QString slaveVersion() const;
     void setProgress(int percent);
     void setChecking(bool on);
