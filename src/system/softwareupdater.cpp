@@ -184,9 +184,7 @@ void SoftwareUpdater::checkUSBForUpdates()
     setChecking(true);
 
     const QDir usb(USBDisk::mountPath());
-    const QFileInfoList found = usb.entryInfoList(
-        {QStringLiteral("Kestrum_V*"), QStringLiteral("KestrumSlave*.hex"), QStringLiteral("vantorProV400Updates*.swu")},
-        QDir::Files | QDir::NoSymLinks, QDir::Name);
+    const QFileInfoList found = usb.entryInfoList(UpdateVersion::fileFilters(), QDir::Files | QDir::NoSymLinks, QDir::Name);
     QStringList names;
     m_diskBytes.clear();
     for (const QFileInfo &info : found.mid(0, maxListedFiles)) {

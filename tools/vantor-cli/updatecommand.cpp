@@ -35,9 +35,7 @@ int UpdateCommand::run(const QStringList &args, QTextStream &out, QTextStream &e
         err << "vantor-cli update: no folder " << folder << "\n" << usage();
         return 2;
     }
-    const QStringList names = QDir(folder).entryList(
-        {QStringLiteral("Kestrum_V*"), QStringLiteral("KestrumSlave*.hex"), QStringLiteral("vantorProV400Updates*.swu")},
-        QDir::Files | QDir::NoSymLinks, QDir::Name);
+    const QStringList names = QDir(folder).entryList(UpdateVersion::fileFilters(), QDir::Files | QDir::NoSymLinks, QDir::Name);
     const QString running = UpdateVersion::applicationVersion(application);
     for (const QString &name : names) {
         const bool firmware = name.contains(QLatin1String("KestrumSlave"));
