@@ -106,7 +106,7 @@ bool ReportController::handleScreenShotImage()
 {
     auto *window = qobject_cast<QQuickWindow *>(m_window.data());
     QString error;
-    const QString file = ScreenshotFolder::save(window ? window->grabWindow() : QImage(), USBDisk::instance(), &error);
+    const QString file = ScreenshotFolder::save(window ? window->grabWindow() : QImage(), m_disk, &error);
     qDebug() << "ReportController: screenshot" << (file.isEmpty() ? error : file);
     return !file.isEmpty();
 }

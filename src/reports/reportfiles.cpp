@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 
 #include <cstdio>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -30,14 +31,14 @@ QString number(int logId)
     return QStringLiteral("%1").arg(logId, 3, 10, QLatin1Char('0'));
 }
 
-bool syncAndClose(QFile &file)
+bool closed(QFile &file)
 {
-    const bool ok = file.flush() && ::fsync(file.handle()) == 0;
+    const bool ok = file.flush();
     file.close();
     return ok && file.error() == QFileDevice::NoError;
 }
 
-bool copySynced(const QString &from, const QString &to)
+bool copy(const QString &from, const QString &to)
 {
     QFile in(from);
     QFile out(to);
@@ -48,7 +49,7 @@ bool copySynced(const QString &from, const QString &to)
         if (chunk.isEmpty() || out.write(chunk) != chunk.size())
             return false;
     }
-    return syncAndClose(out);
+    return closed(out);
 }
 } // namespace
 
@@ -109,16 +110,41 @@ QString ReportFiles::csvCell(const QString &text)
     return cell;
 }
 
+bool ReportFiles::publish(const QString &temporary, const QString &path)
+{
+    const int fd = ::open(QFile::encodeName(temporary).constData(), O_RDONLY);
+    const bool synced = fd >= 0 && ::fsync(fd) == 0;
+    if (fd >= 0)
+        ::close(fd);
+    if (!synced || std::rename(QFile::encodeName(temporary).constData(), QFile::encodeName(path).constData()) != 0) {
+        QFile::remove(temporary);
+        return false;
+    }
+    return true;
+}
+
 bool ReportFiles::writeFile(const QString &path, const QByteArray &bytes)
 {
     const QString temporary = path + QStringLiteral(".part");
     QFile out(temporary);
-    const bool written = out.open(QIODevice::WriteOnly | QIODevice::Truncate) && out.write(bytes) == bytes.size()
-        && syncAndClose(out);
-    if (!written || std::rename(QFile::encodeName(temporary).constData(), QFile::encodeName(path).constData()) != 0) {
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(bytes) != bytes.size() || !closed(out)) {
         QFile::remove(temporary);
         return false;
     }
+    return publish(temporary, path);
+}
+
+bool ReportFiles::moveFile(const QString &from, const QString &to)
+{
+    // The target of the same name is replaced in one step, never removed first.
+    const QString temporary = to + QStringLiteral(".part");
+    if (!copy(from, temporary)) {
+        QFile::remove(temporary);
+        return false;
+    }
+    if (!publish(temporary, to))
+        return false;
+    QFile::remove(from);
     return true;
 }
 
@@ -134,18 +160,10 @@ QStringList ReportFiles::moveAll(const QDir &from, const QString &to, QStringLis
     for (const QString &name : names) {
         if (name.endsWith(QLatin1String(".part")))
             continue;
-        const QString finalPath = target.absoluteFilePath(name);
-        const QString temporary = finalPath + QStringLiteral(".part");
-        // The target of the same name is replaced in one step, never removed first.
-        const bool ok = copySynced(from.absoluteFilePath(name), temporary)
-            && std::rename(QFile::encodeName(temporary).constData(), QFile::encodeName(finalPath).constData()) == 0;
-        if (!ok) {
-            QFile::remove(temporary);
+        if (moveFile(from.absoluteFilePath(name), target.absoluteFilePath(name)))
+            moved.append(name);
+        else
             failed->append(name);
-            continue;
-        }
-        QFile::remove(from.absoluteFilePath(name));
-        moved.append(name);
     }
     return moved;
 }

@@ -32,8 +32,18 @@ QString methodFileName(const QString &serial, const QDateTime &time, const QStri
 // apostrophe; a cell holding a comma, a quote or a line end is quoted.
 QString csvCell(const QString &text);
 
+// Puts a finished temporary file in place: synced to the medium, then
+// renamed over `path` in one step (the old file or the new, never neither).
+// The temporary is removed when it fails; false then.
+bool publish(const QString &temporary, const QString &path);
+
 // Writes a whole file through a temporary name; false when it failed.
 bool writeFile(const QString &path, const QByteArray &bytes);
+
+// Moves one file across file systems: copied to a temporary name beside
+// `to`, published over it, and only then removed from `from`; false (and
+// `from` kept) when the copy or the rename failed.
+bool moveFile(const QString &from, const QString &to);
 
 // Moves every file of `from` into `to` (made when missing): each is copied
 // to a temporary name beside its target, synced, renamed over the target

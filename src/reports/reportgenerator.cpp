@@ -10,6 +10,8 @@
 #include <QJsonArray>
 #include <QTextStream>
 
+#include <functional>
+
 namespace {
 const QString typeMark = QStringLiteral("*****");
 const QString mkaType = QStringLiteral("ISE-MKA");
@@ -75,6 +77,24 @@ Curves curvesOf(const QString &graph)
     return c;
 }
 
+// Paints a PDF under a temporary name and puts it in place in one step;
+// the path written, or "" when it failed.
+QString writePdf(const QString &path, const QString &model, const std::function<void(ReportPdf &)> &paint)
+{
+    const QString temporary = path + QStringLiteral(".part");
+    {
+        ReportPdf pdf(temporary, model);
+        if (!pdf.isOpen())
+            return QString();
+        paint(pdf);
+        if (!pdf.finish()) {
+            QFile::remove(temporary);
+            return QString();
+        }
+    }
+    return ReportFiles::publish(temporary, path) ? path : QString();
+}
+
 QString csvLine(const QStringList &cells)
 {
     QStringList out;
@@ -114,11 +134,7 @@ QString ReportGenerator::createTitrationPdf(const StoredReport &report) const
         return QString();
     if (!run.ok)
         qDebug() << "Report: the stored text of" << report.reportType << report.logId << "does not parse";
-    const QString temporary = path + QStringLiteral(".part");
-    {
-        ReportPdf pdf(temporary, m_model);
-        if (!pdf.isOpen())
-            return QString();
+    return writePdf(path, m_model, [&](ReportPdf &pdf) {
         pdf.title(isStandardisation(report) ? QStringLiteral("Report: Standardization Results")
                                             : QStringLiteral("Report: Titration Results"));
         for (const QJsonValue &v : run.method) {
@@ -172,14 +188,7 @@ QString ReportGenerator::createTitrationPdf(const StoredReport &report) const
                 pdf.row(row.longHeading, row.value);
         }
         pdf.rule(pdf.y());
-        if (!pdf.finish())
-            return QString();
-    }
-    if (!QFile::exists(temporary) || (QFile::exists(path) && !QFile::remove(path)) || !QFile::rename(temporary, path)) {
-        QFile::remove(temporary);
-        return QString();
-    }
-    return path;
+    });
 }
 
 QString ReportGenerator::runText(const StoredReport &report, Form form, bool forPrinter)
@@ -255,11 +264,7 @@ QString ReportGenerator::createCalMeasurePdf(const StoredReport &report) const
     if (path.isEmpty())
         return QString();
     const QJsonArray rows = ReportRows::parseMeter(report.reportString);
-    const QString temporary = path + QStringLiteral(".part");
-    {
-        ReportPdf pdf(temporary, m_model);
-        if (!pdf.isOpen())
-            return QString();
+    return writePdf(path, m_model, [&](ReportPdf &pdf) {
         pdf.title(isCalibration(report) ? QStringLiteral("Report: Calibration Results") : QStringLiteral("Report: Measurement Results"),
                   16, 75, 128);
         // Rows carry their own y; a row past the page's end goes to the top
@@ -278,14 +283,7 @@ QString ReportGenerator::createCalMeasurePdf(const StoredReport &report) const
             pdf.text(a.at(1).toDouble(), y, a.at(0).toString());
             pdf.text(a.at(4).toDouble(), y, a.at(3).toVariant().toString());
         }
-        if (!pdf.finish())
-            return QString();
-    }
-    if (!QFile::exists(temporary) || (QFile::exists(path) && !QFile::remove(path)) || !QFile::rename(temporary, path)) {
-        QFile::remove(temporary);
-        return QString();
-    }
-    return path;
+    });
 }
 
 QString ReportGenerator::meterText(const StoredReport &report, bool forPrinter) const

@@ -72,6 +72,23 @@ QString SoftwareUpdater::bundledFirmwareDir()
     return Platform::path(QStringLiteral("/usr/share/kestrum"));
 }
 
+QStringList SoftwareUpdater::updateFilesIn(const QDir &folder, QHash<QString, qint64> *bytes)
+{
+    const QFileInfoList found = folder.entryInfoList(UpdateVersion::fileFilters(), QDir::Files | QDir::NoSymLinks, QDir::Name);
+    QStringList names;
+    for (const QFileInfo &info : found.mid(0, maxListedFiles)) {
+        const qint64 limit = info.fileName().contains(kFirmwareMarker) ? maxFirmwareBytes : maxApplicationBytes;
+        if (info.size() > limit && !info.fileName().contains(kSystemMarker)) {
+            qDebug() << "SW Updater: left out, more than" << limit << "bytes:" << info.fileName();
+            continue;
+        }
+        names << info.fileName();
+        if (bytes)
+            bytes->insert(info.fileName(), info.size());
+    }
+    return names;
+}
+
 QString SoftwareUpdater::slaveVersion() const
 {
     return m_slaveVersion ? m_slaveVersion() : QString();
@@ -184,20 +201,8 @@ void SoftwareUpdater::checkUSBForUpdates()
     setChecking(true);
 
     const QDir usb(USBDisk::mountPath());
-    const QFileInfoList found = usb.entryInfoList(
-        {QStringLiteral("Kestrum_V*"), QStringLiteral("KestrumSlave*.hex"), QStringLiteral("vantorProV400Updates*.swu")},
-        QDir::Files | QDir::NoSymLinks, QDir::Name);
-    QStringList names;
     m_diskBytes.clear();
-    for (const QFileInfo &info : found.mid(0, maxListedFiles)) {
-        const qint64 limit = info.fileName().contains(kFirmwareMarker) ? maxFirmwareBytes : maxApplicationBytes;
-        if (info.size() > limit && !info.fileName().contains(kSystemMarker)) {
-            qDebug() << "SW Updater: left out, more than" << limit << "bytes:" << info.fileName();
-            continue;
-        }
-        names << info.fileName();
-        m_diskBytes.insert(info.fileName(), info.size());
-    }
+    const QStringList names = updateFilesIn(usb, &m_diskBytes);
     qDebug() << "Potential Files Found:" << names.join(QStringLiteral(", "));
 
     const UpdateVersion::Choice choice = UpdateVersion::choose(names, m_applicationVersion ? m_applicationVersion() : QString(), slaveVersion());

@@ -35,7 +35,6 @@ public:
     static constexpr qint64 maxApplicationBytes = 512LL * 1024 * 1024;
     static constexpr qint64 maxFirmwareBytes = 8LL * 1024 * 1024;
     static constexpr int maxListedFiles = 200;
-    static constexpr int applicationCopyTimeoutMs = 30000;
 
     explicit SoftwareUpdater(USBDisk *disk, QObject *parent = nullptr);
     ~SoftwareUpdater() override;
@@ -65,6 +64,11 @@ public:
     QString workDir() const { return m_workDir.absolutePath(); }
     // The folder of the firmware that came with the application.
     static QString bundledFirmwareDir();
+    // The update files of a folder as the check takes them, sorted by name:
+    // at most maxListedFiles, a firmware over maxFirmwareBytes or an
+    // application over maxApplicationBytes left out (logged); `bytes`, when
+    // given, gets each name's size.
+    static QStringList updateFilesIn(const QDir &folder, QHash<QString, qint64> *bytes = nullptr);
 
     // What the flash tool's standard error says: the status and the
     // progress it sets (unchanged when the text says nothing of them).
@@ -97,10 +101,6 @@ signals:
     void restartRequested();
 
 private:
-    struct Candidate {
-        QString name;
-        qint64 bytes = 0;
-    };
     QString slaveVersion() const;
     void setProgress(int percent);
     void setChecking(bool on);

@@ -74,3 +74,8 @@ UpdateVersion::Choice UpdateVersion::choose(const QStringList &names, const QStr
     }
     return choice;
 }
+
+QStringList UpdateVersion::fileFilters()
+{
+    return {QStringLiteral("Kestrum_V*"), QStringLiteral("KestrumSlave*.hex"), QStringLiteral("vantorProV400Updates*.swu")};
+}

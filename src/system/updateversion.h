@@ -34,4 +34,6 @@ public:
         QString systemImage;
     };
     static Choice choose(const QStringList &names, const QString &applicationBuild, const QString &slaveVersion);
+    // The name patterns of the files an update folder is searched for.
+    static QStringList fileFilters();
 };

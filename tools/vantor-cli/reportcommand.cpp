@@ -3,6 +3,7 @@
 #include "controller/reportcontroller.h"
 #include "models/setupmodel.h"
 #include "productidentity.h"
+#include "reports/reportfiles.h"
 #include "sandboxsession.h"
 
 #include <QDate>
@@ -146,8 +147,7 @@ int ReportCommand::run(const QStringList &args, QTextStream &out, QTextStream &e
     int failures = 0;
     for (const QString &staged : outcome.filesWritten) {
         const QString target = QDir(outDir).absoluteFilePath(QFileInfo(staged).fileName());
-        QFile::remove(target);
-        if (QFile::copy(staged, target) && QFile::remove(staged)) {
+        if (ReportFiles::moveFile(staged, target) && !QFile::exists(staged)) {
             out << target << "\n";
         } else {
             err << "vantor-cli report: " << target << " not written\n";

@@ -1,5 +1,6 @@
 #include "updatecommand.h"
 
+#include "system/softwareupdater.h"
 #include "system/updateversion.h"
 
 #include <QDir>
@@ -10,7 +11,8 @@ QString UpdateCommand::usage()
     return QStringLiteral("usage: vantor-cli update FOLDER [--application BUILD] [--slave VERSION]\n"
                           "  Lists the update files in FOLDER (a USB disk's root) with their versions, and which\n"
                           "  the instrument would take: one line each \"KIND NAME VERSION newer|not newer\", then\n"
-                          "  \"chosen: ...\". Nothing is copied or installed.\n"
+                          "  \"chosen: ...\". Files the instrument leaves out (too large, past the 200th) are not\n"
+                          "  listed. Nothing is copied or installed.\n"
                           "  --application BUILD  the running program's build (default: this build, V" KESTRUM_VERSION ")\n"
                           "  --slave VERSION      the slave's firmware version (default 0.0: any firmware is newer)\n");
 }
@@ -35,9 +37,8 @@ int UpdateCommand::run(const QStringList &args, QTextStream &out, QTextStream &e
         err << "vantor-cli update: no folder " << folder << "\n" << usage();
         return 2;
     }
-    const QStringList names = QDir(folder).entryList(
-        {QStringLiteral("Kestrum_V*"), QStringLiteral("KestrumSlave*.hex"), QStringLiteral("vantorProV400Updates*.swu")},
-        QDir::Files | QDir::NoSymLinks, QDir::Name);
+    // The files the instrument's check takes: oversized ones are left out there too.
+    const QStringList names = SoftwareUpdater::updateFilesIn(QDir(folder));
     const QString running = UpdateVersion::applicationVersion(application);
     for (const QString &name : names) {
         const bool firmware = name.contains(QLatin1String("KestrumSlave"));
