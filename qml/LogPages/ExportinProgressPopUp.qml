@@ -31,8 +31,6 @@ PopupBackground {
 
     function cancel() {
         tick.stop()
-        if (typeof reportController.removeExportFile === "function")
-            reportController.removeExportFile()
         mainWindow.hidePopup()
     }
 

@@ -58,8 +58,10 @@ bool ProgramInstaller::install(const QString &source, const QString &target, qin
     out.close();
     if (copied != in.size() || QFileInfo(temp).size() != in.size())
         return failed(temp, why, QStringLiteral("%1 is %2 bytes instead of %3").arg(temp).arg(QFileInfo(temp).size()).arg(in.size()));
-    out.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner | QFileDevice::ReadGroup
-                       | QFileDevice::ExeGroup | QFileDevice::ReadOther | QFileDevice::ExeOther);
+    if (!out.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner
+                            | QFileDevice::ReadGroup | QFileDevice::ExeGroup | QFileDevice::ReadOther
+                            | QFileDevice::ExeOther))
+        return failed(temp, why, QStringLiteral("cannot make %1 executable: %2").arg(temp, out.errorString()));
     QString notProgram;
     if (!Platform::isProgramForThisBoard(temp, &notProgram))
         return failed(temp, why, QStringLiteral("%1 is %2").arg(QFileInfo(source).fileName(), notProgram));
