@@ -1,5 +1,7 @@
 #include "models/objectlistmodel.h"
 
+#include <QQmlEngine>
+
 ObjectListModel::ObjectListModel(QObject *parent)
     : QAbstractListModel(parent)
 {
@@ -24,7 +26,13 @@ QHash<int, QByteArray> ObjectListModel::roleNames() const
 
 QObject *ObjectListModel::get(int row) const
 {
-    return row >= 0 && row < m_objects.size() ? m_objects.at(row).data() : nullptr;
+    QObject *object = row >= 0 && row < m_objects.size() ? m_objects.at(row).data() : nullptr;
+    // An object without a parent handed to a script becomes the script
+    // engine's, which deletes it at its next garbage collection: the rows
+    // stay their filler's.
+    if (object)
+        QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
+    return object;
 }
 
 void ObjectListModel::append(QObject *object)

@@ -6,6 +6,7 @@
 #include "models/logcapacity.h"
 #include "models/measurementlogmodel.h"
 #include "models/methodmodel.h"
+#include "models/objectlistmodel.h"
 #include "models/reportmodel.h"
 #include "models/standardisationlogmodel.h"
 #include "models/titrantsetupmodel.h"
@@ -14,6 +15,9 @@
 #include "system/clock.h"
 #include "testdatabase.h"
 
+#include <QCoreApplication>
+#include <QQmlEngine>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QSqlQuery>
 #include <gtest/gtest.h>
@@ -514,3 +518,27 @@ TEST_F(LogModels, MeasurementLogSaysSavedUnlessItWarns)
 }
 
 } // namespace
+
+// The log screens read a list's rows by get(i) from a script; the rows have
+// no parent and must survive the script engine's garbage collection.
+TEST(ObjectListModelRows, ARowReadByAScriptStaysTheListsAfterACollection)
+{
+    auto *row = new QObject;
+    row->setObjectName(QStringLiteral("entry"));
+    ObjectListModel rows;
+    rows.append(row);
+    QPointer<QObject> watch(row);
+    {
+        QQmlEngine engine;
+        engine.globalObject().setProperty(QStringLiteral("rows"), engine.newQObject(&rows));
+        QQmlEngine::setObjectOwnership(&rows, QQmlEngine::CppOwnership);
+        EXPECT_EQ(engine.evaluate(QStringLiteral("(function() { var n = ''; for (var i = 0; i < 100; ++i) n = rows.get(0).objectName; return n; })()")).toString(),
+                  QStringLiteral("entry"));
+        engine.evaluate(QStringLiteral("(function() { for (var i = 0; i < 100000; ++i) ({ a: [i] }); })()"));
+        engine.collectGarbage();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    ASSERT_FALSE(watch.isNull());
+    EXPECT_EQ(rows.get(0), row);
+    delete row;
+}
