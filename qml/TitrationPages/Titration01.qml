@@ -176,8 +176,12 @@ MainContentBackground {
                         spacing: 4
                         Text { text: modelData.name; color: Colors.slateColor; font.pixelSize: 13 }
                         Text {
+                            // A long name ("Multiple Known Addition") gets a
+                            // smaller size before it is cut.
                             width: parent.width
                             elide: Text.ElideRight
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 12
                             text: modelData.value
                             color: Colors.deeptangaroaColor
                             font.pixelSize: 16
