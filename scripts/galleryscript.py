@@ -3,8 +3,9 @@
 
 expand GALLERY.ui OUT.ui: the script with its includes written out, every
 `shot NAME.png` of an included script renamed SCRIPT-NAME.png.
-index DRIVER.log OUT.html: the index page of the pictures, in the order they
-were taken (the driver's `shot FILE` lines), under the script they came from.
+index DRIVER.log... OUT.html: the index page of the pictures, in the order they
+were taken (the driver's `shot FILE` lines of each log in turn), under the
+script they came from.
 """
 import html
 import os
@@ -28,13 +29,14 @@ def expand(path, depth, lines):
             lines.append(line)
 
 
-def index(log, out):
+def index(logs, out):
     shots = []
-    for line in open(log, encoding="utf-8", errors="replace"):
-        if line.startswith("shot "):
-            name = os.path.basename(line[5:].strip())
-            if name not in shots:
-                shots.append(name)
+    for log in logs:
+        for line in open(log, encoding="utf-8", errors="replace"):
+            if line.startswith("shot "):
+                name = os.path.basename(line[5:].strip())
+                if name not in shots:
+                    shots.append(name)
     # by the script they came from (the stem up to its first dash), in the order taken
     groups = {}
     for name in shots:
@@ -55,14 +57,14 @@ def index(log, out):
 
 
 def main():
-    if len(sys.argv) != 4 or sys.argv[1] not in ("expand", "index"):
-        sys.exit("usage: galleryscript.py expand GALLERY.ui OUT.ui | index DRIVER.log OUT.html")
+    if len(sys.argv) < 4 or sys.argv[1] not in ("expand", "index") or (sys.argv[1] == "expand" and len(sys.argv) != 4):
+        sys.exit("usage: galleryscript.py expand GALLERY.ui OUT.ui | index DRIVER.log... OUT.html")
     if sys.argv[1] == "expand":
         lines = []
         expand(sys.argv[2], 0, lines)
         open(sys.argv[3], "w", encoding="utf-8").write("\n".join(lines) + "\n")
     else:
-        index(sys.argv[2], sys.argv[3])
+        index(sys.argv[2:-1], sys.argv[-1])
 
 
 if __name__ == "__main__":

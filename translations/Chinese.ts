@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. 安装电极支架杆</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>设置 | 第 7 步，共 13 步</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. 调整电极支架头并插入电极</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>设置 | 第 8 步，共 13 步</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. 安装滴定管和盖子</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>设置 | 第 9 步，共 13 步</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. 连接试剂瓶支架</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>设置 | 第 10 步，共 13 步</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. 将彩色编码管连接到阀门
+ 端口和各部件。</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>设置 | 第 11 步，共 13 步</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. 将电极和电源连接到
+ 标注的输入口</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>设置 | 第 12 步，共 13 步</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>开始新的滴定</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>多次标准加入</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ characters.</source>
         <message>
             <source>Your measurement has been saved</source>
             <translation>测量已保存</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. 安装电极支架杆</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>设置 | 第 7 步，共 13 步</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. 调整电极支架头并插入电极</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>设置 | 第 8 步，共 13 步</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. 安装滴定管和盖子</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>设置 | 第 9 步，共 13 步</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. 连接试剂瓶支架</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>设置 | 第 10 步，共 13 步</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. 将彩色编码管连接到阀门
- 端口和各部件。</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>设置 | 第 11 步，共 13 步</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. 将电极和电源连接到
- 标注的输入口</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>设置 | 第 12 步，共 13 步</translation>
         </message>
         <message>
             <source>Burette</source>

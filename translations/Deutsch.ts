@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. Befestigen Sie die Stange des Elektrodenhalters</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>Einrichtung | Schritt 7 von 13</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. Justieren Sie den Kopf des Elektrodenhalters und setzen Sie die Elektroden ein</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>Einrichtung | Schritt 8 von 13</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. Setzen Sie die Bürette und die Abdeckung ein</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>Einrichtung | Schritt 9 von 13</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. Schließen Sie den Halter der Reagenzflasche an</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>Einrichtung | Schritt 10 von 13</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. Schließen Sie die farbcodierten Schläuche an die 
+ Ventilanschlüsse und Komponenten an.</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>Einrichtung | Schritt 11 von 13</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. Schließen Sie die Elektroden und das Netzteil an die 
+ beschrifteten Eingänge an</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>Einrichtung | Schritt 12 von 13</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>Neue Titration beginnen</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>Mehrfachaufstockung</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ Zeichen ein.</translation>
         <message>
             <source>Your measurement has been saved</source>
             <translation>Ihre Messung wurde gespeichert</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. Befestigen Sie die Stange des Elektrodenhalters</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>Einrichtung | Schritt 7 von 13</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. Justieren Sie den Kopf des Elektrodenhalters und setzen Sie die Elektroden ein</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>Einrichtung | Schritt 8 von 13</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. Setzen Sie die Bürette und die Abdeckung ein</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>Einrichtung | Schritt 9 von 13</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. Schließen Sie den Halter der Reagenzflasche an</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>Einrichtung | Schritt 10 von 13</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. Schließen Sie die farbcodierten Schläuche an die 
- Ventilanschlüsse und Komponenten an.</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>Einrichtung | Schritt 11 von 13</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. Schließen Sie die Elektroden und das Netzteil an die 
- beschrifteten Eingänge an</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>Einrichtung | Schritt 12 von 13</translation>
         </message>
         <message>
             <source>Burette</source>

@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. Attach the Electrode Holder Shaft</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>Setup | Step 7 of 13</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. Adjust the Electrode Holder Head and Insert Electrodes</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>Setup | Step 8 of 13</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. Install the Burette and Cover</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>Setup | Step 9 of 13</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. Connect the Reagent Bottle Holder</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>Setup | Step 10 of 13</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>Setup | Step 11 of 13</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>Setup | Step 12 of 13</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>Start a New Titration</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>Multiple Known Addition</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ characters.</translation>
         <message>
             <source>Your measurement has been saved</source>
             <translation>Your measurement has been saved</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. Attach the Electrode Holder Shaft</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>Setup | Step 7 of 13</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. Adjust the Electrode Holder Head and Insert Electrodes</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>Setup | Step 8 of 13</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. Install the Burette and Cover</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>Setup | Step 9 of 13</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. Connect the Reagent Bottle Holder</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>Setup | Step 10 of 13</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>Setup | Step 11 of 13</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>Setup | Step 12 of 13</translation>
         </message>
         <message>
             <source>Burette</source>

@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. Fixez la tige du porte-électrodes</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>Configuration | Étape 7 sur 13</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. Réglez la tête du porte-électrodes et insérez les électrodes</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>Configuration | Étape 8 sur 13</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. Installez la burette et son couvercle</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>Configuration | Étape 9 sur 13</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. Raccordez le support du flacon de réactif</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>Configuration | Étape 10 sur 13</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. Raccordez les tubes à code couleur aux ports 
+ de la vanne et aux composants.</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>Configuration | Étape 11 sur 13</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. Raccordez les électrodes et l'alimentation 
+ aux entrées indiquées</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>Configuration | Étape 12 sur 13</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>Nouveau titrage</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>Addition multiple connue</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ alphanumériques.</translation>
         <message>
             <source>Your measurement has been saved</source>
             <translation>Votre mesure a été enregistrée</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. Fixez la tige du porte-électrodes</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>Configuration | Étape 7 sur 13</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. Réglez la tête du porte-électrodes et insérez les électrodes</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>Configuration | Étape 8 sur 13</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. Installez la burette et son couvercle</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>Configuration | Étape 9 sur 13</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. Raccordez le support du flacon de réactif</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>Configuration | Étape 10 sur 13</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. Raccordez les tubes à code couleur aux ports 
- de la vanne et aux composants.</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>Configuration | Étape 11 sur 13</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. Raccordez les électrodes et l'alimentation 
- aux entrées indiquées</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>Configuration | Étape 12 sur 13</translation>
         </message>
         <message>
             <source>Burette</source>

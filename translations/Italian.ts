@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. Fissare l'asta del portaelettrodi</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>Configurazione | Passo 7 di 13</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. Regolare la testa del portaelettrodi e inserire gli elettrodi</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>Configurazione | Passo 8 di 13</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. Installare la buretta e il coperchio</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>Configurazione | Passo 9 di 13</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. Collegare il supporto della bottiglia del reagente</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>Configurazione | Passo 10 di 13</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. Collegare i tubi con codice colore alle porte 
+ della valvola e ai componenti.</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>Configurazione | Passo 11 di 13</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. Collegare gli elettrodi e l'alimentatore 
+ agli ingressi indicati</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>Configurazione | Passo 12 di 13</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>Nuova titolazione</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>Aggiunta multipla nota</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ alfanumerici.</translation>
         <message>
             <source>Your measurement has been saved</source>
             <translation>La misura è stata salvata</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. Fissare l'asta del portaelettrodi</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>Configurazione | Passo 7 di 13</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. Regolare la testa del portaelettrodi e inserire gli elettrodi</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>Configurazione | Passo 8 di 13</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. Installare la buretta e il coperchio</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>Configurazione | Passo 9 di 13</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. Collegare il supporto della bottiglia del reagente</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>Configurazione | Passo 10 di 13</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. Collegare i tubi con codice colore alle porte 
- della valvola e ai componenti.</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>Configurazione | Passo 11 di 13</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. Collegare gli elettrodi e l'alimentatore 
- agli ingressi indicati</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>Configurazione | Passo 12 di 13</translation>
         </message>
         <message>
             <source>Burette</source>

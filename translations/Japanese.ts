@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. 電極ホルダーのシャフトを取り付けます</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>セットアップ | ステップ 7/13</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. 電極ホルダーのヘッドを調整し、電極を差し込みます</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>セットアップ | ステップ 8/13</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. ビュレットとカバーを取り付けます</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>セットアップ | ステップ 9/13</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. 試薬ボトルホルダーを接続します</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>セットアップ | ステップ 10/13</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. 色分けされたチューブをバルブの
+ ポートと各部品に接続します。</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>セットアップ | ステップ 11/13</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. 電極と電源を
+ 表示された入力端子に接続します</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>セットアップ | ステップ 12/13</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>新しい滴定を開始</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>多重標準添加</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ characters.</source>
         <message>
             <source>Your measurement has been saved</source>
             <translation>測定を保存しました</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. 電極ホルダーのシャフトを取り付けます</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>セットアップ | ステップ 7/13</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. 電極ホルダーのヘッドを調整し、電極を差し込みます</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>セットアップ | ステップ 8/13</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. ビュレットとカバーを取り付けます</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>セットアップ | ステップ 9/13</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. 試薬ボトルホルダーを接続します</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>セットアップ | ステップ 10/13</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. 色分けされたチューブをバルブの
- ポートと各部品に接続します。</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>セットアップ | ステップ 11/13</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. 電極と電源を
- 表示された入力端子に接続します</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>セットアップ | ステップ 12/13</translation>
         </message>
         <message>
             <source>Burette</source>

@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. 전극 홀더 축을 부착하십시오</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>설정 | 13단계 중 7단계</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. 전극 홀더 헤드를 조정하고 전극을 끼우십시오</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>설정 | 13단계 중 8단계</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. 뷰렛과 덮개를 설치하십시오</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>설정 | 13단계 중 9단계</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. 시약병 홀더를 연결하십시오</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>설정 | 13단계 중 10단계</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. 색상 구분 튜브를 밸브 포트와 
+ 구성품에 연결하십시오.</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>설정 | 13단계 중 11단계</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. 전극과 전원 공급 장치를 
+ 표시된 입력 단자에 연결하십시오</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>설정 | 13단계 중 12단계</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>새 적정 시작</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>다중 표준 첨가</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ characters.</source>
         <message>
             <source>Your measurement has been saved</source>
             <translation>측정이 저장되었습니다</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. 전극 홀더 축을 부착하십시오</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>설정 | 13단계 중 7단계</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. 전극 홀더 헤드를 조정하고 전극을 끼우십시오</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>설정 | 13단계 중 8단계</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. 뷰렛과 덮개를 설치하십시오</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>설정 | 13단계 중 9단계</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. 시약병 홀더를 연결하십시오</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>설정 | 13단계 중 10단계</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. 색상 구분 튜브를 밸브 포트와 
- 구성품에 연결하십시오.</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>설정 | 13단계 중 11단계</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. 전극과 전원 공급 장치를 
- 표시된 입력 단자에 연결하십시오</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>설정 | 13단계 중 12단계</translation>
         </message>
         <message>
             <source>Burette</source>

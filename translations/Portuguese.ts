@@ -1046,6 +1046,61 @@
         </message>
     </context>
     <context>
+        <name>FirstStartStack</name>
+        <message>
+            <source>1. Attach the Electrode Holder Shaft</source>
+            <translation>1. Fixe a haste do suporte de elétrodos</translation>
+        </message>
+        <message>
+            <source>Setup | Step 7 of 13</source>
+            <translation>Configuração | Passo 7 de 13</translation>
+        </message>
+        <message>
+            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
+            <translation>2. Ajuste a cabeça do suporte de elétrodos e insira os elétrodos</translation>
+        </message>
+        <message>
+            <source>Setup | Step 8 of 13</source>
+            <translation>Configuração | Passo 8 de 13</translation>
+        </message>
+        <message>
+            <source>3. Install the Burette and Cover</source>
+            <translation>3. Instale a bureta e a tampa</translation>
+        </message>
+        <message>
+            <source>Setup | Step 9 of 13</source>
+            <translation>Configuração | Passo 9 de 13</translation>
+        </message>
+        <message>
+            <source>4. Connect the Reagent Bottle Holder</source>
+            <translation>4. Ligue o suporte do frasco de reagente</translation>
+        </message>
+        <message>
+            <source>Setup | Step 10 of 13</source>
+            <translation>Configuração | Passo 10 de 13</translation>
+        </message>
+        <message>
+            <source>5. Connect the Color-Coded Tubing to the valve 
+ ports and components.</source>
+            <translation>5. Ligue os tubos com código de cores às portas 
+ da válvula e aos componentes.</translation>
+        </message>
+        <message>
+            <source>Setup | Step 11 of 13</source>
+            <translation>Configuração | Passo 11 de 13</translation>
+        </message>
+        <message>
+            <source>6. Connect the Electrodes and Power Supply to 
+ the labeled inputs</source>
+            <translation>6. Ligue os elétrodos e a fonte de alimentação 
+ às entradas identificadas</translation>
+        </message>
+        <message>
+            <source>Setup | Step 12 of 13</source>
+            <translation>Configuração | Passo 12 de 13</translation>
+        </message>
+    </context>
+    <context>
         <name>Halvorn01</name>
         <message>
             <source>Welcome to your new titrator</source>
@@ -2842,6 +2897,10 @@
         <message>
             <source>Start a New Titration</source>
             <translation>Nova titulação</translation>
+        </message>
+        <message>
+            <source>Multiple Known Addition</source>
+            <translation>Adição múltipla conhecida</translation>
         </message>
     </context>
     <context>
@@ -4863,58 +4922,6 @@ alfanuméricos.</translation>
         <message>
             <source>Your measurement has been saved</source>
             <translation>A sua medição foi guardada</translation>
-        </message>
-        <message>
-            <source>1. Attach the Electrode Holder Shaft</source>
-            <translation>1. Fixe a haste do suporte de elétrodos</translation>
-        </message>
-        <message>
-            <source>Setup | Step 7 of 13</source>
-            <translation>Configuração | Passo 7 de 13</translation>
-        </message>
-        <message>
-            <source>2. Adjust the Electrode Holder Head and Insert Electrodes</source>
-            <translation>2. Ajuste a cabeça do suporte de elétrodos e insira os elétrodos</translation>
-        </message>
-        <message>
-            <source>Setup | Step 8 of 13</source>
-            <translation>Configuração | Passo 8 de 13</translation>
-        </message>
-        <message>
-            <source>3. Install the Burette and Cover</source>
-            <translation>3. Instale a bureta e a tampa</translation>
-        </message>
-        <message>
-            <source>Setup | Step 9 of 13</source>
-            <translation>Configuração | Passo 9 de 13</translation>
-        </message>
-        <message>
-            <source>4. Connect the Reagent Bottle Holder</source>
-            <translation>4. Ligue o suporte do frasco de reagente</translation>
-        </message>
-        <message>
-            <source>Setup | Step 10 of 13</source>
-            <translation>Configuração | Passo 10 de 13</translation>
-        </message>
-        <message>
-            <source>5. Connect the Color-Coded Tubing to the valve 
- ports and components.</source>
-            <translation>5. Ligue os tubos com código de cores às portas 
- da válvula e aos componentes.</translation>
-        </message>
-        <message>
-            <source>Setup | Step 11 of 13</source>
-            <translation>Configuração | Passo 11 de 13</translation>
-        </message>
-        <message>
-            <source>6. Connect the Electrodes and Power Supply to 
- the labeled inputs</source>
-            <translation>6. Ligue os elétrodos e a fonte de alimentação 
- às entradas identificadas</translation>
-        </message>
-        <message>
-            <source>Setup | Step 12 of 13</source>
-            <translation>Configuração | Passo 12 de 13</translation>
         </message>
         <message>
             <source>Burette</source>

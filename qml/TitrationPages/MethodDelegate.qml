@@ -45,8 +45,10 @@ Flickable {
         color: nameArea.pressed ? Colors.zirconColor : Colors.whiteColor
         border.color: Colors.lineColor
         Text {
+            // The name stays where it stands while the row slides open, so
+            // the user sees which method the delete area is for.
             anchors.left: parent.left
-            anchors.leftMargin: 16
+            anchors.leftMargin: 16 + Math.max(0, row.contentX)
             anchors.right: lockMark.left
             anchors.rightMargin: 8
             anchors.verticalCenter: parent.verticalCenter

@@ -64,6 +64,13 @@ MainContentBackground {
         }
     }
 
+    // A known-addition method has no end-point technique of its own: the
+    // electrode's kind chooses its run, as the engine does.
+    function techniqueShown() {
+        return electrode.electrodeType === "ISE-MKA" ? qsTr("Multiple Known Addition") + ls.translatedText
+                                                     : titration.titrationTechnique
+    }
+
     function useSavedMethod() {
         sideBar.switchToMethods()
         methodStack.pop(titration21)
@@ -154,7 +161,7 @@ MainContentBackground {
                 model: [
                     { name: qsTr("Electrode") + ls.translatedText, value: electrode.electrodeName, id: "electrodeTile" },
                     { name: qsTr("Titrant") + ls.translatedText, value: page.titrantShownName(), id: "titrantTile" },
-                    { name: qsTr("Titration") + ls.translatedText, value: titration.titrationTechnique, id: "titrationTile" }
+                    { name: qsTr("Titration") + ls.translatedText, value: page.techniqueShown(), id: "titrationTile" }
                 ]
                 Rectangle {
                     objectName: modelData.id
@@ -169,8 +176,12 @@ MainContentBackground {
                         spacing: 4
                         Text { text: modelData.name; color: Colors.slateColor; font.pixelSize: 13 }
                         Text {
+                            // A long name ("Multiple Known Addition") gets a
+                            // smaller size before it is cut.
                             width: parent.width
                             elide: Text.ElideRight
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 12
                             text: modelData.value
                             color: Colors.deeptangaroaColor
                             font.pixelSize: 16

@@ -25,12 +25,18 @@ MainContentBackground {
         Text {
             width: parent.width
             elide: Text.ElideRight
-            text: titration01.titrantShownName() + "  " + qsTr("nominal") + ls.translatedText + " "
-                  + mainWindow.sigFigsDec(titrant.nominalConc, 4, 5) + " " + titrant.nominalConc_Unit
+            // A known-addition method's standard solution has the concentration
+            // entered with it, in the unit chosen there; no nominal figure.
+            text: electrode.electrodeType === "ISE-MKA"
+                  ? titration01.titrantShownName() + "  " + mainWindow.sigFigsDec(titrant.titrantConcentrationValue, 4, 5)
+                    + " " + titrant.titrantConcentration
+                  : titration01.titrantShownName() + "  " + qsTr("nominal") + ls.translatedText + " "
+                    + mainWindow.sigFigsDec(titrant.nominalConc, 4, 5) + " " + titrant.nominalConc_Unit
             color: Colors.deeptangaroaColor
             font.pixelSize: 18
         }
         Text {
+            visible: electrode.electrodeType !== "ISE-MKA"
             // The amount with the five decimals it is entered with, at most.
             text: qsTr("Standard") + ls.translatedText + ": " + qsTr(titrant.standAmount) + ls.translatedText
                   + (titrant.standAmount.indexOf("Fixed") === 0
