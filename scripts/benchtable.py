@@ -36,6 +36,7 @@ WHAT = {
     "BM_TemporalAddPoint": "temporal store: one sample (filter, derivatives, log)",
     "BM_VolumetricAddPoint": "volumetric store: one curve point (slope, peak search)",
     "BM_GetResultsFits": "stores: end-of-run peak search and cubic fits",
+    "BM_LopsidedBreakFit": "stores: end-of-run fit of a lopsided break (weak acid or base)",
     "BM_Fit5": "maths: one five-point cubic fit",
     "BM_VolumeAtValue": "maths: volume at a reading (end-point interpolation)",
     "BM_AlgorithmRunStep": "algorithm: one run() step, equivalence point, mean over whole runs",

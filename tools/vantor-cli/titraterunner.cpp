@@ -1,5 +1,7 @@
 #include "titraterunner.h"
 
+#include "reports/reportvalues.h"
+
 #include "appconstants.h"
 #include "beaker.h"
 #include "controller/burettecontroller.h"
@@ -400,7 +402,12 @@ void TitrateRunner::storeRun(DataManagerBase &dm)
     dm.attachLogModel(&entry);
     if (!RunWithLog::storeTitration(run, &entry, false, false))
         return;
-    entry.setAvgConc(m_outcome.storedResults.value(0, QStringLiteral("0")));
+    // The average as the summary screen stores it: each end point's result
+    // to four significant figures, joined by " | ".
+    QStringList averages;
+    for (int i = 0; i < found; ++i)
+        averages << ReportValues::sigFigsDec(double(results[i]));
+    entry.setAvgConc(averages.isEmpty() ? QStringLiteral("0") : averages.join(QStringLiteral(" | ")));
     entry.setRsd(QStringLiteral("0.00%"));
     entry.updateLog();
     dm.storeRunReport(&entry, QString());

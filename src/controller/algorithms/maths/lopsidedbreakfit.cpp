@@ -18,6 +18,11 @@ const double kMaxDecades = 6.0;
 const double kLowestLogB = -1.0;
 const double kHighestLogB = 7.0;
 const double kGridStep = 0.1;
+// The weighted passes look again only this far either side of the last
+// pass's best (the weights move b by far less than a decade).
+const double kRefineDecades = 1.0;
+// Golden-section steps: the bracket of 0.2 shrinks to about 1e-7 of a decade.
+const int kGoldenSteps = 30;
 // A point weighs at most this many times the median weight, so that the one
 // or two points on the steepest part do not carry the whole fit.
 const double kWeightCap = 25.0;
@@ -39,27 +44,31 @@ Coefficients row(double v, double g, double b)
 }
 
 // Weighted least squares of the linear part; answers the weighted sum of
-// squares of the volume's residuals (mL²).
+// squares of the volume's residuals (mL²). The three columns go into their
+// 3x3 normal equations, scaled to a unit diagonal (g spans decades), so a
+// solve allocates nothing and costs a pass over the points; the residuals
+// are summed point by point, not from the normal equations, so that nothing
+// cancels near the minimum.
 double solve(const Curve &c, double b, Coefficients &x)
 {
-    const int n = int(c.v.size());
-    Eigen::MatrixXd a(n, 3);
-    Eigen::VectorXd y(n);
-    for (int i = 0; i < n; ++i) {
-        const double s = std::sqrt(c.w[size_t(i)]);
-        a.row(i) = row(c.v[size_t(i)], c.g[size_t(i)], b).transpose() * s;
-        y(i) = c.v[size_t(i)] * s;
+    const size_t n = c.v.size();
+    Eigen::Matrix3d normal = Eigen::Matrix3d::Zero();
+    Coefficients rhs = Coefficients::Zero();
+    for (size_t i = 0; i < n; ++i) {
+        const Coefficients r = row(c.v[i], c.g[i], b);
+        normal.noalias() += c.w[i] * r * r.transpose();
+        rhs += c.w[i] * c.v[i] * r;
     }
-    // Columns scaled to unit length: g spans decades.
     Coefficients scale;
-    for (int k = 0; k < 3; ++k) {
-        const double norm = a.col(k).norm();
-        scale(k) = norm > 0.0 ? 1.0 / norm : 1.0;
-        a.col(k) *= scale(k);
+    for (int k = 0; k < 3; ++k)
+        scale(k) = normal(k, k) > 0.0 ? 1.0 / std::sqrt(normal(k, k)) : 1.0;
+    const Eigen::Matrix3d scaled = scale.asDiagonal() * normal * scale.asDiagonal();
+    x = scale.cwiseProduct(scaled.colPivHouseholderQr().solve(scale.cwiseProduct(rhs)));
+    double rss = 0.0;
+    for (size_t i = 0; i < n; ++i) {
+        const double r = row(c.v[i], c.g[i], b).dot(x) - c.v[i];
+        rss += c.w[i] * r * r;
     }
-    const Eigen::VectorXd z = a.colPivHouseholderQr().solve(y);
-    x = z.cwiseProduct(scale);
-    const double rss = (a * z - y).squaredNorm();
     return std::isfinite(rss) ? rss : std::numeric_limits<double>::infinity();
 }
 
@@ -72,12 +81,13 @@ void residual(const Coefficients &x, double b, double v, double g, double slopeM
     dEdV = std::abs(slopeMv / (std::log(10.0) * g * dVdg));
 }
 
-// The best log10 b: grid, then golden section round the best node.
-double searchSharpness(const Curve &c)
+// The best log10 b within [lowest, highest]: grid, then golden section
+// round the best node.
+double searchSharpness(const Curve &c, double lowest, double highest)
 {
     Coefficients x;
-    double best = kLowestLogB, bestRss = std::numeric_limits<double>::infinity();
-    for (double l = kLowestLogB; l <= kHighestLogB + 1e-9; l += kGridStep) {
+    double best = lowest, bestRss = std::numeric_limits<double>::infinity();
+    for (double l = lowest; l <= highest + 1e-9; l += kGridStep) {
         const double rss = solve(c, std::pow(10.0, l), x);
         if (rss < bestRss) {
             bestRss = rss;
@@ -88,7 +98,7 @@ double searchSharpness(const Curve &c)
     double lo = best - kGridStep, hi = best + kGridStep;
     double p = hi - ratio * (hi - lo), q = lo + ratio * (hi - lo);
     double fp = solve(c, std::pow(10.0, p), x), fq = solve(c, std::pow(10.0, q), x);
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < kGoldenSteps; ++i) {
         if (fp < fq) {
             hi = q;
             q = p;
@@ -136,7 +146,7 @@ bool LopsidedBreakFit::fit(const VolumeSeries &store, double inflection, double 
 
     // First unweighted; then each point weighted by the model's slope there
     // squared, so that the residuals are those of the potential.
-    double logB = searchSharpness(c);
+    double logB = searchSharpness(c, kLowestLogB, kHighestLogB);
     Coefficients x;
     for (int pass = 0; pass < 2; ++pass) {
         solve(c, std::pow(10.0, logB), x);
@@ -153,7 +163,8 @@ bool LopsidedBreakFit::fit(const VolumeSeries &store, double inflection, double 
             return false;
         for (int i = 0; i < n; ++i)
             c.w[size_t(i)] = std::min(w[size_t(i)], cap) / cap;
-        logB = searchSharpness(c);
+        logB = searchSharpness(c, std::max(kLowestLogB, logB - kRefineDecades),
+                               std::min(kHighestLogB, logB + kRefineDecades));
     }
     const double b = std::pow(10.0, logB);
     solve(c, b, x);
