@@ -257,6 +257,16 @@ void DataManagerBase::startLogFetch(const QString &process)
     m_logLists->start(process);
 }
 
+QVariantList DataManagerBase::logReportIds(int log) const
+{
+    QVariantList ids;
+    if (log < LogTables::Titration || log > LogTables::Measurement)
+        return ids;
+    for (int id : LogTables::reportIds(LogTables::Log(log)))
+        ids << id;
+    return ids;
+}
+
 void DataManagerBase::getTitrationLogListFromDb()
 {
     m_logLists->tickTitration();

@@ -227,6 +227,10 @@ public slots:
     // Loads a log list for the screens, one row per event-loop turn:
     // "TITRATION", "STANDARDIZATION", "CALIBRATION" or "MEASUREMENT".
     void startLogFetch(const QString &process);
+    // The report numbers of a log (1 titration, 2 standardisation, 3
+    // calibration, 4 measurement), newest first, read from the database: an
+    // export or print does not wait for the log's list on the screen.
+    QVariantList logReportIds(int log) const;
     // The timer ticks of the four log lists: one row each.
     void getTitrationLogListFromDb();
     void getStandardizationLogListFromDb();

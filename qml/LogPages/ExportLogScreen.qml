@@ -54,15 +54,6 @@ MainContentBackground {
         exportDateRange.open(page, from, from ? fromDate : toDate)
     }
 
-    // The ids a log's report rows are stored under, newest first: the
-    // entry's, a calibration's own.
-    function idsOf(list, key) {
-        var ids = []
-        for (var i = 0; list && i < list.count; ++i)
-            ids.push(list.get(i)[key || "id"])
-        return ids
-    }
-
     function config() {
         return {
             exportOf: logs[exportOf.currentIndex],
@@ -75,7 +66,7 @@ MainContentBackground {
             lastDays: days.current < 3 ? ["10", "30", "60"][days.current] : "",
             fromDate: fromDate,
             toDate: toDate,
-            ids: [idsOf(dm.titrationLogList), idsOf(dm.standLogList), idsOf(dm.calibratoinLogList, "calId"), idsOf(dm.measures)]
+            ids: [dm.logReportIds(1), dm.logReportIds(2), dm.logReportIds(3), dm.logReportIds(4)]
         }
     }
 

@@ -80,6 +80,21 @@ int LogTables::rowCount(Log log)
     return ok ? n : -1;
 }
 
+QList<int> LogTables::reportIds(Log log)
+{
+    QList<int> ids;
+    const QString table = logTableOf(log);
+    if (table.isEmpty() || !DbUtil::tableExists(table))
+        return ids;
+    const QString column = log == Calibration ? QStringLiteral("calibration_Id") : QStringLiteral("id");
+    QSqlQuery q;
+    if (!q.exec(QStringLiteral("SELECT %1 FROM %2 ORDER BY datetime(logCreatedAt) DESC, id DESC").arg(column, table)))
+        return ids;
+    while (q.next())
+        ids << q.value(0).toInt();
+    return ids;
+}
+
 bool LogTables::emptyTable(const QString &table)
 {
     if (!DbUtil::tableExists(table))

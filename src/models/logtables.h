@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 // Counting and emptying the four run logs (titration, standardisation,
@@ -15,6 +16,10 @@ public:
     static bool anyLogRow();
     // Rows of one log; -1 for a log that cannot be counted.
     static int rowCount(Log log);
+    // The numbers a log's report rows go by, newest entry first: the
+    // entry's id, a calibration's own id for the calibration log. Empty for
+    // a log that cannot be read.
+    static QList<int> reportIds(Log log);
 
     // Each empties its log in one unit; false (and the log whole) on failure.
     static bool deleteTitrationLog();

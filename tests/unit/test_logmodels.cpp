@@ -4,6 +4,7 @@
 #include "models/calibrationlogmodel.h"
 #include "models/electrodesetupmodel.h"
 #include "models/logcapacity.h"
+#include "models/logtables.h"
 #include "models/measurementlogmodel.h"
 #include "models/methodmodel.h"
 #include "models/objectlistmodel.h"
@@ -298,6 +299,10 @@ TEST_F(LogModels, ListsAreNewestFirstByTheLogTime)
     EXPECT_EQ(calibrations[1]->id(), d);
     EXPECT_EQ(calibrations[0]->electrodeType(), "pH");
     EXPECT_DOUBLE_EQ(calibrations[0]->calibrationValues().value(QStringLiteral("avgSlope")).toDouble(), 98.5);
+    // An export reads the same order from the database, the calibration
+    // log by its calibrations' own numbers.
+    EXPECT_EQ(LogTables::reportIds(LogTables::Measurement), ids);
+    EXPECT_EQ(LogTables::reportIds(LogTables::Calibration), (QList<int>{calibrations[0]->calId(), calibrations[1]->calId()}));
 }
 
 TEST_F(LogModels, AReadingIsStoredWithItsStabilityState)
