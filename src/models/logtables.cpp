@@ -5,6 +5,7 @@
 #include "models/calibrationmodel.h"
 #include "models/dbtransaction.h"
 #include "models/dbutil.h"
+#include "models/logsnapshot.h"
 #include "models/measurementlogmodel.h"
 #include "models/reportmodel.h"
 #include "models/standardisationlogmodel.h"
@@ -88,7 +89,7 @@ QList<int> LogTables::reportIds(Log log)
         return ids;
     const QString column = log == Calibration ? QStringLiteral("calibration_Id") : QStringLiteral("id");
     QSqlQuery q;
-    if (!q.exec(QStringLiteral("SELECT %1 FROM %2 ORDER BY datetime(logCreatedAt) DESC, id DESC").arg(column, table)))
+    if (!q.exec(LogSnapshot::newestFirstSql(table, column)))
         return ids;
     while (q.next())
         ids << q.value(0).toInt();
